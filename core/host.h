@@ -1,0 +1,90 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/numbers.h"
+
+namespace veldox {
+
+enum class Icon { None, Information, Warning, Question, Error };
+enum class Button { OK, Cancel, Yes, No };
+
+/// A message box. The first button is the default one.
+struct Message {
+  Icon icon = Icon::Information;
+  std::string title;
+  std::string text;
+  std::vector<Button> buttons{Button::OK};
+};
+
+/// A question for a file name. The filter is written "Name (*.x)|*.x|Name2 (*.y)|*.y";
+/// the index of the chosen entry counts from 1.
+struct FileDialog {
+  enum class Kind { Open, Save };
+  Kind kind = Kind::Open;
+  std::string filter;
+  int filterIndex = 1;
+  std::filesystem::path folder;
+};
+
+struct FontChoice {
+  std::string name;
+  int size = 0;
+  bool bold = false;
+  bool italic = false;
+};
+
+struct ScreenSize {
+  int width = 0;   ///< pixels
+  int height = 0;  ///< pixels
+  int dpi = 96;
+};
+
+/// A moment of the local clock.
+struct ClockTime {
+  int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
+};
+
+/// All that the program asks of the world. The windows answer with real dialogs,
+/// a script with prepared answers.
+class Host {
+ public:
+  Host() = default;
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+  virtual ~Host() = default;
+
+  /// Shows a message box and waits for the answer.
+  virtual Button Ask(const Message& message) = 0;
+  /// Asks for a file; nothing when the dialog was cancelled. Saving over an existing
+  /// file has been confirmed when this returns.
+  virtual std::optional<std::filesystem::path> AskFile(const FileDialog& dialog) = 0;
+  virtual std::optional<FontChoice> AskFont() = 0;
+  /// The chosen colour as red + 256 * green + 65536 * blue.
+  virtual std::optional<std::int32_t> AskColor() = 0;
+  virtual ClockTime Now() = 0;
+  /// The decimal separator of the system's settings.
+  virtual DecimalMark SystemDecimalMark() = 0;
+  /// Where the start-up file, user tables and marker files lie and dialogs begin.
+  virtual std::filesystem::path ProgramFolder() = 0;
+  virtual ScreenSize MeasureScreen() = 0;
+  /// Shows or ends the hourglass.
+  virtual void SetBusy(bool busy) = 0;
+};
+
+/// Keeps the hourglass on while it lives.
+class BusyCursor {
+ public:
+  explicit BusyCursor(Host& host) : host_(host) { host_.SetBusy(true); }
+  ~BusyCursor() { host_.SetBusy(false); }
+  BusyCursor(const BusyCursor&) = delete;
+  BusyCursor& operator=(const BusyCursor&) = delete;
+
+ private:
+  Host& host_;
+};
+
+}  // namespace veldox

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/parameter_block.h"
+
+namespace veldox {
+
+/// How a key's record is written.
+enum class KeyForm {
+  Comment,         ///< a comment line that stands in the file as it is
+  Number,          ///< FormatSmart of the value, always
+  NumberOrField,   ///< the value; when it is 0 the owning field's text; else "0.0"
+  Integer,         ///< the value by "0"
+  IntegerOrField,  ///< as NumberOrField by "0"
+  FieldText,       ///< the owning field's text, "0.0" when it is empty
+  FieldLiteral,    ///< the same for a field whose text is no number
+  Text,            ///< a text such as a font's name
+  YesNo,           ///< "Yes" or "No"
+  OnOff,           ///< "ON" or "OFF"
+  Table,           ///< one line for each row of an array
+};
+
+/// How the lines of an array look.
+enum class TableForm {
+  None,
+  Fields,          ///< KEY = v by FormatField, one line an element
+  Smart,           ///< the same by FormatSmart
+  Pairs,           ///< KEY = lift flow
+  GearIndexed,     ///< KEY n = v
+  GearChangeRpm,   ///< KEY a-b = v, v by "0"
+  GearChangeTime,  ///< KEY a-b = v
+  NitrousStages,   ///< KEY = five numbers
+};
+
+/// The member of the block that a key names. Arrays are seen as rows of doubles.
+using KeyMember =
+    std::variant<std::monostate, double ParameterBlock::*, std::int16_t ParameterBlock::*,
+                 std::int32_t ParameterBlock::*, std::string ParameterBlock::*>;
+
+/// One key of the parameter file.
+struct KeyRow {
+  std::string_view key;  ///< the comment line itself in rows of form Comment
+  KeyForm form = KeyForm::Comment;
+  KeyMember member;
+  /// The screen, and where it is built the control, whose text stands in for the value.
+  std::string_view owner;
+  TableForm tableForm = TableForm::None;
+  /// One number of an array by row and column; null for other keys.
+  /// Throws std::out_of_range beyond the bounds.
+  double& (*cell)(ParameterBlock&, int row, int column) = nullptr;
+  int firstRow = 0;  ///< the first row that has a line
+  int rows = 0;      ///< rows of the array, those before the first line counted
+  int rowWidth = 1;  ///< numbers in a row
+};
+
+/// All keys in the order of the file.
+std::span<const KeyRow> KeyTable();
+
+/// The row of a key, without regard to case; null when there is none. Comments are no keys.
+const KeyRow* FindKey(std::string_view key);
+
+/// The value of a key as a plain text: numbers in their shortest form.
+/// @param index  row of an array key
+std::string KeyValueText(const KeyRow& row, ParameterBlock& block, int index);
+
+}  // namespace veldox

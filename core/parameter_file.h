@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/key_table.h"
+#include "core/screen.h"
+
+namespace veldox {
+
+/// Writes and reads the parameter file: `key = value` lines for every shared value,
+/// the options and the notes, from the one key table.
+class ParameterFile {
+ public:
+  /// Finds a control by "Form1.Text3"; null when its screen is not there.
+  using ControlFinder = std::function<Control*(std::string_view)>;
+
+  explicit ParameterFile(ProgramContext& context) : context_(context) {}
+
+  /// Looks up the owning control of every key, once all screens are there, and ties
+  /// boxes and option groups to their switches.
+  void BindOwners(const ControlFinder& find);
+
+  struct Written {
+    std::string bytes;
+    int records = 0;  ///< lines plus one, the notes as one record
+  };
+  /// The whole file as text.
+  Written Compose() const;
+
+  /// Composes and saves. @return the count of records
+  /// @throws CommandError (File)
+  int Write(const std::filesystem::path& path) const;
+
+  /// Reads a file into the block and the fields that show its values. Everything that is
+  /// wrong with it is told in boxes; what was read before stays. @return the records read
+  int ReadParameterFile(const std::filesystem::path& path);
+
+  /// The same for the bytes of a file, with the name that messages tell.
+  int ReadBytes(std::string_view bytes, const std::string& fileName);
+
+ private:
+  class Reader;
+
+  ProgramContext& context_;
+  std::vector<Control*> owners_;  // one for each row of the key table
+};
+
+}  // namespace veldox

@@ -1,0 +1,403 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/error.h"
+#include "core/field_rules.h"
+#include "core/host.h"
+#include "core/numbers.h"
+#include "core/parameter_block.h"
+#include "core/units.h"
+
+namespace veldox {
+
+class Control;
+class Frame;
+class Screen;
+
+/// What every screen works with: the shared values, the rules of fields, the world.
+struct ProgramContext {
+  explicit ProgramContext(Host& h) : host(h), rules(block, h) {}
+  ProgramContext(const ProgramContext&) = delete;
+  ProgramContext& operator=(const ProgramContext&) = delete;
+
+  DecimalMark mark() const {
+    return block.DecimalCommaMode != 0 ? DecimalMark::Comma : DecimalMark::Point;
+  }
+
+  Host& host;
+  ParameterBlock block;
+  FieldRules rules;
+};
+
+/// Told by a control that something of it has changed, so that a window can follow.
+class ControlFace {
+ public:
+  virtual ~ControlFace() = default;
+  virtual void ControlChanged(Control& control) = 0;
+  /// The control asks for the keyboard focus.
+  virtual void FocusRequested(Control& control) = 0;
+};
+
+enum class ControlKind {
+  Field,
+  Label,
+  CheckBox,
+  OptionGroup,
+  OptionButton,
+  ComboList,
+  Command,
+  Frame,
+  ReportBox,
+  TextArea,
+};
+
+/// How a field stands out until the next command.
+enum class Mark { None, Changed, Error };
+
+/// Base of all that stands on a screen. A control has the name of its declaration,
+/// a caption (for a field: its label), a help sentence and a face that may be absent.
+class Control {
+ public:
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+
+  ControlKind kind() const { return kind_; }
+  const std::string& name() const { return name_; }
+  const std::string& caption() const { return caption_; }
+  const std::string& help() const { return help_; }
+  /// The caption without access key signs, as messages quote it.
+  std::string PlainCaption() const;
+  bool visible() const { return visible_; }
+  bool enabled() const { return enabled_; }
+  /// Visible, and so is the frame it stands in.
+  bool Shown() const;
+  Mark mark() const { return mark_; }
+  Screen& screen() const { return screen_; }
+  /// The frame it stands in; null for a frame.
+  Frame* frame() const { return frame_; }
+
+  void SetCaption(std::string caption);
+  void SetHelp(std::string help);
+  void SetVisible(bool visible);
+  void SetEnabled(bool enabled);
+  void SetMark(Mark mark);
+  void SetFace(ControlFace* face) { face_ = face; }
+  /// Takes the keyboard focus.
+  void Focus();
+
+ protected:
+  Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
+          std::string help);
+  void Changed();
+
+ private:
+  Screen& screen_;
+  Frame* frame_;
+  ControlKind kind_;
+  std::string name_;
+  std::string caption_;
+  std::string help_;
+  ControlFace* face_ = nullptr;
+  bool visible_ = true;
+  bool enabled_ = true;
+  Mark mark_ = Mark::None;
+};
+
+/// A titled group of controls.
+class Frame : public Control {
+ public:
+  /// @param column  column of the window the frame stands in, from 0; frames of a
+  ///                column stand under each other in the order of declaration
+  Frame(Screen& screen, std::string name, std::string caption, int column = 0);
+
+  const std::vector<Control*>& controls() const { return controls_; }
+  int column() const { return column_; }
+
+ private:
+  friend class Control;
+  std::vector<Control*> controls_;
+  int column_;
+};
+
+/// Base of the controls that hold a text.
+class TextControl : public Control {
+ public:
+  const std::string& text() const { return text_; }
+  void SetText(std::string text);
+  /// The text changed under the user's hands.
+  void Edit(std::string text);
+  KeyRule rule() const { return rule_; }
+  LeaveCheck leaveCheck() const { return leaveCheck_; }
+  /// Runs a typed key through the field's rule; 0 when it is refused.
+  char32_t FilterKey(char32_t key);
+  /// True when entering has to select all of the text.
+  bool Enter();
+  /// Runs the check on losing the focus; false when the field keeps the focus.
+  bool Leave();
+
+ protected:
+  TextControl(Frame& frame, ControlKind kind, std::string name, std::string caption,
+              std::string text, KeyRule rule, std::string help);
+  void SetLeaveCheck(LeaveCheck check) { leaveCheck_ = check; }
+
+ private:
+  std::string text_;
+  KeyRule rule_;
+  LeaveCheck leaveCheck_ = LeaveCheck::None;
+};
+
+/// A one-line text box that holds a number as the user sees it.
+class Field : public TextControl {
+ public:
+  Field(Frame& frame, std::string name, std::string label, std::string defaultText, KeyRule rule,
+        Unit unit = Unit::None, std::string help = {}, LeaveCheck check = LeaveCheck::None);
+
+  Unit unit() const { return unit_; }
+  /// Options of the main window: typing in them is no change of the data.
+  bool isOption() const { return isOption_; }
+  void SetIsOption() { isOption_ = true; }
+
+ private:
+  Unit unit_;
+  bool isOption_ = false;
+};
+
+/// Free text over several lines (notes).
+class TextArea : public TextControl {
+ public:
+  TextArea(Frame& frame, std::string name, std::string label);
+};
+
+/// The pane that shows a report; also the help place of screens without one of their own.
+class ReportBox : public TextControl {
+ public:
+  ReportBox(Frame& frame, std::string name);
+};
+
+class Label : public Control {
+ public:
+  Label(Frame& frame, std::string name, std::string caption);
+};
+
+/// A member function of a screen that runs when one of its controls is clicked.
+using ScreenHandler = void (Screen::*)();
+
+class Command : public Control {
+ public:
+  template <class S>
+  Command(Frame& frame, std::string name, std::string caption, std::string help,
+          void (S::*handler)())
+      : Command(frame, std::move(name), std::move(caption), std::move(help)) {
+    handler_ = static_cast<ScreenHandler>(handler);
+  }
+  /// A command whose work is not built yet: it is there, disabled.
+  Command(Frame& frame, std::string name, std::string caption, std::string help);
+
+  /// Runs the command as the screen's Click does; nothing when it cannot be clicked.
+  void Click();
+
+ private:
+  ScreenHandler handler_ = nullptr;
+};
+
+class CheckBox : public Control {
+ public:
+  template <class S>
+  CheckBox(Frame& frame, std::string name, std::string caption, std::string help,
+           void (S::*handler)())
+      : CheckBox(frame, std::move(name), std::move(caption), std::move(help)) {
+    handler_ = static_cast<ScreenHandler>(handler);
+  }
+  CheckBox(Frame& frame, std::string name, std::string caption, std::string help = {});
+
+  bool on() const { return on_; }
+  /// Sets the state without running the handler.
+  void SetOn(bool on);
+  /// Turns the box over and runs its handler; when the handler fails, the box turns back.
+  void Click();
+  /// Keeps a switch of the shared values in step with the box.
+  void Bind(std::int16_t& slot);
+
+ private:
+  ScreenHandler handler_ = nullptr;
+  std::int16_t* slot_ = nullptr;
+  bool on_ = false;
+};
+
+class OptionGroup;
+
+/// One button of an option group; `Option1(3)` has the index 3.
+class OptionButton : public Control {
+ public:
+  OptionButton(OptionGroup& group, int index, std::string caption, std::string help);
+  int index() const { return index_; }
+  OptionGroup& group() const { return group_; }
+  bool on() const;
+  void Click();
+
+ private:
+  OptionGroup& group_;
+  int index_;
+};
+
+/// A row of buttons of which one is chosen.
+class OptionGroup : public Control {
+ public:
+  struct Choice {
+    int index;
+    const char* caption;
+    const char* help;
+    bool visible = true;
+  };
+  OptionGroup(Frame& frame, std::string name, std::string caption,
+              std::initializer_list<Choice> choices, int chosen = 0, int buttonsInRow = 1);
+
+  int chosen() const { return chosen_; }
+  /// False when the group has no button of that index; nothing changes then.
+  bool Choose(int index);
+  const std::vector<std::unique_ptr<OptionButton>>& buttons() const { return buttons_; }
+  int buttonsInRow() const { return buttonsInRow_; }
+  void Bind(std::int16_t& slot);
+
+ private:
+  std::vector<std::unique_ptr<OptionButton>> buttons_;
+  std::int16_t* slot_ = nullptr;
+  int chosen_;
+  int buttonsInRow_;
+};
+
+/// A drop-down list of rows.
+class ComboList : public Control {
+ public:
+  ComboList(Frame& frame, std::string name, std::string caption);
+  const std::vector<std::string>& rows() const { return rows_; }
+  void SetRows(std::vector<std::string> rows);
+  /// Index of the chosen row, -1 for none.
+  int chosen() const { return chosen_; }
+  void Choose(int row);
+
+ private:
+  std::vector<std::string> rows_;
+  int chosen_ = -1;
+};
+
+/// Told when a screen opens or closes.
+class ScreenFace {
+ public:
+  virtual ~ScreenFace() = default;
+  virtual void ScreenVisibilityChanged(Screen& screen) = 0;
+};
+
+/// One calculator form. A derived class has its controls as members under their
+/// control names, in reading order; they register themselves here.
+class Screen {
+ public:
+  Screen(ProgramContext& context, std::string name, std::string title, std::string tag);
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+  virtual ~Screen();
+
+  const std::string& name() const { return name_; }
+  const std::string& title() const { return title_; }
+  /// Short tag for the names of saved pictures.
+  const std::string& tag() const { return tag_; }
+  ProgramContext& context() const { return context_; }
+  ParameterBlock& block() const { return context_.block; }
+  DecimalMark mark() const { return context_.mark(); }
+
+  const std::vector<Frame*>& frames() const { return frames_; }
+  /// All controls in reading order, frames and option buttons among them.
+  const std::vector<Control*>& controls() const { return controls_; }
+  Control* Find(std::string_view name) const;
+
+  bool visible() const { return visible_; }
+  void SetVisible(bool visible);
+  void SetFace(ScreenFace* face) { face_ = face; }
+
+  /// Copies the shared values into the fields that show them.
+  virtual void CopyFromBlock() {}
+  /// The screen's "Metric" box, null where it has none.
+  virtual CheckBox* MetricBox() { return nullptr; }
+  /// Where help sentences go.
+  virtual Control* HelpPlace() { return nullptr; }
+  /// Where reports go, null where the screen has none.
+  virtual ReportBox* ReportPane() { return nullptr; }
+  /// What belongs to closing beyond hiding the window.
+  virtual void Closed() {}
+  /// True while the fields show metric units.
+  bool metric() const { return metricShown_; }
+
+  /// Closes the screen as its "&Quit" button does.
+  void Quit();
+
+  /// The pointer stands over a control (null: over the background).
+  void Hover(Control* control);
+
+  /// Runs a command: marks of the last one go, and whatever it throws is shown in one
+  /// box that names the control. False when it ended by an error or a Cancel.
+  bool Perform(const std::function<void()>& command);
+
+  /// Empties every text box (Clear).
+  virtual void ClearFields();
+  /// Puts the comma into default texts (the first "." of each).
+  void ConvertDefaultsToComma();
+
+  /// The control that has the keyboard focus, null for none.
+  Control* focus() const { return focus_; }
+  /// Moves the focus without asking a face; the check of the field that is left runs
+  /// first and may keep it. False when it was kept.
+  bool MoveFocus(Control* control);
+
+ protected:
+  /// Parses a field. @throws CommandError (NotANumber) that names the field.
+  double Read(Field& field) const;
+  void ReadInto(double& slot, Field& field) const { slot = Read(field); }
+  /// Parses a field into a 16-bit count. @throws CommandError (Overflow) as well
+  void ReadCount(std::int16_t& slot, Field& field) const;
+
+  /// The fields a formula divides by, so that an error can name the one that is 0.
+  using DividesBy = std::initializer_list<Field*>;
+
+  /// Stores a result and shows it in its field by FormatField. Refuses what is no
+  /// finite number, and any division by zero or overflow since the command began.
+  void Store(double& slot, Field& field, double value, DividesBy divisors = {});
+  /// The same for a result without a slot.
+  void Show(Field& field, double value, DividesBy divisors = {});
+  /// Shows a result in a pattern other than the fields' own.
+  template <PatternText Pattern>
+  void ShowAs(Field& field, double value, DividesBy divisors = {}) {
+    RequireResult(field, value, divisors);
+    ShowText(field, FormatValue<Pattern>(value, mark()));
+  }
+  /// Throws unless the value is finite and no division by zero or overflow has
+  /// happened since the command began.
+  void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
+  void ShowText(TextControl& field, std::string text);
+  void SetMetricShown(bool metric);
+
+ private:
+  friend class Control;
+  friend class Frame;
+  void Report(const CommandError& error);
+
+  ProgramContext& context_;
+  std::string name_;
+  std::string title_;
+  std::string tag_;
+  std::vector<Frame*> frames_;
+  std::vector<Control*> controls_;
+  ScreenFace* face_ = nullptr;
+  Control* focus_ = nullptr;
+  bool visible_ = false;
+  bool metricShown_ = false;
+};
+
+}  // namespace veldox

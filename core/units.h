@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string_view>
+
+namespace veldox {
+
+inline constexpr double kMillimetresPerInch = 25.4;
+inline constexpr double kMetresPerFoot = 0.3048;
+inline constexpr double kFeetPerMetre = 3.280839895;
+inline constexpr double kCubicInchesPerCc = 0.061023744;
+inline constexpr double kKilowattsPerHorsepower = 0.745701;
+
+/// What a field measures; the face shows the unit's sign beside it.
+enum class Unit {
+  None,
+  Length,
+  Area,
+  Volume,
+  PistonSpeed,
+  SurfaceSpeed,
+  Power,
+  Degrees,
+  Grams,
+  RevolutionsPerMinute,
+};
+
+/// The sign of a unit as shown beside a field, in inches or in metric mode.
+constexpr std::string_view UnitSign(Unit unit, bool metric) {
+  switch (unit) {
+    case Unit::None:
+      return "";
+    case Unit::Length:
+      return metric ? "mm" : "in";
+    case Unit::Area:
+      return metric ? "sq mm" : "sq in";
+    case Unit::Volume:
+      return metric ? "cc" : "cu in";
+    case Unit::PistonSpeed:
+      return metric ? "m/min" : "ft/min";
+    case Unit::SurfaceSpeed:
+      return metric ? "m/s" : "ft/s";
+    case Unit::Power:
+      return metric ? "kW" : "HP";
+    case Unit::Degrees:
+      return "deg";
+    case Unit::Grams:
+      return "g";
+    case Unit::RevolutionsPerMinute:
+      return "RPM";
+  }
+  return "";
+}
+
+}  // namespace veldox
