@@ -96,9 +96,12 @@ class Control {
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
+  /// Tells the face.
   void Changed();
 
  private:
+  friend class OptionGroup;
+  friend class Screen;
   Screen& screen_;
   Frame* frame_;
   ControlKind kind_;
@@ -222,7 +225,8 @@ class CheckBox : public Control {
   /// Sets the state without running the handler.
   void SetOn(bool on);
   /// Turns the box over and runs its handler; when the handler fails, the box turns back.
-  void Click();
+  /// False when it cannot be clicked or its handler failed.
+  bool Click();
   /// Keeps a switch of the shared values in step with the box.
   void Bind(std::int16_t& slot);
 
@@ -387,6 +391,7 @@ class Screen {
   friend class Control;
   friend class Frame;
   void Report(const CommandError& error);
+  void TakeFocus(Control* control);
 
   ProgramContext& context_;
   std::string name_;
