@@ -385,6 +385,11 @@ class Screen {
   /// happened since the command began.
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
   void ShowText(TextControl& field, std::string text);
+  /// Ends the command unless a condition on a field's value holds; the message follows the
+  /// field's label. @throws CommandError (InvalidArgument)
+  static void Require(bool holds, Field& field, const char* message) {
+    if (!holds) throw CommandError(ErrorKind::InvalidArgument, message, &field);
+  }
   void SetMetricShown(bool metric);
 
  private:
