@@ -359,6 +359,9 @@ class Screen {
   /// Moves the focus without asking a face; the check of the field that is left runs
   /// first and may keep it. False when it was kept.
   bool MoveFocus(Control* control);
+  /// Where the tab key goes from a control: the next one in reading order that takes the
+  /// keyboard, round to the first. Null when there is no other.
+  Control* NextInTabOrder(const Control& from) const;
 
  protected:
   /// Parses a field. @throws CommandError (NotANumber) that names the field.

@@ -190,8 +190,8 @@ constexpr LauncherItem kLauncher[] = {
     {"Weather and Reference", "WEATHER", "Weather Correction"},
     {"Weather and Reference", "UNIT", "Unit Conversion"},
     {"Weather and Reference", "EQUIV", "Equivalence Charts"},
-    {"Graphs", "GRAPHER", "Grapher"},
-    {"Graphs", "About", "About VELDOX"},
+    {"Graphs and About", "GRAPHER", "Grapher"},
+    {"Graphs and About", "About", "About VELDOX"},
 };
 // clang-format on
 
