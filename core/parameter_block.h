@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -24,7 +25,7 @@ using TorqueColumn = std::array<double, kTorqueRows>;
 /// A torque or road column that starts with the eleven rows of a new block.
 constexpr TorqueColumn StartColumn(const std::array<double, 11>& rows) {
   TorqueColumn column{};
-  for (int i = 0; i < 11; ++i) column[i] = rows[i];
+  for (std::size_t i = 0; i < rows.size(); ++i) column[i] = rows[i];
   return column;
 }
 
