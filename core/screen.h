@@ -96,9 +96,12 @@ class Control {
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
+  /// Tells the face.
   void Changed();
 
  private:
+  friend class OptionGroup;
+  friend class Screen;
   Screen& screen_;
   Frame* frame_;
   ControlKind kind_;
@@ -222,7 +225,8 @@ class CheckBox : public Control {
   /// Sets the state without running the handler.
   void SetOn(bool on);
   /// Turns the box over and runs its handler; when the handler fails, the box turns back.
-  void Click();
+  /// False when it cannot be clicked or its handler failed.
+  bool Click();
   /// Keeps a switch of the shared values in step with the box.
   void Bind(std::int16_t& slot);
 
@@ -381,12 +385,18 @@ class Screen {
   /// happened since the command began.
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
   void ShowText(TextControl& field, std::string text);
+  /// Ends the command unless a condition on a field's value holds; the message follows the
+  /// field's label. @throws CommandError (InvalidArgument)
+  static void Require(bool holds, Field& field, const char* message) {
+    if (!holds) throw CommandError(ErrorKind::InvalidArgument, message, &field);
+  }
   void SetMetricShown(bool metric);
 
  private:
   friend class Control;
   friend class Frame;
   void Report(const CommandError& error);
+  void TakeFocus(Control* control);
 
   ProgramContext& context_;
   std::string name_;

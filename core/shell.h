@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,9 +20,9 @@ enum class MenuKind { Submenu, Separator, Screen, Action };
 struct MenuItem {
   std::string_view name;
   std::string_view caption;
-  std::string_view parent;  ///< the submenu it stands in, empty for the bar
+  std::string_view parent{};  ///< the submenu it stands in, empty for the bar
   MenuKind kind = MenuKind::Action;
-  std::string_view screen;  ///< the screen it opens
+  std::string_view screen{};  ///< the screen it opens
   void (Shell::*action)() = nullptr;
 };
 
@@ -90,7 +90,7 @@ class Shell : public Screen {
   const std::string& VersionLine() const { return versionLine_; }
   const std::string& DateLine() const { return dateLine_; }
   ParameterFile& parameterFile() { return parameterFile_; }
-  TitleAnimation& title_animation() { return titleAnimation_; }
+  TitleAnimation& titleAnimation() { return titleAnimation_; }
   Control* HelpPlace() override { return &Label77; }
   void ClearFields() override;
 
@@ -113,12 +113,13 @@ class Shell : public Screen {
   void ProbeFullScreenFile();
   void InitParameterBlock();
   void ReadStartUpFile();
-  void ShowFileName();
   void SaveNotes();
   void DropNotes();
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
-  std::optional<std::filesystem::path> AskParameterFile(FileDialog::Kind kind);
+  std::filesystem::path AskParameterFile(FileDialog::Kind kind);
+  void ShowFile(const std::filesystem::path& path, int records, const char* done);
+  void TellMenuChanged();
 
   std::vector<Screen*> screens_;
   ShellFace* shellFace_ = nullptr;
@@ -127,6 +128,8 @@ class Shell : public Screen {
   std::string versionLine_;
   std::string dateLine_;
   bool ended_ = false;
+  int widthLimit_ = 0;   ///< pixels a screen may be scaled to
+  int heightLimit_ = 0;  ///< pixels a screen may be scaled to
 
  public:
   // The title, its name line for the parameter file, and the help line

@@ -1,0 +1,175 @@
+#include "core/field_rules.h"
+
+#include <algorithm>
+
+#include "core/screen.h"
+
+namespace veldox {
+
+namespace {
+
+bool IsControlKey(char32_t key) {
+  return key >= 8 && key <= 13;
+}
+
+bool IsDigit(char32_t key) {
+  return key >= U'0' && key <= U'9';
+}
+
+bool Holds(std::string_view text, char c) {
+  return text.find(c) != std::string_view::npos;
+}
+
+/// The text without the signs that are no digits of a number.
+std::string WithoutSigns(std::string_view text) {
+  std::string rest;
+  std::copy_if(text.begin(), text.end(), std::back_inserter(rest),
+               [](char c) { return c != '-' && c != '.' && c != ','; });
+  return rest;
+}
+
+}  // namespace
+
+void FieldRules::BuildMessages() {
+  const bool comma = block_.DecimalCommaMode != 0;
+  const std::string mark = comma ? "one comma" : "one period";
+  messages_.MsgNumbersOnly = "NOTE: This field only accepts Numbers";
+  messages_.MsgNumbersAndPoint =
+      messages_.MsgNumbersOnly + "\r\n" +
+      (comma ? "and one comma (Decimal Point)!" : "and one period (Decimal Point)!");
+  messages_.MsgNumbersPointMinus =
+      messages_.MsgNumbersOnly + "\r\n" + mark + " (Decimal Point) and one Minus Sign!";
+  messages_.MsgOutputOnly = "NOTE: This field is for Output Only!";
+  messages_.MsgNotBlank = "Note: This field can not be blank.";
+  messages_.MsgNotBlankOrZero =
+      "Note: This field can not be blank and must have a value of other than zero.";
+}
+
+char32_t FieldRules::MarkKey() const {
+  return block_.DecimalCommaMode != 0 ? U',' : U'.';
+}
+
+void FieldRules::Warn(const std::string& text) {
+  host_.Ask({Icon::Warning, messages_.MessageTitle, text, {Button::OK}});
+}
+
+void FieldRules::NoteChange() {
+  if (block_.OptionFieldActive != 1) block_.DataChanged = 1;
+}
+
+void FieldRules::Filter(KeyRule rule, std::string_view text, char32_t& key) {
+  switch (rule) {
+    case KeyRule::AnyText:
+      NoteChange();
+      break;
+    case KeyRule::OutputOnly:
+      KeyOutputOnly(key);
+      break;
+    case KeyRule::Digits:
+      KeyDigits(key);
+      break;
+    case KeyRule::UnsignedReal:
+      KeyUnsignedReal(text, key);
+      break;
+    case KeyRule::SignedReal:
+      KeySignedReal(text, key);
+      break;
+    case KeyRule::SignedDigits:
+      KeySignedDigits(text, key);
+      break;
+  }
+}
+
+void FieldRules::KeyOutputOnly(char32_t& key) {
+  if (!IsControlKey(key)) key = 0;
+  NoteChange();
+}
+
+void FieldRules::KeyDigits(char32_t& key) {
+  if (!IsControlKey(key) && !IsDigit(key)) key = 0;
+  NoteChange();
+}
+
+void FieldRules::KeyUnsignedReal(std::string_view text, char32_t& key) {
+  if (key == MarkKey()) {
+    // The search is for the point in both modes; a second comma shows when the field is read.
+    if (Holds(text, '.')) {
+      key = 0;
+      Warn(messages_.MsgNumbersAndPoint);
+    }
+  } else if (!IsControlKey(key) && !IsDigit(key)) {
+    key = 0;
+  }
+  NoteChange();
+}
+
+void FieldRules::KeySignedReal(std::string_view text, char32_t& key) {
+  if (key == MarkKey() || key == U'-') {
+    if (Holds(text, key == U'-' ? '-' : '.')) {
+      key = 0;
+      Warn(messages_.MsgNumbersPointMinus);
+    }
+  } else if (!IsControlKey(key) && !IsDigit(key)) {
+    key = 0;
+  }
+  NoteChange();
+}
+
+void FieldRules::KeySignedDigits(std::string_view text, char32_t& key) {
+  if (key == U'-') {
+    if (Holds(text, '-')) key = 0;
+  } else if (!IsControlKey(key) && !IsDigit(key)) {
+    key = 0;
+  }
+  NoteChange();
+}
+
+bool FieldRules::FieldGotFocus(std::string_view text) const {
+  return block_.FieldMouseDown != 1 && !text.empty();
+}
+
+bool FieldRules::Check(LeaveCheck check, TextControl& field) {
+  switch (check) {
+    case LeaveCheck::None:
+      return true;
+    case LeaveCheck::NotBlank:
+      return CheckNotBlank(field);
+    case LeaveCheck::HasDigits:
+      return CheckHasDigits(field);
+    case LeaveCheck::NotZero:
+      return CheckNotZero(field);
+  }
+  return true;
+}
+
+bool FieldRules::CheckNotBlank(TextControl& field) {
+  if (!field.text().empty()) return true;
+  field.Focus();
+  Warn(messages_.MsgNotBlank);
+  return false;
+}
+
+bool FieldRules::CheckHasDigits(TextControl& field) {
+  if (!WithoutSigns(field.text()).empty()) return true;
+  field.Focus();
+  Warn(messages_.MsgNotBlank);
+  return false;
+}
+
+bool FieldRules::CheckNotZero(TextControl& field) {
+  const std::string rest = WithoutSigns(field.text());
+  const bool zero =
+      IsNumber(rest, DecimalMark::Point) && ParseNumber(rest, DecimalMark::Point) == 0;
+  if (!rest.empty() && !zero) return true;
+  field.Focus();
+  Warn(messages_.MsgNotBlankOrZero);
+  return false;
+}
+
+int FieldRules::TextHasDigits(std::string_view text) {
+  if (!WithoutSigns(text).empty()) return 0;
+  Warn(messages_.MsgNotBlank);
+  return 1;
+}
+
+}  // namespace veldox

@@ -1,0 +1,408 @@
+#include "core/screen.h"
+
+#include <algorithm>
+#include <cfenv>
+#include <cmath>
+#include <exception>
+#include <stdexcept>
+#include <utility>
+
+namespace veldox {
+
+// ---------------------------------------------------------------- Control
+
+Control::Control(Screen& screen, Frame* frame, ControlKind kind, std::string name,
+                 std::string caption, std::string help)
+    : screen_(screen),
+      frame_(frame),
+      kind_(kind),
+      name_(std::move(name)),
+      caption_(std::move(caption)),
+      help_(std::move(help)) {
+  screen_.controls_.push_back(this);
+  // The buttons of an option group stand where the group stands.
+  if (frame_ != nullptr && kind_ != ControlKind::OptionButton) frame_->controls_.push_back(this);
+}
+
+std::string Control::PlainCaption() const {
+  std::string plain;
+  std::copy_if(caption_.begin(), caption_.end(), std::back_inserter(plain),
+               [](char c) { return c != '&'; });
+  return plain;
+}
+
+bool Control::Shown() const {
+  return visible_ && (frame_ == nullptr || frame_->visible());
+}
+
+void Control::Changed() {
+  if (face_ != nullptr) face_->ControlChanged(*this);
+}
+
+void Control::SetCaption(std::string caption) {
+  if (caption == caption_) return;
+  caption_ = std::move(caption);
+  Changed();
+}
+
+void Control::SetHelp(std::string help) {
+  if (help == help_) return;
+  help_ = std::move(help);
+  Changed();
+}
+
+void Control::SetVisible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  Changed();
+}
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  Changed();
+}
+
+void Control::SetMark(Mark mark) {
+  if (mark == mark_) return;
+  mark_ = mark;
+  Changed();
+}
+
+void Control::Focus() {
+  screen_.TakeFocus(this);
+  if (face_ != nullptr) face_->FocusRequested(*this);
+}
+
+// ---------------------------------------------------------------- the kinds of control
+
+Frame::Frame(Screen& screen, std::string name, std::string caption, int column)
+    : Control(screen, nullptr, ControlKind::Frame, std::move(name), std::move(caption), {}),
+      column_(column) {
+  screen.frames_.push_back(this);
+}
+
+TextControl::TextControl(Frame& frame, ControlKind kind, std::string name, std::string caption,
+                         std::string text, KeyRule rule, std::string help)
+    : Control(frame.screen(), &frame, kind, std::move(name), std::move(caption), std::move(help)),
+      text_(std::move(text)),
+      rule_(rule) {}
+
+void TextControl::SetText(std::string text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  Changed();
+}
+
+void TextControl::Edit(std::string text) {
+  screen().context().rules.NoteChange();
+  SetText(std::move(text));
+}
+
+char32_t TextControl::FilterKey(char32_t key) {
+  screen().context().rules.Filter(rule_, text_, key);
+  return key;
+}
+
+bool TextControl::Enter() {
+  return screen().context().rules.FieldGotFocus(text_);
+}
+
+bool TextControl::Leave() {
+  return screen().context().rules.Check(leaveCheck_, *this);
+}
+
+Field::Field(Frame& frame, std::string name, std::string label, std::string defaultText,
+             KeyRule rule, Unit unit, std::string help, LeaveCheck check)
+    : TextControl(frame, ControlKind::Field, std::move(name), std::move(label),
+                  std::move(defaultText), rule, std::move(help)),
+      unit_(unit) {
+  SetLeaveCheck(check);
+}
+
+TextArea::TextArea(Frame& frame, std::string name, std::string label)
+    : TextControl(frame, ControlKind::TextArea, std::move(name), std::move(label), {},
+                  KeyRule::AnyText, {}) {}
+
+ReportBox::ReportBox(Frame& frame, std::string name)
+    : TextControl(frame, ControlKind::ReportBox, std::move(name), {}, {}, KeyRule::OutputOnly, {}) {
+  SetVisible(false);
+}
+
+Label::Label(Frame& frame, std::string name, std::string caption)
+    : Control(frame.screen(), &frame, ControlKind::Label, std::move(name), std::move(caption), {}) {
+}
+
+Command::Command(Frame& frame, std::string name, std::string caption, std::string help)
+    : Control(frame.screen(), &frame, ControlKind::Command, std::move(name), std::move(caption),
+              std::move(help)) {
+  SetEnabled(false);
+}
+
+void Command::Click() {
+  if (handler_ == nullptr || !enabled() || !Shown()) return;
+  Screen& owner = screen();
+  owner.Perform([&] { (owner.*handler_)(); });
+}
+
+CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help)
+    : Control(frame.screen(), &frame, ControlKind::CheckBox, std::move(name), std::move(caption),
+              std::move(help)) {}
+
+void CheckBox::SetOn(bool on) {
+  if (slot_ != nullptr) *slot_ = on ? 1 : 0;
+  if (on == on_) return;
+  on_ = on;
+  Changed();
+}
+
+bool CheckBox::Click() {
+  if (!enabled() || !Shown()) return false;
+  SetOn(!on_);
+  if (handler_ == nullptr) return true;
+  Screen& owner = screen();
+  const bool done = owner.Perform([&] { (owner.*handler_)(); });
+  if (!done) SetOn(!on_);
+  return done;
+}
+
+void CheckBox::Bind(std::int16_t& slot) {
+  slot_ = &slot;
+  *slot_ = on_ ? 1 : 0;
+}
+
+OptionButton::OptionButton(OptionGroup& group, int index, std::string caption, std::string help)
+    : Control(group.screen(), group.frame(), ControlKind::OptionButton,
+              group.name() + '(' + std::to_string(index) + ')', std::move(caption),
+              std::move(help)),
+      group_(group),
+      index_(index) {}
+
+bool OptionButton::on() const {
+  return group_.chosen() == index_;
+}
+
+void OptionButton::Click() {
+  if (enabled() && Shown()) group_.Choose(index_);
+}
+
+OptionGroup::OptionGroup(Frame& frame, std::string name, std::string caption,
+                         std::initializer_list<Choice> choices, int chosen, int buttonsInRow)
+    : Control(frame.screen(), &frame, ControlKind::OptionGroup, std::move(name), std::move(caption),
+              {}),
+      chosen_(chosen),
+      buttonsInRow_(buttonsInRow) {
+  buttons_.reserve(choices.size());
+  for (const Choice& choice : choices) {
+    buttons_.push_back(
+        std::make_unique<OptionButton>(*this, choice.index, choice.caption, choice.help));
+    if (!choice.visible) buttons_.back()->SetVisible(false);
+  }
+}
+
+bool OptionGroup::Choose(int index) {
+  const bool known = std::any_of(buttons_.begin(), buttons_.end(),
+                                 [&](const auto& button) { return button->index() == index; });
+  if (!known) return false;
+  chosen_ = index;
+  if (slot_ != nullptr) *slot_ = static_cast<std::int16_t>(index);
+  Changed();
+  for (const auto& button : buttons_) button->Changed();
+  return true;
+}
+
+void OptionGroup::Bind(std::int16_t& slot) {
+  slot_ = &slot;
+  *slot_ = static_cast<std::int16_t>(chosen_);
+}
+
+ComboList::ComboList(Frame& frame, std::string name, std::string caption)
+    : Control(frame.screen(), &frame, ControlKind::ComboList, std::move(name), std::move(caption),
+              {}) {}
+
+void ComboList::SetRows(std::vector<std::string> rows) {
+  rows_ = std::move(rows);
+  chosen_ = -1;
+  Changed();
+}
+
+void ComboList::Choose(int row) {
+  if (row < 0 || static_cast<std::size_t>(row) >= rows_.size() || row == chosen_) return;
+  chosen_ = row;
+  Changed();
+}
+
+// ---------------------------------------------------------------- Screen
+
+Screen::Screen(ProgramContext& context, std::string name, std::string title, std::string tag)
+    : context_(context), name_(std::move(name)), title_(std::move(title)), tag_(std::move(tag)) {}
+
+Screen::~Screen() = default;
+
+Control* Screen::Find(std::string_view name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* control) { return control->name() == name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Screen::SetVisible(bool visible) {
+  const bool changed = visible != visible_;
+  visible_ = visible;
+  // Opening an open screen brings its window to the front, so the face is told in any case.
+  if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
+}
+
+void Screen::Quit() {
+  // An unread number keeps the screen open: its box has told which field holds it.
+  if (CheckBox* box = MetricBox(); box != nullptr && box->on() && !box->Click()) return;
+  Hover(nullptr);
+  if (ReportBox* report = ReportPane(); report != nullptr) {
+    report->SetText({});
+    report->SetVisible(false);
+  }
+  Closed();
+  SetVisible(false);
+}
+
+void Screen::Hover(Control* control) {
+  Control* place = HelpPlace();
+  if (place == nullptr) return;
+  const std::string sentence = control == nullptr ? std::string{} : control->help();
+  if (place->kind() == ControlKind::Label) {
+    place->SetCaption(sentence);
+  } else {
+    static_cast<TextControl*>(place)->SetText(sentence);
+  }
+  place->SetVisible(!sentence.empty());
+}
+
+bool Screen::Perform(const std::function<void()>& command) {
+  for (Control* control : controls_) control->SetMark(Mark::None);
+  if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+  std::feclearexcept(FE_ALL_EXCEPT);
+  try {
+    command();
+    return true;
+  } catch (const CommandError& error) {
+    if (error.kind() != ErrorKind::Cancelled) Report(error);
+  } catch (const std::bad_alloc&) {
+    Report({ErrorKind::Overflow, "There is not enough memory for this command."});
+  } catch (const std::exception& error) {
+    Report({ErrorKind::InvalidArgument,
+            std::string("The command could not be finished: ") + error.what()});
+  }
+  return false;
+}
+
+void Screen::Report(const CommandError& error) {
+  std::string text = error.message();
+  if (error.control() != nullptr) {
+    text = '"' + error.control()->PlainCaption() + "\" " + text;
+  }
+  context_.host.Ask(
+      {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
+  if (error.control() != nullptr) {
+    error.control()->SetMark(Mark::Error);
+    error.control()->Focus();
+  }
+}
+
+void Screen::ClearFields() {
+  for (Control* control : controls_) {
+    if (auto* text = dynamic_cast<TextControl*>(control)) text->SetText({});
+  }
+}
+
+void Screen::ConvertDefaultsToComma() {
+  for (Control* control : controls_) {
+    auto* field = dynamic_cast<TextControl*>(control);
+    if (field == nullptr) continue;
+    std::string text = field->text();
+    if (const auto point = text.find('.'); point != std::string::npos) {
+      text[point] = ',';
+      field->SetText(std::move(text));
+    }
+  }
+}
+
+void Screen::TakeFocus(Control* control) {
+  focus_ = control;
+  const auto* field = dynamic_cast<const Field*>(control);
+  block().OptionFieldActive = field != nullptr && field->isOption() ? 1 : 0;
+}
+
+bool Screen::MoveFocus(Control* control) {
+  if (focus_ == control) return true;
+  if (auto* left = dynamic_cast<TextControl*>(focus_); left != nullptr && !left->Leave()) {
+    return false;
+  }
+  TakeFocus(control);
+  return true;
+}
+
+double Screen::Read(Field& field) const {
+  try {
+    return ParseNumber(field.text(), mark());
+  } catch (const CommandError& error) {
+    throw CommandError(error.kind(), error.message(), &field);
+  }
+}
+
+void Screen::ReadCount(std::int16_t& slot, Field& field) const {
+  const double value = Read(field);
+  try {
+    slot = RoundToInt16(value);
+  } catch (const CommandError& error) {
+    throw CommandError(error.kind(), error.message(), &field);
+  }
+}
+
+void Screen::RequireResult(Field& field, double value, DividesBy divisors) const {
+  const int flags = std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID);
+  if (flags == 0 && std::isfinite(value)) return;
+  const std::string result = '"' + field.PlainCaption() + "\" cannot be computed";
+  for (Field* divisor : divisors) {
+    if (IsNumber(divisor->text(), mark()) && ParseNumber(divisor->text(), mark()) == 0) {
+      throw CommandError(ErrorKind::DivisionByZero,
+                         "is 0, and " + result + " by dividing by 0. Please enter another value.",
+                         divisor);
+    }
+  }
+  if ((flags & FE_DIVBYZERO) != 0) {
+    throw CommandError(ErrorKind::DivisionByZero,
+                       "cannot be computed: a value that it is divided by is 0.", &field);
+  }
+  if ((flags & FE_OVERFLOW) != 0 || std::isinf(value)) {
+    throw CommandError(ErrorKind::Overflow,
+                       "cannot be computed: the result is too large. Please check the values it "
+                       "comes from.",
+                       &field);
+  }
+  throw CommandError(ErrorKind::InvalidArgument,
+                     "cannot be computed: no number fits the values that were entered.", &field);
+}
+
+void Screen::ShowText(TextControl& field, std::string text) {
+  field.SetText(std::move(text));
+  field.SetMark(Mark::Changed);
+}
+
+void Screen::Show(Field& field, double value, DividesBy divisors) {
+  RequireResult(field, value, divisors);
+  ShowText(field, FormatField(value, mark()));
+}
+
+void Screen::Store(double& slot, Field& field, double value, DividesBy divisors) {
+  Show(field, value, divisors);
+  slot = value;
+}
+
+void Screen::SetMetricShown(bool metric) {
+  if (metric == metricShown_) return;
+  metricShown_ = metric;
+  for (Control* control : controls_) {
+    if (control->kind() == ControlKind::Field) control->Changed();
+  }
+}
+
+}  // namespace veldox

@@ -1,0 +1,523 @@
+#include "core/shell.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include "core/files.h"
+#include "core/version.h"
+
+namespace veldox {
+
+namespace {
+
+// clang-format off
+constexpr MenuItem kMenu[] = {
+    {"File", "&File", "", MenuKind::Submenu},
+    {"CubicInch", "&CI", "", MenuKind::Screen, "Form1"},
+    {"CompRatio", "C&R", "", MenuKind::Screen, "Form1CR"},
+    {"ET_MPH", "&ET/MPH/HP", "", MenuKind::Screen, "Form3"},
+    {"CAM_INFO", "Cam &Info", "", MenuKind::Screen, "Form2"},
+    {"CompGauge", "C&omp Gauge", "", MenuKind::Screen, "Form12"},
+    {"Blowers", "&Blowers", "", MenuKind::Screen, "Form14"},
+    {"AIRFUEL", "Air Fue&l", "", MenuKind::Screen, "Form4"},
+    {"SRKEXH", "2-S E&xhaust", "", MenuKind::Screen, "Form11"},
+    {"GEAR", "&Gear", "", MenuKind::Screen, "Form5"},
+    {"ACCELERATION", "&Acceleration", "", MenuKind::Screen, "Form13"},
+    {"CHASSIS", "Cha&ssis", "", MenuKind::Screen, "Form6"},
+    {"SPRINGS", "S&prings", "", MenuKind::Screen, "Form16"},
+    {"WEATHER", "&Weather", "", MenuKind::Screen, "Form7"},
+    {"GRAPHER", "G&rapher", "", MenuKind::Screen, "Form8"},
+    {"SRKVAL", "2-S Port &Timing", "", MenuKind::Screen, "Form18"},
+    {"UNIT", "&Unit Conversion", "", MenuKind::Screen, "Form9"},
+    {"EQUIV", "E&quivalence Charts", "", MenuKind::Screen, "Form10"},
+    {"About", "&About", "", MenuKind::Screen, "Form15"},
+    {"Nitrous", "&Nitrous", "", MenuKind::Screen, "Form17"},
+    {"Tools", "Tools", "", MenuKind::Submenu},
+    {"Cam_Gen", "Generate Cam File", "", MenuKind::Screen, "Form33"},
+    {"Graph", "&Graph / Draw Options", "File", MenuKind::Action},
+    {"Help", "&Help Box Options", "File", MenuKind::Submenu},
+    {"Fonts", "Select Font &Style", "Help", MenuKind::Action},
+    {"BoxFColor", "Select &Font Color", "Help", MenuKind::Action},
+    {"BoxColor", "Select Background &Color", "Help", MenuKind::Action},
+    {"User_GUI", "User Selectable Entry GUI Options", "File", MenuKind::Submenu},
+    {"Classic_Lab", "Classic Label Font and Size", "User_GUI", MenuKind::Action},
+    {"Classic_Comm", "Classic CommandButton Font and Size", "User_GUI", MenuKind::Action},
+    {"EntryFont", "Select Font for Entry Text", "User_GUI", MenuKind::Action},
+    {"EntryAlig", "Select Alignment for Entry Text", "User_GUI", MenuKind::Action},
+    {"T_B_Style", "Select Entry Text Box Border Style", "User_GUI", MenuKind::Action},
+    {"O_C_Style", "Select Option/Check Box Border Style - DO FIRST", "User_GUI", MenuKind::Action},
+    {"LabelFont", "Select Font for Label Text", "User_GUI", MenuKind::Action},
+    {"LabelColor", "Select Color for Label Text", "User_GUI", MenuKind::Action},
+    {"CommandFont", "Select Font for Command Button Text", "User_GUI", MenuKind::Action},
+    {"FrameColor", "Select &Background Color of Entry Frame", "User_GUI", MenuKind::Action},
+    {"QuitColor", "Select Background Color of Quit / Done Buttons", "User_GUI", MenuKind::Action},
+    {"SepBar1", "-", "File", MenuKind::Separator},
+    {"Print", "&Print Forms", "File", MenuKind::Submenu},
+    {"Print1", "&CI", "Print", MenuKind::Action},
+    {"Print1CR", "C&R", "Print", MenuKind::Action},
+    {"Print3", "&ET / MPH / HP", "Print", MenuKind::Action},
+    {"Print2", "Cam &Info", "Print", MenuKind::Action},
+    {"Print12", "C&ompression Gauge", "Print", MenuKind::Action},
+    {"Print14", "&Blowers", "Print", MenuKind::Action},
+    {"Print4", "Air Fue&l", "Print", MenuKind::Action},
+    {"Print11", "2 Stroke E&xhaust", "Print", MenuKind::Action},
+    {"Print5", "&Gear", "Print", MenuKind::Action},
+    {"Print13", "&Acceleration", "Print", MenuKind::Action},
+    {"Print6", "Cha&ssis", "Print", MenuKind::Action},
+    {"Print16", "S&prings", "Print", MenuKind::Action},
+    {"Print7", "&Weather", "Print", MenuKind::Action},
+    {"Print18", "2 Stroke Port &Timing", "Print", MenuKind::Action},
+    {"Print9", "&Unit Conversion", "Print", MenuKind::Action},
+    {"Print10", "E&quivalence Charts", "Print", MenuKind::Action},
+    {"Print17", "&Nitrous", "Print", MenuKind::Action},
+    {"Print33", "Generate Cam File", "Print", MenuKind::Action},
+    {"Print15", "About", "Print", MenuKind::Action},
+    {"Print8", "Graph", "Print", MenuKind::Action},
+    {"Printer", "Printer &Setup", "File", MenuKind::Action},
+    {"Print_CI", "Print Company Info Multi Page -- Is OFF", "File", MenuKind::Action, "", &Shell::Print_CI},
+    {"Print_Head_Location", "Print Company Info - Select Location", "File", MenuKind::Action},
+    {"SepBar2", "-", "File", MenuKind::Separator},
+    {"Read", "&Read (Open) Parameter File", "File", MenuKind::Action, "", &Shell::Read},
+    {"Write", "&Write (Save) Parameter File", "File", MenuKind::Action, "", &Shell::Write},
+    {"Notes", "Edit Parameter File Notes", "File", MenuKind::Action, "", &Shell::Notes},
+    {"SepBar3", "-", "File", MenuKind::Separator},
+    {"Trans", "&Get Transmission Gear Ratios", "File", MenuKind::Submenu},
+    {"Automatic", "A&utomatic", "Trans", MenuKind::Action},
+    {"Automatic_GM", "Automatic GM", "Trans", MenuKind::Action},
+    {"SepBar5", "-", "Trans", MenuKind::Separator},
+    {"Quaife", "&Quaife", "Trans", MenuKind::Action},
+    {"SepBar6", "-", "Trans", MenuKind::Separator},
+    {"Stick34", "&Stick 3/4 Speed", "Trans", MenuKind::Action},
+    {"Stick56", "S&tick 5/6/7 Speed", "Trans", MenuKind::Action},
+    {"SepBar7", "-", "Trans", MenuKind::Separator},
+    {"Tremec", "&Tremec", "Trans", MenuKind::Action},
+    {"SepBar8", "-", "Trans", MenuKind::Separator},
+    {"Motorc", "&Motorcycle", "Trans", MenuKind::Action},
+    {"CoeffDrag_FrontalArea", "Get Coefficient of Drag / Frontal Area", "File", MenuKind::Submenu},
+    {"CD_FA", "CD FA - American", "CoeffDrag_FrontalArea", MenuKind::Action},
+    {"CD_FA_Other", "CD FA - Other", "CoeffDrag_FrontalArea", MenuKind::Action},
+    {"Engine_Spec", "&Get Engine Specs - Bore Stroke Rod Length", "File", MenuKind::Submenu},
+    {"American", "American", "Engine_Spec", MenuKind::Submenu},
+    {"AMC", "AMC - Jeep - Ramble", "American", MenuKind::Action},
+    {"Buick", "Buick", "American", MenuKind::Action},
+    {"Cadillac", "Cadillac", "American", MenuKind::Action},
+    {"Chevy", "Chevy", "American", MenuKind::Submenu},
+    {"Chevy_SB", "Chevy - SB", "Chevy", MenuKind::Action},
+    {"Chevy_BB", "Chevy - BB", "Chevy", MenuKind::Action},
+    {"Chevy_All", "Chevy - All Others", "Chevy", MenuKind::Action},
+    {"Chrysler", "Chrysler - Dodge - DeSoto - Plymouth", "American", MenuKind::Submenu},
+    {"Chrysler_SB", "Chrysler - SB", "Chrysler", MenuKind::Action},
+    {"Chrysler_BB", "Chrysler - BB", "Chrysler", MenuKind::Action},
+    {"Chrysler_All", "Chrysler - All Others", "Chrysler", MenuKind::Action},
+    {"Cummins", "Cummins", "American", MenuKind::Action},
+    {"Ford", "Ford - Edsel - Lincoln - Mercury", "American", MenuKind::Submenu},
+    {"Ford_SB", "Ford - SB", "Ford", MenuKind::Action},
+    {"Ford_BB", "Ford - BB", "Ford", MenuKind::Action},
+    {"Ford_All", "Ford - All Others", "Ford", MenuKind::Action},
+    {"Olds", "Olds", "American", MenuKind::Action},
+    {"Packard", "Packard", "American", MenuKind::Action},
+    {"Pontiac", "Pontiac", "American", MenuKind::Action},
+    {"Studebaker", "Studebaker", "American", MenuKind::Action},
+    {"Foreign", "Foreign", "Engine_Spec", MenuKind::Submenu},
+    {"BMW", "BMW", "Foreign", MenuKind::Action},
+    {"Ferrari", "Ferrari", "Foreign", MenuKind::Action},
+    {"Honda", "Honda", "Foreign", MenuKind::Action},
+    {"Maserati", "Maserati", "Foreign", MenuKind::Action},
+    {"Mazda", "Mazda", "Foreign", MenuKind::Action},
+    {"Mercedes", "Mercedes", "Foreign", MenuKind::Action},
+    {"Nissan", "Nissan", "Foreign", MenuKind::Action},
+    {"Porsche", "Porsche", "Foreign", MenuKind::Action},
+    {"Toyota", "Toyota", "Foreign", MenuKind::Action},
+    {"VW", "VW", "Foreign", MenuKind::Action},
+    {"For_Other", "Other", "Foreign", MenuKind::Action},
+    {"MotorCycle", "MotorCycle - ATV - Etc...", "Engine_Spec", MenuKind::Submenu},
+    {"Arctic_Cat", "Arctic Cat", "MotorCycle", MenuKind::Action},
+    {"BMWW", "BMW", "MotorCycle", MenuKind::Action},
+    {"Harley_Davidson", "Harley-Davidson", "MotorCycle", MenuKind::Action},
+    {"Hondaa", "Honda", "MotorCycle", MenuKind::Action},
+    {"Kawasaki", "Kawasaki", "MotorCycle", MenuKind::Action},
+    {"Ski_Doo", "Ski-Doo", "MotorCycle", MenuKind::Action},
+    {"Suzuki", "Suzuki", "MotorCycle", MenuKind::Action},
+    {"Yamaha", "Yamaha", "MotorCycle", MenuKind::Action},
+    {"Motor_Other", "Other", "MotorCycle", MenuKind::Action},
+    {"AirCraft", "AirCraft", "Engine_Spec", MenuKind::Action},
+    {"User_BSR", "User Bore Stroke Rod Table", "Engine_Spec", MenuKind::Action},
+    {"SepBar4", "-", "File", MenuKind::Separator},
+    {"LrgScrRes", "Use Large Screen Resolution", "File", MenuKind::Action},
+    {"FullScrRes", "Use Full Screen Resolution", "File", MenuKind::Action},
+    {"ScrRes", "Sh&ow Screen Resolution", "File", MenuKind::Action, "", &Shell::ScrRes},
+    {"SepBar54", "-", "File", MenuKind::Separator},
+    {"Clear", "Clear All Data Fields on All Forms", "File", MenuKind::Action, "", &Shell::Clear},
+    {"Metric", "Metric Mode -- Is OFF", "File", MenuKind::Action, "", &Shell::Metric},
+    {"SepBarCN", "-", "File", MenuKind::Separator},
+    {"Co_Name", "Enter Your Company Name, Address, etc", "File", MenuKind::Action},
+    {"Load_Co_Name", "Load Company Name, Address, etc, Data", "File", MenuKind::Action},
+    {"Exit", "E&xit", "File", MenuKind::Action, "", &Shell::Exit},
+    {"CMM_Inches_MM", "Convert Cam File Inches to MM", "Tools", MenuKind::Action},
+    {"CMM_MM_Inches", "Convert Cam File MM to Inches", "Tools", MenuKind::Action},
+    {"Mod_Lift", "Increase / Decrease Cam Lift a Fixed %", "Tools", MenuKind::Action},
+    {"Mod_Lift2", "Increase / Decrease Cam Lift a Fixed Amount", "Tools", MenuKind::Action},
+    {"Cx_File", "Convert Cam Dr C\"x\" file to a CMM File / Format", "Tools", MenuKind::Action},
+    {"S96_File", "Convert \"S96\" file(s) to a CMM File / Format", "Tools", MenuKind::Action},
+    {"CheckT", "Convert PRT / Delimited File for Acceleration -- User Selected Fields - RPM and Torque", "Tools", MenuKind::Action},
+    {"CheckT_All", "Convert PRT / Delimited File for Acceleration / Dyno Sheet -- User Selected Fields - RPM, Torque, Fuel, BSFC, and A/F", "Tools", MenuKind::Action},
+    {"CheckH", "Convert PRT / Delimited File for Acceleration -- User Selected Fields - RPM and HP", "Tools", MenuKind::Action},
+    {"CheckVELDOX", "Convert PRT / Delimited File for Graphing -- User Selected Fields - X-Axis and Y-Axis", "Tools", MenuKind::Action},
+    {"CheckCQU", "Convert DYN (DeskTop Dyno) / CQU (Comp Cams CamQuest) / DYM (Dynomation) File for Acceleration", "Tools", MenuKind::Action},
+    {"CheckAxis", "Reverse Axis for VELDOX Graphing File / PRM", "Tools", MenuKind::Action},
+    {"Timing_Tape", "Print a Timing Tape - This is Close But is NOT Perfect - It is NOT a Replacement for a Store Bought Timing Tape", "Tools", MenuKind::Action},
+};
+
+constexpr LauncherItem kLauncher[] = {
+    {"Engine", "CubicInch", "Engine Displacement"},
+    {"Engine", "CompRatio", "Compression Ratio"},
+    {"Engine", "CompGauge", "Compression Gauge, Octane"},
+    {"Camshaft", "CAM_INFO", "Camshaft Information"},
+    {"Camshaft", "Cam_Gen", "Cam Lift Curve Generator"},
+    {"Air, Fuel and Exhaust", "AIRFUEL", "Air Flow, Fuel, Exhaust"},
+    {"Air, Fuel and Exhaust", "Blowers", "Blowers and Turbos"},
+    {"Air, Fuel and Exhaust", "Nitrous", "Nitrous"},
+    {"Two-Stroke", "SRKVAL", "Port Timing"},
+    {"Two-Stroke", "SRKEXH", "Expansion Chamber"},
+    {"Vehicle", "ET_MPH", "ET, MPH, Horsepower"},
+    {"Vehicle", "GEAR", "Gears, Tires, Speed"},
+    {"Vehicle", "ACCELERATION", "Acceleration, Top Speed"},
+    {"Chassis", "CHASSIS", "Corner Weights"},
+    {"Chassis", "SPRINGS", "Springs and Bars"},
+    {"Weather and Reference", "WEATHER", "Weather Correction"},
+    {"Weather and Reference", "UNIT", "Unit Conversion"},
+    {"Weather and Reference", "EQUIV", "Equivalence Charts"},
+    {"Graphs", "GRAPHER", "Grapher"},
+    {"Graphs", "About", "About VELDOX"},
+};
+// clang-format on
+
+constexpr const char* kStartUpFile = "\\zxqvwu00.prm";
+constexpr const char* kLargeScreenFile = "\\veldox.lrg";
+constexpr const char* kFullScreenFile = "\\veldox.ful";
+constexpr const char* kParameterFilter =
+    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Parameter Files (*.prm)|*.prm";
+constexpr int kParameterFilterIndex = 3;
+
+/// A file in the program's folder; the "\\" that leads its name is the path separator.
+std::filesystem::path InFolder(const std::filesystem::path& folder, std::string_view name) {
+  return folder / std::filesystem::path(name.substr(1));
+}
+
+bool IsThere(const std::filesystem::path& file) {
+  std::error_code error;
+  return std::filesystem::exists(file, error);
+}
+
+}  // namespace
+
+std::span<const MenuItem> Shell::Menu() {
+  return kMenu;
+}
+
+std::span<const LauncherItem> Shell::Launcher() {
+  return kLauncher;
+}
+
+const MenuItem* Shell::FindMenuItem(std::string_view name) {
+  const auto found = std::find_if(std::begin(kMenu), std::end(kMenu),
+                                  [&](const MenuItem& item) { return item.name == name; });
+  return found == std::end(kMenu) ? nullptr : found;
+}
+
+Shell::Shell(ProgramContext& context)
+    : Screen(context, "Main", context.rules.messages().MessageTitle, ""), parameterFile_(context) {
+  Frame12.SetVisible(false);
+  Frame8.SetVisible(false);
+  OptionFrame.SetVisible(false);
+  for (Field* field : {&Text11, &Text12, &Text13, &Text15, &Text16, &Text17}) field->SetIsOption();
+}
+
+Screen* Shell::FindScreen(std::string_view screenName) {
+  if (screenName == name()) return this;
+  const auto found = std::find_if(screens_.begin(), screens_.end(),
+                                  [&](const Screen* s) { return s->name() == screenName; });
+  return found == screens_.end() ? nullptr : *found;
+}
+
+Control* Shell::FindControl(std::string_view qualifiedName) {
+  const auto dot = qualifiedName.find('.');
+  if (dot == std::string_view::npos) return nullptr;
+  const Screen* screen = FindScreen(qualifiedName.substr(0, dot));
+  return screen == nullptr ? nullptr : screen->Find(qualifiedName.substr(dot + 1));
+}
+
+void Shell::Start() {
+  block().DataChanged = 0;
+  Combo3.SetRows({"0 - Left", "1 - Right", "2 - Center (Default)"});
+  Combo4.SetRows({"0 - None", "1 - 3d Fixed (Default)"});
+  Combo5.SetRows({"0 - Flat", "1 - 3d Fixed (Default)"});
+  Combo6.SetRows({"white", "black", "green", "blue", "cyan", "red", "magenta", "yellow", "brown",
+                  "dark gray", "dark green", "dark red", "light gray", "light green",
+                  "light yellow", "orange"});
+  DetectDecimalMark();
+  context().rules.BuildMessages();
+  if (block().DecimalCommaMode != 0) ConvertDefaultsToComma();
+  BuildVersionLines();
+  DetectScreenSize();
+  ProbeLargeScreenFile();
+  ProbeFullScreenFile();
+  InitParameterBlock();
+  parameterFile_.BindOwners([this](std::string_view name) { return FindControl(name); });
+  SetVisible(true);
+  ReadStartUpFile();
+}
+
+void Shell::DetectDecimalMark() {
+  if (context().host.SystemDecimalMark() != DecimalMark::Comma) return;
+  block().DecimalCommaMode = 1;
+  Inform("Program Set for Decimal Point to be >>,<< [Comma] ");
+}
+
+void Shell::ConvertDefaultsToComma() {
+  Screen::ConvertDefaultsToComma();
+  for (Screen* screen : screens_) screen->ConvertDefaultsToComma();
+}
+
+void Shell::BuildVersionLines() {
+  versionLine_ = "Version: " + std::to_string(kVersionMajor) + '.' + std::to_string(kVersionMinor) +
+                 '.' + std::to_string(kVersionRevision);
+  dateLine_ = kProgramDate;
+}
+
+void Shell::DetectScreenSize() {
+  const ScreenSize size = context().host.MeasureScreen();
+  if (size.width < 1020 || size.height < 700) return;
+  widthLimit_ = 1000;
+  heightLimit_ = 700;
+  for (int i = 0; i <= 35; ++i) {
+    if (size.width >= 1050 + 100 * i) widthLimit_ = 1000 + 100 * i;
+  }
+  for (int i = 1; i <= 23; ++i) {
+    if (size.height >= 750 + 100 * i) heightLimit_ = 700 + 100 * i;
+  }
+}
+
+void Shell::ProbeLargeScreenFile() {
+  if (IsThere(InFolder(context().host.ProgramFolder(), kLargeScreenFile))) block().LargeScreen = 1;
+}
+
+void Shell::ProbeFullScreenFile() {
+  if (IsThere(InFolder(context().host.ProgramFolder(), kFullScreenFile))) block().FullScreen = 1;
+}
+
+void Shell::InitParameterBlock() {
+  auto fresh = std::make_unique<ParameterBlock>();
+  fresh->DecimalCommaMode = block().DecimalCommaMode;
+  fresh->LargeScreen = block().LargeScreen;
+  fresh->FullScreen = block().FullScreen;
+  block() = *fresh;
+}
+
+void Shell::ReadStartUpFile() {
+  const std::filesystem::path file = InFolder(context().host.ProgramFolder(), kStartUpFile);
+  if (!IsThere(file)) return;
+  Perform([&] { parameterFile_.ReadParameterFile(file); });
+  TellMenuChanged();
+}
+
+std::string Shell::MenuCaption(const MenuItem& item) const {
+  const auto turned = [&](bool on) {
+    std::string caption(item.caption);
+    caption.resize(caption.rfind(' ') + 1);
+    return caption + (on ? "ON" : "OFF");
+  };
+  if (item.action == &Shell::Metric) return turned(block().MetricMenuOn != 0);
+  if (item.action == &Shell::Print_CI) return turned(block().PrintHeads != 0);
+  return std::string(item.caption);
+}
+
+bool Shell::MenuEnabled(const MenuItem& item) {
+  switch (item.kind) {
+    case MenuKind::Separator:
+      return false;
+    case MenuKind::Screen:
+      return FindScreen(item.screen) != nullptr;
+    case MenuKind::Action:
+      return item.action != nullptr;
+    case MenuKind::Submenu:
+      return std::any_of(std::begin(kMenu), std::end(kMenu), [&](const MenuItem& child) {
+        return child.parent == item.name && MenuEnabled(child);
+      });
+  }
+  return false;
+}
+
+void Shell::Choose(const MenuItem& item) {
+  if (!MenuEnabled(item) || item.kind == MenuKind::Submenu) return;
+  if (item.kind == MenuKind::Screen) {
+    Open(*FindScreen(item.screen));
+  } else {
+    Perform([&] { (this->*item.action)(); });
+  }
+}
+
+void Shell::Open(Screen& screen) {
+  if (block().FormsCleared != 1) screen.CopyFromBlock();
+  screen.SetVisible(true);
+  if (CheckBox* box = screen.MetricBox();
+      block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
+    box->Click();
+  }
+  if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
+}
+
+void Shell::TellMenuChanged() {
+  if (shellFace_ != nullptr) shellFace_->MenuChanged();
+}
+
+Button Shell::Question(const std::string& text, std::vector<Button> buttons) {
+  return context().host.Ask({Icon::Question, title(), text, std::move(buttons)});
+}
+
+void Shell::Inform(const std::string& text, Icon icon) {
+  context().host.Ask({icon, title(), text, {Button::OK}});
+}
+
+std::filesystem::path Shell::AskParameterFile(FileDialog::Kind kind) {
+  const auto path = context().host.AskFile(
+      {kind, kParameterFilter, kParameterFilterIndex, context().host.ProgramFolder()});
+  if (!path) throw CommandError(ErrorKind::Cancelled, "");
+  return *path;
+}
+
+void Shell::ShowFile(const std::filesystem::path& path, int records, const char* done) {
+  block().ParameterFileName = PathText(path);
+  Label8.SetCaption("Parameter File -- " + PathText(path.filename()));
+  Inform(FormatValue<"#,##0">(records, mark()) + done);
+}
+
+void Shell::Read() {
+  if (block().DataChanged == 1) {
+    const Button answer = Question("Do you want to Save Your Data before Reading in New Data?",
+                                   {Button::Yes, Button::No});
+    block().DataChanged = 0;
+    if (answer == Button::Yes) {
+      try {
+        Write();
+      } catch (const CommandError& error) {
+        // What could not be saved is still to be saved.
+        if (error.kind() != ErrorKind::Cancelled) block().DataChanged = 1;
+        throw;
+      }
+    }
+  }
+  const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Open);
+  const int records = parameterFile_.ReadParameterFile(path);
+  TellMenuChanged();
+  ShowFile(path, records, " Records Read");
+}
+
+void Shell::Write() {
+  const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Save);
+  int records = 0;
+  {
+    const BusyCursor busy(context().host);
+    records = parameterFile_.Write(path);
+  }
+  ShowFile(path, records, " Records Written");
+}
+
+void Shell::Notes() {
+  Text22.SetText(block().Notes);
+  Frame12.SetVisible(true);
+  Text22.Focus();
+}
+
+void Shell::SaveNotes() {
+  if (Text22.text() != block().Notes) {
+    block().Notes = Text22.text();
+    context().rules.NoteChange();
+  }
+  DropNotes();
+}
+
+void Shell::DropNotes() {
+  Frame12.SetVisible(false);
+}
+
+void Shell::ClearFields() {
+  // The main form's own boxes hold options and notes, not data of a calculator.
+}
+
+void Shell::Clear() {
+  const Button answer = Question(
+      "This Function will Clear All Data Fields on All Forms! Make Sure you have Saved your data.",
+      {Button::OK, Button::Cancel});
+  if (answer == Button::Cancel) return;
+  block().FormsCleared = 1;
+  for (Screen* screen : screens_) screen->ClearFields();
+  Inform(
+      "FORM DATA CLEARED -- You can now Print Blank Forms -- After Printing Blank Forms, Please "
+      "EXIT and Reload VELDOXW",
+      Icon::Warning);
+}
+
+void Shell::Metric() {
+  block().MetricMenuOn = block().MetricMenuOn != 0 ? 0 : -1;
+  TellMenuChanged();
+}
+
+void Shell::Print_CI() {
+  block().PrintHeads = block().PrintHeads != 0 ? 0 : 1;
+  TellMenuChanged();
+}
+
+void Shell::ScrRes() {
+  const ScreenSize size = context().host.MeasureScreen();
+  Inform("Screen Resolution: " + std::to_string(size.width) + " X " + std::to_string(size.height) +
+         "   <-->   Screen DPI: " + std::to_string(size.dpi));
+}
+
+void Shell::CloseWindow() {
+  Perform([this] {
+    block().ExitFromWindowClose = kWindowCloseMarker;
+    Exit();
+  });
+}
+
+void Shell::Exit() {
+  if (block().ExitInProgress != 0) return;
+  block().ExitInProgress = 1;
+  // However Exit ends, the program can be asked to end again.
+  struct Guard {
+    ParameterBlock& block;
+    ~Guard() {
+      block.ExitInProgress = 0;
+      block.ExitFromWindowClose = 0;
+    }
+  } const guard{block()};
+  if (block().DataChanged == 1) {
+    std::vector<Button> buttons{Button::Yes, Button::No};
+    if (block().ExitFromWindowClose != kWindowCloseMarker) buttons.push_back(Button::Cancel);
+    const Button answer = Question("Do you want to Save Your Data before Exiting VELDOX?", buttons);
+    if (answer == Button::Cancel) return;
+    if (answer == Button::Yes) Write();
+  }
+  titleAnimation_.Finish();
+  for (Screen* screen : screens_) screen->SetVisible(false);
+  ended_ = true;
+  if (shellFace_ != nullptr) shellFace_->Ended();
+}
+
+FontChoice Shell::PickFont() {
+  const auto choice = context().host.AskFont();
+  if (!choice) throw CommandError(ErrorKind::Cancelled, "");
+  return *choice;
+}
+
+std::string Shell::PickColor() {
+  const auto color = context().host.AskColor();
+  if (!color) throw CommandError(ErrorKind::Cancelled, "");
+  return std::to_string(*color);
+}
+
+}  // namespace veldox

@@ -1,0 +1,303 @@
+#include "engine/form1.h"
+
+#include <vector>
+
+namespace veldox {
+
+namespace {
+
+constexpr double kSmallestStroke = 0.00001;
+constexpr double kCubicMillimetresPerCc = 1000;
+constexpr double kMillimetresPerCentimetre = 10;
+/// A piston speed formula in inches gives feet; with millimetres in it, this gives metres.
+constexpr double kFootFormulaToMetres = 12.0 / 1000;
+/// The same for the bearing speed, whose formula has seconds and inches in its divisor.
+constexpr double kBearingFormulaToMetres = 12.0 / 1000;
+
+}  // namespace
+
+Form1::Form1(ProgramContext& context)
+    : Screen(context, "Form1", "Engine Displacement Calculator", "CubicIn") {}
+
+void Form1::CopyFromBlock() {
+  const ParameterBlock& b = block();
+  Text32.SetText(FormatField(b.WristPinOffset, mark()));
+  Text1.SetText(FormatField(b.Bore, mark()));
+  Text3.SetText(FormatField(b.Stroke, mark()));
+  Text4.SetText(FormatField(b.RodLength, mark()));
+  Text2.SetText(FormatInt(b.NumberofCylinders, mark()));
+  Text5.SetText(FormatInt(b.RPM, mark()));
+  Text6.SetText(FormatField(b.CubicInches, mark()));
+  Text27.SetText(FormatField(b.HorsePower, mark()));
+  Text10.SetText(FormatField(b.DeckClearance, mark()));
+  Text22.SetText(FormatField(b.CompressionRatio, mark()));
+  Text20.SetText(FormatField(b.PortDiameter, mark()));
+  Text21.SetText(FormatField(b.VolumetricEfficiency, mark()));
+}
+
+void Form1::ReadEngineFields() {
+  ParameterBlock& b = block();
+  ReadInto(b.Bore, Text1);
+  ReadInto(b.Stroke, Text3);
+  ReadCount(b.NumberofCylinders, Text2);
+  ReadInto(b.RodLength, Text4);
+  ReadInto(b.RodLength2, Text17);
+  ReadInto(b.RPM, Text5);
+  ReadInto(b.CubicInches, Text6);
+  ReadInto(b.BlockDeckHeight, Text8);
+  ReadInto(b.PistonCompressionHeight, Text9);
+  ReadInto(b.DeckClearance, Text10);
+  ReadInto(b.BoreStrokeRatio, Text11);
+  ReadInto(b.StrokeBoreRatio, Text16);
+  ReadInto(b.RodStrokeRatio, Text12);
+  ReadInto(b.AveragePistonSpeed, Text13);
+  ReadInto(b.BoreIncrease, Text26);
+  ReadInto(b.HorsePower, Text27);
+  ReadInto(b.HorsePowerIncrease, Text28);
+  ReadInto(b.WristPinOffset, Text32);
+  ReadInto(b.PortDiameter, Text20);
+  if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
+  if (b.Stroke / 2 > b.RodLength) {
+    b.RodLength = b.Stroke / 2;
+    ShowAs<"0.00000">(Text4, b.RodLength);
+  }
+}
+
+void Form1::DeriveEngineFields() {
+  ParameterBlock& b = block();
+  Store(b.BlockDeckHeight, Text8,
+        BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
+  Store(b.PistonCompressionHeight, Text9,
+        PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
+  Store(b.DeckClearance, Text10,
+        DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
+  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke, {&Text3});
+  Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore, {&Text1});
+  Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke, {&Text3});
+  Show(Text7, 2 * b.RodStrokeRatio);
+  StoreMeanPistonSpeed();
+  Store(b.PistonArea, Text24, PistonArea(b.Bore));
+  Show(Text25, CrankRodRightAngle(b.RodLength, b.Stroke), {&Text3});
+}
+
+void Form1::StoreMeanPistonSpeed() {
+  ParameterBlock& b = block();
+  double speed = MeanPistonSpeed(b.Stroke, b.RPM);
+  if (b.MetricSwitch == 1) speed *= kFootFormulaToMetres;
+  Store(b.AveragePistonSpeed, Text13, speed);
+}
+
+double Form1::PistonSpeedInFormulaUnits() const {
+  const ParameterBlock& b = block();
+  return b.MetricSwitch == 1 ? b.AveragePistonSpeed / kFootFormulaToMetres : b.AveragePistonSpeed;
+}
+
+double Form1::EngineSizeInFieldUnits() const {
+  const ParameterBlock& b = block();
+  const double size = EngineSize(b.Bore, b.Stroke, b.NumberofCylinders);
+  return b.MetricSwitch == 1 ? size / kCubicMillimetresPerCc : size;
+}
+
+double Form1::CylinderVolume() {
+  const ParameterBlock& b = block();
+  const double volume = b.CubicInches / b.NumberofCylinders;
+  RequireResult(Text1, volume, {&Text2});
+  return volume;
+}
+
+void Form1::StoreBoreAndStroke(const BoreAndStroke& size) {
+  ParameterBlock& b = block();
+  // In Metric the volume is in cc, so the formulas have run in centimetres.
+  const double scale = b.MetricSwitch == 1 ? kMillimetresPerCentimetre : 1;
+  Store(b.Bore, Text1, size.bore * scale, {&Text16});
+  Store(b.Stroke, Text3, size.stroke * scale, {&Text11});
+}
+
+void Form1::Command1_Click() {
+  ReadEngineFields();
+  Store(block().CubicInches, Text6, EngineSizeInFieldUnits());
+  DeriveEngineFields();
+}
+
+void Form1::Command2_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  const double volume =
+      b.MetricSwitch == 1 ? b.CubicInches * kCubicMillimetresPerCc : b.CubicInches;
+  Store(b.Bore, Text1, BoreForEngineSize(volume, b.Stroke, b.NumberofCylinders), {&Text2});
+  DeriveEngineFields();
+}
+
+void Form1::Command3_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  double stroke = StrokeForEngineSize(b.CubicInches, b.Bore, b.NumberofCylinders);
+  if (b.MetricSwitch == 1) stroke *= kCubicMillimetresPerCc;
+  Store(b.Stroke, Text3, stroke, {&Text1, &Text2});
+  DeriveEngineFields();
+}
+
+void Form1::Command4_Click() {
+  ReadEngineFields();
+  const double volume = CylinderVolume();
+  Require(block().BoreStrokeRatio > 0, Text11, "must be greater than 0 for this command.");
+  Require(volume >= 0, Text6, "must not be negative for this command.");
+  Require(LargestVolumeByDigits(block().BoreStrokeRatio) >= volume, Text6,
+          "is too large for this command.");
+  StoreBoreAndStroke(BoreAndStrokeByDigits(volume, block().BoreStrokeRatio));
+  DeriveEngineFields();
+}
+
+void Form1::Command11_Click() {
+  ReadEngineFields();
+  StoreBoreAndStroke(BoreAndStrokeForStrokeBoreRatio(CylinderVolume(), block().StrokeBoreRatio));
+  DeriveEngineFields();
+}
+
+void Form1::Command5_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.RodLength, Text4, b.Stroke * b.RodStrokeRatio);
+  DeriveEngineFields();
+}
+
+void Form1::Command6_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  const double rpm = RpmForMeanPistonSpeed(PistonSpeedInFormulaUnits(), b.Stroke);
+  ShowAs<"0">(Text5, rpm, {&Text3});
+  b.RPM = rpm;
+  DeriveEngineFields();
+}
+
+void Form1::Command14_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.Stroke, Text3, StrokeForMeanPistonSpeed(PistonSpeedInFormulaUnits(), b.RPM), {&Text5});
+  DeriveEngineFields();
+}
+
+void Form1::Command7_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.BlockDeckHeight, Text8,
+        BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
+  DeriveEngineFields();
+}
+
+void Form1::Command8_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.PistonCompressionHeight, Text9,
+        PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
+  DeriveEngineFields();
+}
+
+void Form1::Command9_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.DeckClearance, Text10,
+        DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
+  DeriveEngineFields();
+}
+
+void Form1::Command16_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.HorsePowerIncrease, Text28, HorsepowerGain(b.HorsePower, b.Bore, b.BoreIncrease),
+        {&Text1});
+  DeriveEngineFields();
+}
+
+void Form1::Command22_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke, {&Text3});
+  Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore, {&Text1});
+}
+
+void Form1::Command23_Click() {
+  ReadEngineFields();
+  const double ratio = block().RodLength / block().Stroke;
+  Show(Text12, ratio, {&Text3});
+  Show(Text7, 2 * ratio);
+}
+
+void Form1::Command26_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  ReadInto(b.JournalDiameter, Text33);
+  double speed = JournalSpeed(b.JournalDiameter, b.RPM);
+  if (b.MetricSwitch == 1) speed *= kBearingFormulaToMetres;
+  Show(Text34, speed);
+}
+
+void Form1::Command10_Click() {
+  ReadEngineFields();
+  ShowAs<"0.00000000000">(Text15, EqualSpeedCrankAngle(block().RodLength, block().Stroke),
+                          {&Text3});
+}
+
+void Form1::Check1_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  const bool toMetric = b.MetricSwitch != 1;
+  ConvertEngineUnits(toMetric);
+  SetMetricShown(toMetric);
+}
+
+void Form1::ConvertEngineUnits(bool toMetric) {
+  ParameterBlock& b = block();
+  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
+  // A conversion that fails half way would leave inches and millimetres side by side, so
+  // every new value is worked out before the first is stored.
+  struct Converted {
+    Field* field;
+    double* slot;
+    double value;
+  };
+  std::vector<Converted> converted;
+  const auto convert = [&](Field& field, double* slot, double value) {
+    RequireResult(field, value);
+    converted.push_back({&field, slot, value});
+  };
+  const auto length = [&](Field& field, double& slot) { convert(field, &slot, slot * factor); };
+  const auto asShown = [&](Field& field, double* slot, double by) {
+    if (IsNumber(field.text(), mark())) convert(field, slot, Read(field) * by);
+  };
+  length(Text1, b.Bore);
+  length(Text3, b.Stroke);
+  length(Text4, b.RodLength);
+  length(Text17, b.RodLength2);
+  length(Text8, b.BlockDeckHeight);
+  length(Text9, b.PistonCompressionHeight);
+  length(Text10, b.DeckClearance);
+  length(Text26, b.BoreIncrease);
+  asShown(Text48, &b.PistonTravel, factor);
+  asShown(Text18, nullptr, factor);
+  asShown(Text19, nullptr, factor);
+  length(Text32, b.WristPinOffset);
+  asShown(Text33, &b.JournalDiameter, factor);
+  length(Text20, b.PortDiameter);
+  const double power = toMetric ? kKilowattsPerHorsepower : 1 / kKilowattsPerHorsepower;
+  convert(Text27, &b.HorsePower, b.HorsePower * power);
+  convert(Text28, &b.HorsePowerIncrease, b.HorsePowerIncrease * power);
+  asShown(Text34, nullptr, toMetric ? kMetresPerFoot : kFeetPerMetre);
+
+  b.MetricSwitch = toMetric ? 1 : 0;
+  b.MetricFactor = factor;
+  for (const Converted& c : converted) {
+    if (c.slot != nullptr) *c.slot = c.value;
+    ShowText(*c.field, FormatField(c.value, mark()));
+  }
+  Store(b.CubicInches, Text6, EngineSizeInFieldUnits());
+  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke);
+  // Without a bore the ratio stays as it is: the unit has no part in it.
+  if (b.Bore != 0) Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore);
+  Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke);
+  Show(Text7, 2 * b.RodStrokeRatio);
+  StoreMeanPistonSpeed();
+  Store(b.PistonArea, Text24, PistonArea(b.Bore));
+}
+
+}  // namespace veldox

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "core/form15.h"
+#include "core/shell.h"
+
+namespace veldox {
+
+/// The whole program but for its windows: makes all screens and wires them to the shell.
+/// Nothing else knows all screens.
+class Program {
+ public:
+  explicit Program(Host& host);
+
+  ProgramContext& context() { return *context_; }
+  Shell& shell() { return *shell_; }
+
+  /// Runs the start-up order.
+  void Start();
+
+ private:
+  template <class S>
+  S& AddScreen();
+
+  std::unique_ptr<ProgramContext> context_;
+  std::unique_ptr<Shell> shell_;
+  std::vector<std::unique_ptr<Screen>> screens_;
+  Form15* about_ = nullptr;
+};
+
+}  // namespace veldox
