@@ -200,6 +200,7 @@ class Command : public Control {
           void (S::*handler)())
       : Command(frame, std::move(name), std::move(caption), std::move(help)) {
     handler_ = static_cast<ScreenHandler>(handler);
+    SetEnabled(true);
   }
   /// A command whose work is not built yet: it is there, disabled.
   Command(Frame& frame, std::string name, std::string caption, std::string help);
