@@ -346,12 +346,9 @@ Control* Screen::NextInTabOrder(const Control& from) const {
     switch (control.kind()) {
       case ControlKind::Label:
       case ControlKind::Frame:
-      case ControlKind::OptionGroup:
-        return false;
-      case ControlKind::OptionButton:
-        return static_cast<const OptionButton&>(control).on();
-      default:
-        return true;
+      case ControlKind::OptionGroup: return false;
+      case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
+      default: return true;
     }
   };
   const auto start = std::find(controls_.begin(), controls_.end(), &from);

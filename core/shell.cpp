@@ -337,12 +337,9 @@ std::string Shell::MenuCaption(const MenuItem& item) const {
 
 bool Shell::MenuEnabled(const MenuItem& item) {
   switch (item.kind) {
-    case MenuKind::Separator:
-      return false;
-    case MenuKind::Screen:
-      return FindScreen(item.screen) != nullptr;
-    case MenuKind::Action:
-      return item.action != nullptr;
+    case MenuKind::Separator: return false;
+    case MenuKind::Screen: return FindScreen(item.screen) != nullptr;
+    case MenuKind::Action: return item.action != nullptr;
     case MenuKind::Submenu:
       return std::any_of(std::begin(kMenu), std::end(kMenu), [&](const MenuItem& child) {
         return child.parent == item.name && MenuEnabled(child);

@@ -103,17 +103,10 @@ void ModelDriver::Click(Control& control) {
   // The field that has the focus may keep it, and the click goes nowhere.
   if (!screen.MoveFocus(&control)) return;
   switch (control.kind()) {
-    case ControlKind::Command:
-      static_cast<Command&>(control).Click();
-      break;
-    case ControlKind::CheckBox:
-      static_cast<CheckBox&>(control).Click();
-      break;
-    case ControlKind::OptionButton:
-      static_cast<OptionButton&>(control).Click();
-      break;
-    default:
-      break;
+    case ControlKind::Command: static_cast<Command&>(control).Click(); break;
+    case ControlKind::CheckBox: static_cast<CheckBox&>(control).Click(); break;
+    case ControlKind::OptionButton: static_cast<OptionButton&>(control).Click(); break;
+    default: break;
   }
 }
 

@@ -63,10 +63,8 @@ std::string TextOf(const Control& control) {
   switch (control.kind()) {
     case ControlKind::Field:
     case ControlKind::ReportBox:
-    case ControlKind::TextArea:
-      return static_cast<const TextControl&>(control).text();
-    case ControlKind::CheckBox:
-      return static_cast<const CheckBox&>(control).on() ? "on" : "off";
+    case ControlKind::TextArea: return static_cast<const TextControl&>(control).text();
+    case ControlKind::CheckBox: return static_cast<const CheckBox&>(control).on() ? "on" : "off";
     case ControlKind::OptionButton:
       return static_cast<const OptionButton&>(control).on() ? "on" : "off";
     case ControlKind::OptionGroup:
@@ -76,8 +74,7 @@ std::string TextOf(const Control& control) {
       return list.chosen() < 0 ? std::string{}
                                : list.rows()[static_cast<std::size_t>(list.chosen())];
     }
-    default:
-      return control.caption();
+    default: return control.caption();
   }
 }
 

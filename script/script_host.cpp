@@ -10,30 +10,21 @@ namespace {
 
 const char* IconName(Icon icon) {
   switch (icon) {
-    case Icon::None:
-      return "none";
-    case Icon::Information:
-      return "information";
-    case Icon::Warning:
-      return "warning";
-    case Icon::Question:
-      return "question";
-    case Icon::Error:
-      return "error";
+    case Icon::None: return "none";
+    case Icon::Information: return "information";
+    case Icon::Warning: return "warning";
+    case Icon::Question: return "question";
+    case Icon::Error: return "error";
   }
   return "none";
 }
 
 const char* ButtonName(Button button) {
   switch (button) {
-    case Button::OK:
-      return "OK";
-    case Button::Cancel:
-      return "Cancel";
-    case Button::Yes:
-      return "Yes";
-    case Button::No:
-      return "No";
+    case Button::OK: return "OK";
+    case Button::Cancel: return "Cancel";
+    case Button::Yes: return "Yes";
+    case Button::No: return "No";
   }
   return "OK";
 }
@@ -58,17 +49,10 @@ std::string EscapeText(std::string_view text) {
         if (i + 1 < text.size() && text[i + 1] == '\n') ++i;
         line += "\\n";
         break;
-      case '\n':
-        line += "\\n";
-        break;
-      case '\t':
-        line += "\\t";
-        break;
-      case '\\':
-        line += "\\\\";
-        break;
-      default:
-        line += text[i];
+      case '\n': line += "\\n"; break;
+      case '\t': line += "\\t"; break;
+      case '\\': line += "\\\\"; break;
+      default: line += text[i];
     }
   }
   return line;
@@ -83,18 +67,10 @@ std::string UnescapeText(std::string_view text) {
       continue;
     }
     switch (text[++i]) {
-      case 'n':
-        result += "\r\n";
-        break;
-      case 't':
-        result += '\t';
-        break;
-      case '\\':
-        result += '\\';
-        break;
-      default:
-        result += '\\';
-        result += text[i];
+      case 'n': result += "\r\n"; break;
+      case 't': result += '\t'; break;
+      case '\\': result += '\\'; break;
+      default: result += '\\'; result += text[i];
     }
   }
   return result;
