@@ -24,6 +24,16 @@ constexpr KeyRow Key(std::string_view key, KeyForm form, T P::*member, std::stri
   return {key, form, member, owner};
 }
 
+constexpr KeyRow OnIs(std::int16_t value, KeyRow row) {
+  row.onValue = value;
+  return row;
+}
+
+constexpr KeyRow BlankBehindEquals(KeyRow row) {
+  row.blankBehindEquals = true;
+  return row;
+}
+
 template <auto Member>
 double& Cell(ParameterBlock& block, int row, int column) {
   auto& element = (block.*Member).at(static_cast<std::size_t>(row));
@@ -116,7 +126,7 @@ constexpr KeyRow kTable[] = {
     Key("Crank Gear", KeyForm::NumberOrField, &P::CrankGear, "Form14"),
     Key("IC In Temp", KeyForm::NumberOrField, &P::ICInTemp, "Form14"),
     Key("IC Out Temp", KeyForm::NumberOrField, &P::ICOutTemp, "Form14"),
-    Key("IC Pressure Loss", KeyForm::NumberOrField, &P::ICPressureLoss, "Form14"),
+    BlankBehindEquals(Key("IC Pressure Loss", KeyForm::NumberOrField, &P::ICPressureLoss, "Form14")),
     Key("Blower Density Ratio", KeyForm::NumberOrField, &P::BlowerDensityRatio, "Form14"),
     Key("Pressure Ratio", KeyForm::NumberOrField, &P::PressureRatio, "Form14"),
     Key("Number of Turbos", KeyForm::IntegerOrField, &P::NumberofTurbos, "Form14"),
@@ -514,7 +524,7 @@ constexpr KeyRow kTable[] = {
     Key("Help Box Font Italic", KeyForm::Integer, &P::HelpBoxFontItalic, "Main"),
     Key("Help Box Font Color", KeyForm::Integer, &P::HelpBoxFontColor, "Main"),
     Key("Help BackGround Color", KeyForm::Integer, &P::HelpBackGroundColor, "Main"),
-    Key("Metric Mode", KeyForm::OnOff, &P::MetricMenuOn, "Main.Metric"),
+    OnIs(-1, Key("Metric Mode", KeyForm::OnOff, &P::MetricMenuOn, "Main.Metric")),
     Key("Print Heads", KeyForm::OnOff, &P::PrintHeads, "Main.Print_CI"),
 };
 // clang-format on

@@ -44,7 +44,12 @@ class ParameterFile {
   int ReadBytes(std::string_view bytes, const std::string& fileName);
 
  private:
+  class Writer;
   class Reader;
+
+  /// The control that owns a key; null when there is none.
+  Control* Owner(const KeyRow& row) const;
+  int ReadText(std::string_view text, const std::string& fileName);
 
   ProgramContext& context_;
   std::vector<Control*> owners_;  // one for each row of the key table

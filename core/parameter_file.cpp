@@ -1,0 +1,853 @@
+#include "core/parameter_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+#include "core/error.h"
+#include "core/files.h"
+#include "core/host.h"
+#include "core/numbers.h"
+#include "core/units.h"
+
+namespace veldox {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kBlanks = " \t";
+
+constexpr std::array<std::string_view, 7> kHeader = {
+    "; A ';' in the first position of a line means that line is a comment",
+    ";",
+    "; The following parameters maybe in any order",
+    ";",
+    "; If for some reason a parameter is in the list more than once then the",
+    ";   last one will be used",
+    ";",
+};
+
+constexpr std::array<std::string_view, 4> kTorqueHeader = {
+    ";   Data for Acceleration / Top speed calculator / Dyno Sheets",
+    ";   The following parameters must be in Ascending Order by RPM",
+    ";              RPM  Torque  Fuel  BSFC  A/F  SCFM BSAC",
+    ";                           lb/hr      Ratio",
+};
+
+constexpr std::array<std::string_view, 3> kRoadMphHeader = {
+    ";   Data for Road Horse Power",
+    ";   The following parameters must be in Ascending Order by MPH",
+    ";         MPH    Time",
+};
+
+constexpr std::array<std::string_view, 3> kRoadRpmHeader = {
+    ";   Data for ROad Horse Power",
+    ";   The following parameters must be in Ascending Order by RPM",
+    ";         RPM    Time",
+};
+
+constexpr std::string_view kRoadMphKey = "Road HP";
+constexpr std::string_view kRoadRpmKey = "ROad HP";
+constexpr std::string_view kNotesKey = "Notes";
+
+constexpr std::string_view kErrorTitle = "VELDOX - Error Message";
+constexpr std::string_view kReadingError =
+    "Error Reading Parameter File --- If you have Not edited it, email support@veldox.example";
+
+/// The most of a line that a message shows, in characters.
+constexpr std::size_t kShownCharacters = 500;
+
+/// Units in which the second number of a torque row may stand.
+enum class TorqueUnit { PoundFeet, Horsepower, NewtonMetres, Kilowatts, MetricHorsepower };
+
+struct TorqueKey {
+  std::string_view key;
+  TorqueUnit unit;
+};
+
+/// The first is today's, the others stand in files of earlier versions and hand-made ones.
+constexpr std::array<TorqueKey, 5> kTorqueKeys = {{
+    {"Acceleration", TorqueUnit::PoundFeet},
+    {"accelerat hp", TorqueUnit::Horsepower},
+    {"accelerat nm", TorqueUnit::NewtonMetres},
+    {"accelerat kw", TorqueUnit::Kilowatts},
+    {"accelerat ps", TorqueUnit::MetricHorsepower},
+}};
+
+/// A part of the grid's colour as files of earlier versions give it.
+struct ColorPartKey {
+  std::string_view key;
+  int shift;
+};
+
+constexpr std::array<ColorPartKey, 3> kGridColorKeys = {{
+    {"grid color r", 0},
+    {"grid color g", 8},
+    {"grid color b", 16},
+}};
+
+/// Files of earlier versions know one stage of nitrous, with a key for each number:
+/// they fill the columns of the first stage.
+struct NitrousKey {
+  std::string_view key;
+  std::size_t column;
+};
+
+constexpr std::array<NitrousKey, 5> kNitrousKeys = {{
+    {"nitrous hp", 1},
+    {"nitrous rpm", 2},
+    {"nitrous p", 3},
+    {"nitrous pc", 3},
+    {"nitrous full", 4},
+}};
+
+char LowerLetter(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, LowerLetter, LowerLetter);
+}
+
+bool StartsIgnoringCase(std::string_view text, std::string_view prefix) {
+  return text.size() >= prefix.size() && SameIgnoringCase(text.substr(0, prefix.size()), prefix);
+}
+
+/// Small letters for the capitals of the western European alphabets.
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  for (std::size_t i = 0; i < lower.size(); ++i) {
+    lower[i] = LowerLetter(lower[i]);
+    // U+00C0 to U+00DE are the accented capitals, but for the multiplication sign U+00D7.
+    if (lower[i] == '\xC3' && i + 1 < lower.size()) {
+      const auto next = static_cast<unsigned char>(lower[i + 1]);
+      if (next >= 0x80 && next <= 0x9E && next != 0x97) {
+        lower[i + 1] = static_cast<char>(next + 0x20);
+      }
+    }
+  }
+  return lower;
+}
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool IsContinuationByte(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+/// The text with its tail cut off where it is too long for a message.
+std::string Clipped(std::string_view text) {
+  std::size_t characters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsContinuationByte(text[i])) continue;
+    if (++characters > kShownCharacters) return std::string(text.substr(0, i)) + "...";
+  }
+  return std::string(text);
+}
+
+/// A text that must stay within its line of the file.
+std::string OneLine(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return text;
+}
+
+/// The notes with CR LF at every line's end, however they were entered.
+std::string WithFileLineEnds(std::string_view notes) {
+  std::string text;
+  text.reserve(notes.size());
+  for (std::size_t i = 0; i < notes.size(); ++i) {
+    if (notes[i] == '\r' || notes[i] == '\n') {
+      text += kLineEnd;
+      if (notes[i] == '\r' && i + 1 < notes.size() && notes[i + 1] == '\n') ++i;
+    } else {
+      text += notes[i];
+    }
+  }
+  return text;
+}
+
+bool IsGearForm(TableForm form) {
+  return form == TableForm::GearIndexed || form == TableForm::GearChangeRpm ||
+         form == TableForm::GearChangeTime;
+}
+
+template <class ControlType>
+ControlType* As(Control* control, ControlKind kind) {
+  return control != nullptr && control->kind() == kind ? static_cast<ControlType*>(control)
+                                                       : nullptr;
+}
+
+Field* AsField(Control* control) {
+  return As<Field>(control, ControlKind::Field);
+}
+CheckBox* AsCheckBox(Control* control) {
+  return As<CheckBox>(control, ControlKind::CheckBox);
+}
+OptionGroup* AsOptionGroup(Control* control) {
+  return As<OptionGroup>(control, ControlKind::OptionGroup);
+}
+
+/// The number that a key holds; texts have none.
+double NumberOf(const KeyRow& row, const ParameterBlock& block) {
+  return std::visit(
+      [&](auto member) -> double {
+        if constexpr (std::is_same_v<decltype(member), std::monostate> ||
+                      std::is_same_v<decltype(member), std::string ParameterBlock::*>) {
+          return 0;
+        } else {
+          return static_cast<double>(block.*member);
+        }
+      },
+      row.member);
+}
+
+/// @throws CommandError (Overflow) beyond the range of the member
+void StoreNumber(const KeyRow& row, ParameterBlock& block, double value) {
+  if (const auto* real = std::get_if<double ParameterBlock::*>(&row.member)) {
+    block.** real = value;
+  } else if (const auto* count = std::get_if<std::int16_t ParameterBlock::*>(&row.member)) {
+    block.** count = RoundToInt16(value);
+  } else if (const auto* color = std::get_if<std::int32_t ParameterBlock::*>(&row.member)) {
+    block.** color = RoundToInt32(value);
+  }
+}
+
+/// @throws CommandError (Overflow) for a value that the member cannot hold
+void CheckRange(const KeyRow& row, double value) {
+  if (std::holds_alternative<std::int16_t ParameterBlock::*>(row.member)) RoundToInt16(value);
+  if (std::holds_alternative<std::int32_t ParameterBlock::*>(row.member)) RoundToInt32(value);
+}
+
+std::string* TextOf(const KeyRow& row, ParameterBlock& block) {
+  const auto* member = std::get_if<std::string ParameterBlock::*>(&row.member);
+  return member == nullptr ? nullptr : &(block.**member);
+}
+
+std::int16_t* SwitchOf(const KeyRow& row, ParameterBlock& block) {
+  const auto* member = std::get_if<std::int16_t ParameterBlock::*>(&row.member);
+  return member == nullptr ? nullptr : &(block.**member);
+}
+
+}  // namespace
+
+/// Builds the text of a file, record by record.
+class ParameterFile::Writer {
+ public:
+  explicit Writer(const ParameterFile& file)
+      : file_(file), block_(file.context_.block), mark_(file.context_.mark()) {}
+
+  Written Write() {
+    written_.bytes.reserve(kUsualSize + block_.Notes.size());
+    Comments(kHeader);
+    for (const KeyRow& row : KeyTable()) WriteRow(row);
+    WriteTorqueRows();
+    WriteRoadRows(kRoadMphHeader, kRoadMphKey, block_.RoadMphRowCount, block_.RoadMph,
+                  block_.RoadMphTime);
+    WriteRoadRows(kRoadRpmHeader, kRoadRpmKey, block_.RoadRpmRowCount, block_.RoadRpm,
+                  block_.RoadRpmTime);
+    if (!block_.Notes.empty()) Record(kNotesKey, WithFileLineEnds(block_.Notes));
+    // The count starts at one more than the lines of the header.
+    ++written_.records;
+    return std::move(written_);
+  }
+
+ private:
+  static constexpr std::size_t kUsualSize = 32 * 1024;
+  /// Stages of nitrous that start by gear; the others run by time.
+  static constexpr int kGearStages = 7;
+
+  void EndLine() {
+    written_.bytes += kLineEnd;
+    ++written_.records;
+  }
+
+  template <std::size_t N>
+  void Comments(const std::array<std::string_view, N>& lines) {
+    for (std::string_view line : lines) {
+      written_.bytes += line;
+      EndLine();
+    }
+  }
+
+  void Record(std::string_view key, std::string_view value) {
+    written_.bytes += key;
+    written_.bytes += " = ";
+    written_.bytes += value;
+    EndLine();
+  }
+
+  void AppendField(double value) { written_.bytes += FormatField(value, mark_); }
+  void AppendSmart(double value) { written_.bytes += FormatSmart(value, mark_); }
+  void AppendInt(double value) { written_.bytes += FormatInt(value, mark_); }
+
+  /// True for a text that the reader takes back as the value of this key, so that a
+  /// typing error on a screen never spoils the file.
+  bool Readable(const KeyRow& row, const std::string& text) const {
+    if (!IsNumber(text, mark_)) return false;
+    try {
+      CheckRange(row, ParseNumber(text, mark_));
+      return true;
+    } catch (const CommandError&) {
+      return false;
+    }
+  }
+
+  /// The owning field's text where it stands for a number, else the last resort.
+  std::string FieldText(const KeyRow& row, std::string lastResort) const {
+    const Field* field = AsField(file_.Owner(row));
+    if (field == nullptr || !Readable(row, field->text())) return lastResort;
+    return OneLine(field->text());
+  }
+
+  void WriteRow(const KeyRow& row) {
+    const double value = NumberOf(row, block_);
+    Control* const owner = file_.Owner(row);
+    switch (row.form) {
+      case KeyForm::Comment:
+        written_.bytes += row.key;
+        EndLine();
+        return;
+      case KeyForm::Number: Record(row.key, FormatSmart(value, mark_)); return;
+      case KeyForm::NumberOrField:
+        Record(row.key,
+               value != 0 ? FormatSmart(value, mark_) : FieldText(row, FormatSmart(0, mark_)));
+        return;
+      case KeyForm::Integer: WriteInteger(row, AsOptionGroup(owner), value); return;
+      case KeyForm::IntegerOrField:
+        Record(row.key, value != 0 ? FormatInt(value, mark_) : FieldText(row, FormatInt(0, mark_)));
+        return;
+      case KeyForm::FieldText:
+        // A value whose screen is not there yet is kept as it was read.
+        Record(row.key, AsField(owner) == nullptr && value != 0
+                            ? FormatField(value, mark_)
+                            : FieldText(row, FormatSmart(0, mark_)));
+        return;
+      case KeyForm::FieldLiteral: {
+        const Field* field = AsField(owner);
+        const std::string& text = field != nullptr ? field->text() : *TextOf(row, block_);
+        Record(row.key, Trim(text).empty() ? FormatSmart(0, mark_) : OneLine(text));
+        return;
+      }
+      case KeyForm::Text: Record(row.key, OneLine(*TextOf(row, block_))); return;
+      case KeyForm::YesNo: Record(row.key, IsOn(owner, value) ? "Yes" : "No"); return;
+      case KeyForm::OnOff: Record(row.key, IsOn(owner, value) ? "ON" : "OFF"); return;
+      case KeyForm::Table:
+        for (int i = row.firstRow; i < row.rows; ++i) WriteTableRow(row, i);
+        return;
+    }
+  }
+
+  void WriteInteger(const KeyRow& row, const OptionGroup* group, double value) {
+    if (group == nullptr) {
+      Record(row.key, FormatInt(value, mark_));
+    } else if (group->chosen() >= 0) {
+      Record(row.key, FormatInt(group->chosen(), mark_));
+    }
+  }
+
+  static bool IsOn(Control* owner, double value) {
+    const CheckBox* box = AsCheckBox(owner);
+    return box != nullptr ? box->on() : value != 0;
+  }
+
+  void WriteTableRow(const KeyRow& row, int index) {
+    const auto cell = [&](int column) { return row.cell(block_, index, column); };
+    std::string& text = written_.bytes;
+    text += row.key;
+    if (IsGearForm(row.tableForm)) {
+      text += ' ';
+      AppendInt(index);
+      if (row.tableForm != TableForm::GearIndexed) {
+        text += '-';
+        AppendInt(index + 1);
+      }
+    }
+    text += " = ";
+    switch (row.tableForm) {
+      case TableForm::Fields: AppendField(cell(0)); break;
+      case TableForm::Smart:
+      case TableForm::GearIndexed:
+      case TableForm::GearChangeTime: AppendSmart(cell(0)); break;
+      case TableForm::GearChangeRpm: AppendInt(cell(0)); break;
+      case TableForm::NitrousStages:
+        if (index < kGearStages) {
+          AppendInt(cell(0));
+        } else {
+          AppendField(cell(0));
+        }
+        AppendFurtherFields(row, index);
+        break;
+      case TableForm::Pairs:
+        AppendField(cell(0));
+        AppendFurtherFields(row, index);
+        break;
+      case TableForm::None: break;
+    }
+    EndLine();
+  }
+
+  void AppendFurtherFields(const KeyRow& row, int index) {
+    for (int column = 1; column < row.rowWidth; ++column) {
+      written_.bytes += ' ';
+      AppendField(row.cell(block_, index, column));
+    }
+  }
+
+  static std::size_t Rows(std::int16_t count) {
+    return static_cast<std::size_t>(std::clamp<int>(count, 0, kTorqueRows));
+  }
+
+  void WriteTorqueRows() {
+    Comments(kTorqueHeader);
+    for (std::size_t i = 0; i < Rows(block_.AccelRowCount); ++i) {
+      written_.bytes += kTorqueKeys[0].key;
+      written_.bytes += " = ";
+      AppendInt(block_.AccelRpm[i]);
+      written_.bytes += ' ';
+      written_.bytes += FormatValue<"0.0#">(block_.AccelTorque[i], mark_);
+      if (block_.AccelFuel[i] > 0) {
+        for (const TorqueColumn* column :
+             {&block_.AccelFuel, &block_.AccelBsfc, &block_.AccelAirFuel, &block_.AccelScfm,
+              &block_.AccelBsac}) {
+          written_.bytes += ' ';
+          AppendSmart((*column)[i]);
+        }
+      }
+      EndLine();
+    }
+  }
+
+  void WriteRoadRows(const std::array<std::string_view, 3>& header, std::string_view key,
+                     std::int16_t count, const TorqueColumn& speeds, const TorqueColumn& times) {
+    if (count <= 0) return;
+    Comments(header);
+    for (std::size_t i = 0; i < Rows(count); ++i) {
+      written_.bytes += key;
+      written_.bytes += " = ";
+      AppendField(speeds[i]);
+      written_.bytes += ' ';
+      AppendField(times[i]);
+      EndLine();
+    }
+  }
+
+  const ParameterFile& file_;
+  ParameterBlock& block_;
+  DecimalMark mark_;
+  Written written_;
+};
+
+/// Takes a file's text apart, line by line.
+class ParameterFile::Reader {
+ public:
+  Reader(ParameterFile& file, std::string_view text, const std::string& fileName)
+      : file_(file),
+        context_(file.context_),
+        block_(file.context_.block),
+        mark_(file.context_.mark()),
+        fileName_(fileName),
+        rest_(text) {
+    const auto table = KeyTable();
+    nextRow_.reserve(table.size());
+    for (const KeyRow& row : table) {
+      nextRow_.push_back(row.firstRow);
+      longestKey_ = std::max(longestKey_, row.key.size());
+      if (IsGearForm(row.tableForm)) gearRows_.push_back(&row);
+    }
+  }
+
+  void Run() {
+    block_.Notes.clear();
+    block_.AccelRowCount = 0;
+    block_.RoadMphRowCount = 0;
+    block_.RoadRpmRowCount = 0;
+    try {
+      while (NextLine()) {
+        ++records_;
+        if (!ReadLine()) break;
+      }
+    } catch (const CommandError& error) {
+      failure_ = error.message();
+    }
+    if (block_.AccelRowCount == 0) block_.AccelRowCount = kDefaultTorqueRows;
+  }
+
+  int records() const { return records_; }
+
+  /// Shows what ended the reading, if anything did.
+  void TellFailure() const {
+    if (!failure_) return;
+    std::string text(kReadingError);
+    text += kLineEnd;
+    text += fileName_;
+    text += kLineEnd;
+    text += "Record # ";
+    text += RecordNumber();
+    text += kLineEnd;
+    text += "Data --> ";
+    text += Clipped(line_);
+    text += kLineEnd;
+    text += Clipped(*failure_);
+    context_.host.Ask(
+        {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
+  }
+
+ private:
+  static constexpr std::int16_t kDefaultTorqueRows = 11;
+  static constexpr std::size_t kMostNumbers = 7;
+
+  struct Numbers {
+    std::array<double, kMostNumbers> values{};
+    std::size_t count = 0;
+  };
+
+  bool NextLine() {
+    if (rest_.empty()) return false;
+    const std::size_t end = rest_.find('\n');
+    line_ = rest_.substr(0, end);
+    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
+    if (line_.ends_with('\r')) line_.remove_suffix(1);
+    return true;
+  }
+
+  /// False when the user has had enough.
+  bool ReadLine() {
+    if (inNotes_) {
+      block_.Notes += kLineEnd;
+      block_.Notes += line_;
+      return true;
+    }
+    if (line_.starts_with(';') || Trim(line_).empty()) return true;
+    const std::size_t end = line_.find(" =");
+    const std::string_view key =
+        end == std::string_view::npos ? std::string_view{} : line_.substr(0, end);
+    const std::string_view value =
+        end == std::string_view::npos ? std::string_view{} : line_.substr(end + 2);
+    if (SameIgnoringCase(key, kNotesKey)) {
+      BeginNotes(value);
+      return true;
+    }
+    // The road tables are told apart by their case alone.
+    if (line_.starts_with("Road") || line_.starts_with("ROad")) {
+      if (key == kRoadMphKey) {
+        ReadRoadRow(value, block_.RoadMphRowCount, block_.RoadMph, block_.RoadMphTime);
+        return true;
+      }
+      if (key == kRoadRpmKey) {
+        ReadRoadRow(value, block_.RoadRpmRowCount, block_.RoadRpm, block_.RoadRpmTime);
+        return true;
+      }
+      return AskAboutLine();
+    }
+    if (ReadKey(key, value) || ReadOlderKey(key, value) || ReadGearLine()) return true;
+    return AskAboutLine();
+  }
+
+  /// Everything behind the key is a note. The first line has lost its capitals and the
+  /// character behind the "="; in comma mode its first point is a comma, as in any value.
+  void BeginNotes(std::string_view value) {
+    inNotes_ = true;
+    std::string text = Lower(value);
+    if (mark_ == DecimalMark::Comma) {
+      if (const std::size_t point = text.find('.'); point != std::string::npos) text[point] = ',';
+    }
+    std::size_t skipped = text.empty() ? 0 : 1;
+    while (skipped < text.size() && IsContinuationByte(text[skipped])) ++skipped;
+    block_.Notes = text.substr(skipped);
+  }
+
+  bool ReadKey(std::string_view key, std::string_view value) {
+    if (key.empty() || key.size() > longestKey_) return false;
+    const KeyRow* row = FindKey(key);
+    if (row == nullptr || IsGearForm(row->tableForm)) return false;
+    const bool missing = Trim(value).empty();
+    if (row->blankBehindEquals && !value.starts_with(' ')) return false;
+    if (std::string* text = TextOf(*row, block_)) {
+      *text = Trim(value);
+      if (Field* field = AsField(file_.Owner(*row))) field->SetText(*text);
+    } else if (row->form == KeyForm::Table) {
+      ReadTableRow(*row, missing ? "0" : value);
+    } else {
+      ReadValue(*row, missing ? "0" : Trim(value));
+    }
+    return true;
+  }
+
+  void ReadValue(const KeyRow& row, std::string_view value) {
+    Control* const owner = file_.Owner(row);
+    if (row.form == KeyForm::YesNo || row.form == KeyForm::OnOff) {
+      const bool on = IsOn(value);
+      if (CheckBox* box = AsCheckBox(owner)) box->SetOn(on);
+      if (std::int16_t* slot = SwitchOf(row, block_)) *slot = on ? row.onValue : std::int16_t{0};
+      return;
+    }
+    const double number = ParseNumber(value, mark_);
+    if (OptionGroup* group = AsOptionGroup(owner)) {
+      if (!group->Choose(RoundToInt16(number))) {
+        throw CommandError(ErrorKind::IndexOutOfRange, "There is no such option.");
+      }
+    }
+    StoreNumber(row, block_, number);
+    if (Field* field = AsField(owner)) {
+      if (row.form == KeyForm::NumberOrField || row.form == KeyForm::FieldText) {
+        field->SetText(FormatField(number, mark_));
+      } else if (row.form == KeyForm::IntegerOrField) {
+        field->SetText(FormatInt(number, mark_));
+      }
+    }
+  }
+
+  static bool IsOn(std::string_view value) {
+    for (std::string_view on : {"yes", "on", "-1", "1"}) {
+      if (SameIgnoringCase(value, on)) return true;
+    }
+    for (std::string_view off : {"no", "off", "0"}) {
+      if (SameIgnoringCase(value, off)) return false;
+    }
+    throw CommandError(ErrorKind::InvalidArgument, "The value must be Yes or No, ON or OFF.");
+  }
+
+  void ReadTableRow(const KeyRow& row, std::string_view value) {
+    const auto width = static_cast<std::size_t>(row.rowWidth);
+    // Stages of nitrous have lost their last number in some files.
+    const Numbers numbers =
+        ReadNumbers(value, row.tableForm == TableForm::NitrousStages ? width - 1 : width, width);
+    int& next = nextRow_[static_cast<std::size_t>(&row - KeyTable().data())];
+    if (next >= row.rows) ThrowTableIsFull();
+    for (std::size_t i = 0; i < width; ++i) {
+      row.cell(block_, next, static_cast<int>(i)) = numbers.values[i];
+    }
+    ++next;
+  }
+
+  [[noreturn]] static void ThrowTableIsFull() {
+    throw CommandError(ErrorKind::IndexOutOfRange, "The table has no room for another row.");
+  }
+
+  /// The numbers of a line, with blanks between them.
+  Numbers ReadNumbers(std::string_view text, std::size_t fewest, std::size_t most) const {
+    Numbers numbers;
+    text = Trim(text);
+    while (!text.empty()) {
+      if (numbers.count == most) {
+        throw CommandError(ErrorKind::InvalidArgument, "There are too many numbers in the line.");
+      }
+      const std::size_t end = std::min(text.find_first_of(kBlanks), text.size());
+      numbers.values[numbers.count++] = ParseNumber(text.substr(0, end), mark_);
+      text = Trim(text.substr(end));
+    }
+    if (numbers.count < fewest) {
+      throw CommandError(ErrorKind::NotANumber, "A number is missing in the line.");
+    }
+    return numbers;
+  }
+
+  /// Keys that only files of earlier versions have, and the rows of the torque table.
+  bool ReadOlderKey(std::string_view key, std::string_view value) {
+    for (const TorqueKey& torque : kTorqueKeys) {
+      if (SameIgnoringCase(key, torque.key)) {
+        ReadTorqueRow(value, torque.unit);
+        return true;
+      }
+    }
+    const auto number = [&] { return Trim(value).empty() ? 0.0 : ParseNumber(value, mark_); };
+    for (const ColorPartKey& part : kGridColorKeys) {
+      if (SameIgnoringCase(key, part.key)) {
+        const std::int32_t level = RoundToInt32(number());
+        if (level < 0 || level > 255) {
+          throw CommandError(ErrorKind::Overflow, "A part of a color goes from 0 to 255.");
+        }
+        block_.GridColor = (block_.GridColor & ~(255 << part.shift)) | (level << part.shift);
+        return true;
+      }
+    }
+    for (const NitrousKey& nitrous : kNitrousKeys) {
+      if (SameIgnoringCase(key, nitrous.key)) {
+        block_.NitrousMS.front()[nitrous.column] = number();
+        return true;
+      }
+    }
+    return false;
+  }
+
+  void ReadTorqueRow(std::string_view value, TorqueUnit unit) {
+    const auto [numbers, count] = ReadNumbers(value, 2, kMostNumbers);
+    const double rpm = numbers[0];
+    const auto row = static_cast<std::size_t>(block_.AccelRowCount);
+    if (row > 0 && !(rpm > block_.AccelRpm[row - 1])) {
+      context_.host.Ask({Icon::Warning, std::string(kErrorTitle), InvalidRecord(), {Button::OK}});
+      return;
+    }
+    if (row >= kTorqueRows) ThrowTableIsFull();
+    block_.AccelTorque[row] = TorqueInPoundFeet(numbers[1], unit, rpm);
+    block_.AccelRpm[row] = rpm;
+    block_.AccelFuel[row] = numbers[2];
+    block_.AccelBsfc[row] = numbers[3];
+    block_.AccelAirFuel[row] = numbers[4];
+    block_.AccelScfm[row] = numbers[5];
+    block_.AccelBsac[row] = numbers[6];
+    ++block_.AccelRowCount;
+  }
+
+  static double TorqueInPoundFeet(double value, TorqueUnit unit, double rpm) {
+    const bool isPower = unit != TorqueUnit::PoundFeet && unit != TorqueUnit::NewtonMetres;
+    if (isPower && rpm == 0) {
+      throw CommandError(ErrorKind::DivisionByZero, "There is no torque from power at 0 RPM.");
+    }
+    double torque = value;
+    switch (unit) {
+      case TorqueUnit::PoundFeet: break;
+      case TorqueUnit::Horsepower: torque = value * 5252 / rpm; break;
+      case TorqueUnit::NewtonMetres: torque = value / 1.3558179; break;
+      case TorqueUnit::Kilowatts: torque = (value / kKilowattsPerHorsepower) * 5252 / rpm; break;
+      case TorqueUnit::MetricHorsepower: torque = (value * 0.9863) * 5252 / rpm; break;
+    }
+    if (!std::isfinite(torque)) {
+      throw CommandError(ErrorKind::Overflow, "The torque is too large a number.");
+    }
+    return torque;
+  }
+
+  void ReadRoadRow(std::string_view value, std::int16_t& rows, TorqueColumn& speeds,
+                   TorqueColumn& times) {
+    const Numbers numbers = ReadNumbers(value, 2, 2);
+    const auto row = static_cast<std::size_t>(rows);
+    if (row >= kTorqueRows) ThrowTableIsFull();
+    speeds[row] = numbers.values[0];
+    times[row] = numbers.values[1];
+    ++rows;
+  }
+
+  /// Lines with an index: the word, the gear, for shifts "-" and the next gear, "=".
+  bool ReadGearLine() {
+    for (const KeyRow* row : gearRows_) {
+      if (!StartsIgnoringCase(line_, row->key)) continue;
+      const std::string_view text = line_.substr(row->key.size());
+      const std::size_t equals = text.find('=');
+      if (equals == std::string_view::npos) {
+        throw CommandError(ErrorKind::InvalidArgument, "There is no \"=\" in the line.");
+      }
+      const int index = GearIndex(Trim(text.substr(0, std::min(text.find('-'), equals))));
+      if (index < row->firstRow || index >= row->rows) {
+        throw CommandError(ErrorKind::IndexOutOfRange, "There is no such gear.");
+      }
+      const std::string_view value = Trim(text.substr(equals + 1));
+      row->cell(block_, index, 0) = value.empty() ? 0 : ParseNumber(value, mark_);
+      return true;
+    }
+    return false;
+  }
+
+  /// One or two digits.
+  static int GearIndex(std::string_view text) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (text.empty() || text.size() > 2 || !std::ranges::all_of(text, isDigit)) {
+      throw CommandError(ErrorKind::NotANumber, "The gear must be a number.");
+    }
+    int index = 0;
+    for (char digit : text) index = index * 10 + (digit - '0');
+    return index;
+  }
+
+  std::string RecordNumber() const { return FormatValue<"#,##0">(records_, mark_); }
+
+  std::string InvalidRecord() const {
+    return "Invalid Input Record # - " + RecordNumber() + "   Data --> " + Clipped(line_);
+  }
+
+  /// Tells a line that is no key; false when the user leaves the reading.
+  bool AskAboutLine() {
+    return context_.host.Ask({Icon::Warning,
+                              std::string(kErrorTitle),
+                              InvalidRecord(),
+                              {Button::OK, Button::Cancel}}) != Button::Cancel;
+  }
+
+  ParameterFile& file_;
+  ProgramContext& context_;
+  ParameterBlock& block_;
+  DecimalMark mark_;
+  const std::string& fileName_;
+  std::string_view rest_;
+  std::string_view line_;
+  int records_ = 0;
+  bool inNotes_ = false;
+  std::optional<std::string> failure_;
+  std::size_t longestKey_ = 0;
+  std::vector<const KeyRow*> gearRows_;
+  std::vector<int> nextRow_;  // of every array key: the row that its next line fills
+};
+
+void ParameterFile::BindOwners(const ControlFinder& find) {
+  owners_.clear();
+  for (const KeyRow& row : KeyTable()) {
+    Control* const owner =
+        row.owner.find('.') == std::string_view::npos ? nullptr : find(row.owner);
+    owners_.push_back(owner);
+    std::int16_t* const slot = SwitchOf(row, context_.block);
+    if (slot == nullptr) continue;
+    if (CheckBox* box = AsCheckBox(owner)) box->Bind(*slot);
+    if (OptionGroup* group = AsOptionGroup(owner)) group->Bind(*slot);
+  }
+}
+
+Control* ParameterFile::Owner(const KeyRow& row) const {
+  return owners_.empty() ? nullptr : owners_[static_cast<std::size_t>(&row - KeyTable().data())];
+}
+
+ParameterFile::Written ParameterFile::Compose() const {
+  return Writer(*this).Write();
+}
+
+int ParameterFile::Write(const std::filesystem::path& path) const {
+  const BusyCursor busy(context_.host);
+  const Written written = Compose();
+  SaveFile(path, written.bytes);
+  return written.records;
+}
+
+int ParameterFile::ReadParameterFile(const std::filesystem::path& path) {
+  std::string text;
+  std::optional<std::string> failure;
+  {
+    const BusyCursor busy(context_.host);
+    try {
+      text = DecodeText(LoadFile(path));
+    } catch (const CommandError& error) {
+      failure = error.message();
+    }
+  }
+  if (failure) {
+    context_.host.Ask({Icon::Warning,
+                       context_.rules.messages().MessageTitle,
+                       std::string(kReadingError) + std::string(kLineEnd) + Clipped(*failure),
+                       {Button::OK}});
+    return 0;
+  }
+  return ReadText(text, PathText(path));
+}
+
+int ParameterFile::ReadBytes(std::string_view bytes, const std::string& fileName) {
+  return ReadText(DecodeText(std::string(bytes)), fileName);
+}
+
+int ParameterFile::ReadText(std::string_view text, const std::string& fileName) {
+  Reader reader(*this, text, fileName);
+  {
+    const BusyCursor busy(context_.host);
+    reader.Run();
+  }
+  reader.TellFailure();
+  return reader.records();
+}
+
+}  // namespace veldox
