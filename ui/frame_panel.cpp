@@ -33,7 +33,6 @@ bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& place
 FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,
                        QWidget* parent)
     : QGroupBox(ToQt(frame.caption()), parent), grid_(new QGridLayout(this)) {
-  faces.Make<FrameFace>(frame, this);
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(8);
   grid_->setVerticalSpacing(4);
@@ -83,6 +82,7 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
           3);
       break;
     case ControlKind::TextArea:
+      grid_->setRowStretch(row, 1);
       grid_->addWidget(faces.Make<TextAreaFace>(static_cast<TextArea&>(control), this).widget(),
                        row, 0, 1, 3);
       break;

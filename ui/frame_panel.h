@@ -30,7 +30,7 @@ class FramePanel : public QGroupBox {
   std::vector<Unit> units_;
 };
 
-/// Stands for a frame.
+/// Stands for a frame that is shown and hidden in its place.
 class FrameFace : public Face {
  public:
   FrameFace(FaceSet& set, Frame& frame, FramePanel* panel);

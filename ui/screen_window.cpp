@@ -83,6 +83,7 @@ QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
     for (Frame* frame : screen_.frames()) {
       if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
       panels.push_back(new FramePanel(faces_, *frame, placed, body));
+      faces_.Make<FrameFace>(*frame, panels.back());
       labelWidth = std::max(labelWidth, panels.back()->labelWidth());
       unitWidth = std::max(unitWidth, panels.back()->unitWidth());
       column->addWidget(panels.back());
