@@ -10,7 +10,9 @@ namespace veldox {
 namespace {
 
 /// Room for the longest result, which has eleven decimals.
-constexpr int kFieldDigits = 14;
+constexpr int kFieldDigits = 13;
+/// Border and margins of a text box, and its point.
+constexpr int kFieldEdges = 20;
 /// Longer labels take a second line.
 constexpr int kLabelDigits = 30;
 
@@ -32,9 +34,7 @@ QLabel* MakeLabel(const Control& control, QWidget* parent) {
 /// A list whose row the wheel turns only while it has the focus.
 class CalmComboBox : public QComboBox {
  public:
-  explicit CalmComboBox(QWidget* parent) : QComboBox(parent) {
-    setFocusPolicy(Qt::StrongFocus);
-  }
+  explicit CalmComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
 
  protected:
   void wheelEvent(QWheelEvent* event) override {
@@ -54,7 +54,7 @@ FieldFace::FieldFace(FaceSet& set, Field& field, QWidget* parent)
       label_(MakeLabel(field, parent)),
       edit_(static_cast<FieldEdit*>(widget())),
       unit_(new QLabel(parent)) {
-  edit_->setFixedWidth(DigitsWidth(*edit_, kFieldDigits) + 2 * edit_->fontMetrics().height() / 3);
+  edit_->setFixedWidth(DigitsWidth(*edit_, kFieldDigits) + kFieldEdges);
   label_->setBuddy(edit_);
   unit_->setTextFormat(Qt::PlainText);
 }
@@ -69,8 +69,8 @@ void FieldFace::Follow() {
   if (unit != unit_->text()) unit_->setText(unit);
   // Assistive tools read the unit with the field, as eyes do.
   const QString help = ToQt(field_.help());
-  edit_->setAccessibleDescription(help.isEmpty() || unit.isEmpty() ? help + unit
-                                                                   : help + QLatin1Char(' ') + unit);
+  edit_->setAccessibleDescription(
+      help.isEmpty() || unit.isEmpty() ? help + unit : help + QLatin1Char(' ') + unit);
   label_->setVisible(field_.visible());
   unit_->setVisible(field_.visible());
   if (const QString text = ToQt(field_.text()); text != edit_->text()) {
@@ -122,12 +122,14 @@ OptionGroupFace::OptionGroupFace(FaceSet& set, OptionGroup& group, QWidget* pare
     : Face(set, group, new QWidget(parent)) {
   auto* grid = new QGridLayout(widget());
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(12);
+  grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(3);
   int row = 0;
   const int columns = std::max(1, group.buttonsInRow());
   if (!group.caption().empty()) {
-    grid->addWidget(MakeLabel(group, widget()), row++, 0, 1, columns);
+    QLabel* caption = MakeLabel(group, widget());
+    caption->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(caption, row++, 0, 1, columns);
   }
   int column = 0;
   for (const auto& option : group.buttons()) {

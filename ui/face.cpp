@@ -9,20 +9,17 @@
 namespace veldox {
 namespace {
 
-/// False for what only holds or names other controls.
+/// False for the places that show help and reports: whoever reads them must not wipe them.
 bool TakesPointer(const Control& control) {
-  switch (control.kind()) {
-    case ControlKind::Frame:
-    case ControlKind::OptionGroup:
-    case ControlKind::Label:
-    case ControlKind::ReportBox:
-      return false;
-    default:
-      return true;
-  }
+  return control.kind() != ControlKind::ReportBox && &control != control.screen().HelpPlace();
 }
 
 }  // namespace
+
+bool MovedOnPurpose(Qt::FocusReason reason) {
+  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+         reason != Qt::MenuBarFocusReason;
+}
 
 Face::Face(FaceSet& set, Control& control, QWidget* widget)
     : set_(set), control_(control), widget_(widget) {
@@ -32,7 +29,9 @@ Face::Face(FaceSet& set, Control& control, QWidget* widget)
   control_.SetFace(this);
 }
 
-Face::~Face() { control_.SetFace(nullptr); }
+Face::~Face() {
+  control_.SetFace(nullptr);
+}
 
 void Face::FocusRequested(Control&) {
   // The program may ask in the middle of a change of focus; that has to end first.
@@ -64,27 +63,32 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Enter:
       if (TakesPointer(control_)) control_.screen().Hover(&control_);
       break;
-    case QEvent::FocusIn:
-      if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) FocusCame();
+    case QEvent::FocusIn: FocusCame(static_cast<QFocusEvent*>(event)->reason()); break;
+    case QEvent::KeyPress:
+      // The first key after the window came to the front enters the control.
+      if (control_.screen().focus() != &control_) EnterControl();
       break;
-    case QEvent::FocusOut: {
-      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-      if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) FocusWent();
+    case QEvent::FocusOut:
+      if (MovedOnPurpose(static_cast<QFocusEvent*>(event)->reason())) FocusWent();
       break;
-    }
-    default:
-      break;
+    default: break;
   }
   return false;
 }
 
-void Face::FocusCame() {
+void Face::FocusCame(Qt::FocusReason reason) {
+  // A window that comes to the front enters nothing.
+  if (!MovedOnPurpose(reason) || !EnterControl()) return;
+  const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                          reason == Qt::ShortcutFocusReason;
+  if (byKeyboard) control_.screen().Hover(&control_);
+}
+
+bool Face::EnterControl() {
   Screen& screen = control_.screen();
-  if (screen.focus() != &control_ && !screen.MoveFocus(&control_)) {
-    set_.ReturnFocus();
-    return;
-  }
-  if (!control_.help().empty()) screen.Hover(&control_);
+  if (screen.focus() == &control_ || screen.MoveFocus(&control_)) return true;
+  set_.ReturnFocus();
+  return false;
 }
 
 void Face::FocusWent() {

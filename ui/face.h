@@ -15,6 +15,10 @@ class FaceSet;
 /// Said of every command, menu item and launcher button whose work is not built yet.
 inline constexpr const char* kNotAvailable = "Not available yet";
 
+/// True when the user or the program moved the focus to or from a widget itself, and not
+/// the window came to the front or a menu opened and closed.
+bool MovedOnPurpose(Qt::FocusReason reason);
+
 /// Stands for one control in a window: shows what the control holds and tells it what
 /// the user does. Neither knows more of the other.
 class Face : public QObject, public ControlFace {
@@ -35,7 +39,9 @@ class Face : public QObject, public ControlFace {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void FocusCame();
+  void FocusCame(Qt::FocusReason reason);
+  /// Moves the screen's focus here. False when the field that is left keeps it.
+  bool EnterControl();
   void FocusWent();
 
   FaceSet& set_;

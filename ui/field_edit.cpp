@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <memory>
 
+#include "ui/face.h"
 #include "ui/qt_text.h"
 
 namespace veldox {
@@ -39,15 +40,11 @@ bool IsEnter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// Why the focus came, when the user or the program moved it on purpose.
-bool MovedOnPurpose(Qt::FocusReason reason) {
-  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
-}
-
 }  // namespace
 
 FieldEdit::FieldEdit(TextControl& field, QWidget* parent) : QLineEdit(parent), field_(field) {
   setAcceptDrops(!output());
+  setTextMargins(3, 0, 3, 0);
   // Results are for reading: dragging them about would take them away.
   setDragEnabled(false);
   connect(this, &QLineEdit::textEdited, this,
@@ -111,7 +108,9 @@ void FieldEdit::focusInEvent(QFocusEvent* event) {
   // The focus arrives before the press that brought it.
   if (event->reason() == Qt::MouseFocusReason) SetMouseDown(true);
   QLineEdit::focusInEvent(event);
-  if (!MovedOnPurpose(event->reason())) return;
+  // Coming back to the window leaves caret and selection as they were; a field that was
+  // not entered before is entered now.
+  if (!MovedOnPurpose(event->reason()) && field_.screen().focus() == &field_) return;
   if (field_.Enter()) {
     selectAll();
   } else {
@@ -147,7 +146,9 @@ void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
   menu->exec(event->globalPos());
 }
 
-void FieldEdit::SetMouseDown(bool down) { field_.screen().block().FieldMouseDown = down ? 1 : 0; }
+void FieldEdit::SetMouseDown(bool down) {
+  field_.screen().block().FieldMouseDown = down ? 1 : 0;
+}
 
 LinesEdit::LinesEdit(TextControl& control, QWidget* parent)
     : QPlainTextEdit(parent), control_(control) {
@@ -173,6 +174,7 @@ void LinesEdit::Show(const QString& text) {
   showing_ = true;
   setPlainText(text);
   showing_ = false;
+  if (!isReadOnly()) moveCursor(QTextCursor::End);
 }
 
 void LinesEdit::keyPressEvent(QKeyEvent* event) {

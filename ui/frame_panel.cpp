@@ -34,8 +34,8 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
                        QWidget* parent)
     : QGroupBox(ToQt(frame.caption()), parent), grid_(new QGridLayout(this)) {
   grid_->setContentsMargins(0, 0, 0, 0);
-  grid_->setHorizontalSpacing(8);
-  grid_->setVerticalSpacing(4);
+  grid_->setHorizontalSpacing(6);
+  grid_->setVerticalSpacing(3);
   grid_->setColumnStretch(0, 1);
   std::vector<Command*> commands;
   for (Control* control : frame.controls()) {
@@ -104,8 +104,7 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
   const int fitting = (room + cells->spacing()) / (Widest(buttons) + cells->spacing());
-  const int columns = std::clamp(std::min(fitting, static_cast<int>(buttons.size())), 1,
-                                 kMostCommandsInRow);
+  const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
   for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
     QWidget* button = buttons[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
@@ -119,7 +118,9 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   grid_->addLayout(cells, row + 1, 0, 1, 3);
 }
 
-int FramePanel::labelWidth() const { return Widest(labels_); }
+int FramePanel::labelWidth() const {
+  return Widest(labels_);
+}
 
 int FramePanel::unitWidth() const {
   int widest = 0;
@@ -128,7 +129,8 @@ int FramePanel::unitWidth() const {
       widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(UnitSign(unit, metric))));
     }
   }
-  return widest;
+  // A label asks for a little more than its text.
+  return widest == 0 ? 0 : widest + 3;
 }
 
 void FramePanel::Align(int labelWidth, int unitWidth) {

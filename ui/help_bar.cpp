@@ -25,9 +25,9 @@ HelpBar::HelpBar(QWidget* parent) : QWidget(parent), label_(new QLabel(this)) {
   label_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   label_->setTextInteractionFlags(Qt::NoTextInteraction);
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(10, 4, 10, 4);
+  row->setContentsMargins(10, 2, 10, 2);
   row->addWidget(label_);
-  setFixedHeight(fontMetrics().lineSpacing() * kHelpLines + 12);
+  setFixedHeight(fontMetrics().lineSpacing() * kHelpLines + 8);
   // A long sentence must not widen the window.
   label_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
 }
@@ -64,6 +64,7 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
   } buttons[] = {{"Write to File  (.)", U'.'}, {"Print  (,)", U','}};
   for (const auto& [caption, key] : buttons) {
     auto* button = new QPushButton(QLatin1String(caption), this);
+    button->setMinimumWidth(button->sizeHint().width() + 24);
     const char32_t code = key;
     connect(button, &QPushButton::clicked, edit_, [&box, code] { box.FilterKey(code); });
     keys->addWidget(button);
@@ -83,8 +84,7 @@ ReportFace::ReportFace(FaceSet& set, ReportBox& box, ReportPanel* panel, HelpBar
 
 void ReportFace::Follow() {
   const std::string& text = box_.text();
-  const bool sentence =
-      help_ != nullptr && std::count(text.begin(), text.end(), '\n') < kHelpLines;
+  const bool sentence = help_ != nullptr && std::count(text.begin(), text.end(), '\n') < kHelpLines;
   if (help_ != nullptr) {
     help_->label()->setText(sentence && box_.visible() ? ToQtLines(text) : QString());
   }

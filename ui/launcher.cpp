@@ -33,6 +33,7 @@ Launcher::Launcher(Shell& shell, Chooser choose, QWidget* parent)
     auto* button = new QPushButton(ToQt(item.text), group);
     button->setObjectName(QStringLiteral("Launch_") + ToQt(item.menuItem));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    button->setMinimumHeight(button->sizeHint().height() * 5 / 4);
     button->setEnabled(shell.MenuEnabled(*menuItem));
     if (!button->isEnabled()) button->setToolTip(QLatin1String(kNotAvailable));
     connect(button, &QPushButton::clicked, this, [choose, menuItem] { choose(*menuItem); });

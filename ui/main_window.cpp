@@ -19,7 +19,7 @@
 namespace veldox {
 namespace {
 
-constexpr QSize kPreferredSize(1010, 660);
+constexpr QSize kPreferredSize(1000, 600);
 constexpr int kNarrowest = 700;
 constexpr int kMargin = 10;
 
@@ -45,8 +45,7 @@ class MainWindow::PanelFace : public ControlFace {
   Frame& frame_;
 };
 
-MainWindow::MainWindow(Shell& shell)
-    : shell_(shell), faces_(shell), menu_(new MenuRows(this)) {
+MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new MenuRows(this)) {
   setObjectName(ToQt(shell.name()));
   setWindowTitle(ToQt(shell.title()));
   for (const MenuItem& item : Shell::Menu()) {
@@ -79,7 +78,9 @@ MainWindow::MainWindow(Shell& shell)
   shell_.SetShellFace(this);
 }
 
-MainWindow::~MainWindow() { shell_.SetShellFace(nullptr); }
+MainWindow::~MainWindow() {
+  shell_.SetShellFace(nullptr);
+}
 
 void MainWindow::BuildPages() {
   pages_ = new QStackedWidget(this);
@@ -87,8 +88,8 @@ void MainWindow::BuildPages() {
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidgetResizable(true);
-  scroll->setWidget(
-      new Launcher(shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
+  scroll->setWidget(new Launcher(
+      shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
   pages_->addWidget(scroll);
   for (Frame* frame : shell_.frames()) {
     if (frame->visible()) continue;

@@ -119,8 +119,9 @@ void MenuRows::Distribute() {
       }
     }
     shownRows_ = static_cast<int>(breaks_.size());
+    updateGeometry();
   }
-  const int rowHeight = rows_.front()->sizeHint().height();
+  const int rowHeight = RowHeight();
   for (int i = 0; i < static_cast<int>(rows_.size()); ++i) {
     MenuRow* row = rows_[static_cast<std::size_t>(i)];
     row->setVisible(i < shownRows_);
@@ -128,26 +129,28 @@ void MenuRows::Distribute() {
   }
 }
 
-int MenuRows::heightForWidth(int width) const {
-  const int text = fontMetrics().height();
-  QStyleOptionMenuItem option;
-  option.initFrom(this);
-  const int item = style()
-                       ->sizeFromContents(QStyle::CT_MenuBarItem, &option, QSize(text, text), this)
-                       .height();
-  const int row = rows_.empty() ? item + 2 : rows_.front()->sizeHint().height();
-  return row * static_cast<int>(Break(width).size());
+int MenuRows::RowHeight() const {
+  if (!rows_.empty()) return rows_.front()->sizeHint().height();
+  return MenuRow(true, nullptr).sizeHint().height();
 }
 
-QSize MenuRows::sizeHint() const { return QSize(width(), heightForWidth(std::max(1, width()))); }
+int MenuRows::heightForWidth(int width) const {
+  return RowHeight() * static_cast<int>(Break(width).size());
+}
+
+QSize MenuRows::sizeHint() const {
+  return QSize(minimumSizeHint().width(), RowHeight() * std::max(1, shownRows_));
+}
 
 QSize MenuRows::minimumSizeHint() const {
   int widest = 0;
   for (const QAction* action : actions_) widest = std::max(widest, ItemWidth(*action));
-  return QSize(widest, 0);
+  return QSize(widest, RowHeight() * std::max(1, shownRows_));
 }
 
-void MenuRows::resizeEvent(QResizeEvent*) { Distribute(); }
+void MenuRows::resizeEvent(QResizeEvent*) {
+  Distribute();
+}
 
 void MenuRows::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {

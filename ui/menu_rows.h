@@ -46,6 +46,7 @@ class MenuRows : public QWidget {
   /// Index of the last item of each row at a width.
   std::vector<int> Break(int width) const;
   int ItemWidth(const QAction& action) const;
+  int RowHeight() const;
   void Distribute();
   /// Goes on from an end of a row at the other row's end.
   void Cross(const MenuRow& from, bool forward);

@@ -24,30 +24,21 @@ namespace {
 
 QMessageBox::Icon QtIcon(Icon icon) {
   switch (icon) {
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::Warning:
-      return QMessageBox::Warning;
-    case Icon::Question:
-      return QMessageBox::Question;
-    case Icon::Error:
-      return QMessageBox::Critical;
-    case Icon::None:
-      break;
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::Warning: return QMessageBox::Warning;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Error: return QMessageBox::Critical;
+    case Icon::None: break;
   }
   return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButton QtButton(Button button) {
   switch (button) {
-    case Button::OK:
-      return QMessageBox::Ok;
-    case Button::Cancel:
-      return QMessageBox::Cancel;
-    case Button::Yes:
-      return QMessageBox::Yes;
-    case Button::No:
-      return QMessageBox::No;
+    case Button::OK: return QMessageBox::Ok;
+    case Button::Cancel: return QMessageBox::Cancel;
+    case Button::Yes: return QMessageBox::Yes;
+    case Button::No: return QMessageBox::No;
   }
   return QMessageBox::Ok;
 }
@@ -95,10 +86,10 @@ std::vector<FileKind> SplitFilter(const std::string& filter) {
 }
 
 bool ConfirmOverwrite(const QString& file) {
-  QMessageBox box(QMessageBox::Warning, QObject::tr("Save"),
-                  QFileInfo(file).fileName() +
-                      QStringLiteral(" already exists.\nDo you want to replace it?"),
-                  QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  QMessageBox box(
+      QMessageBox::Warning, QObject::tr("Save"),
+      QFileInfo(file).fileName() + QStringLiteral(" already exists.\nDo you want to replace it?"),
+      QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
   box.setDefaultButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
 }
@@ -128,7 +119,8 @@ Button QtHost::Ask(const Message& message) {
 std::optional<std::filesystem::path> QtHost::AskFile(const FileDialog& dialog) {
   const std::vector<FileKind> kinds = SplitFilter(dialog.filter);
   const bool save = dialog.kind == FileDialog::Kind::Save;
-  QFileDialog box(QApplication::activeWindow(), save ? QStringLiteral("Save") : QStringLiteral("Open"),
+  QFileDialog box(QApplication::activeWindow(),
+                  save ? QStringLiteral("Save") : QStringLiteral("Open"),
                   ToQt(dialog.folder.u8string().empty() ? std::string() : dialog.folder.string()));
   box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -178,7 +170,7 @@ ClockTime QtHost::Now() {
 
 DecimalMark QtHost::SystemDecimalMark() {
   return QLocale::system().decimalPoint() == QLatin1String(",") ? DecimalMark::Comma
-                                                                 : DecimalMark::Point;
+                                                                : DecimalMark::Point;
 }
 
 std::filesystem::path QtHost::ProgramFolder() {

@@ -12,7 +12,9 @@ inline QString ToQt(std::string_view text) {
 }
 
 /// A text of the toolkit for the program.
-inline std::string FromQt(const QString& text) { return text.toStdString(); }
+inline std::string FromQt(const QString& text) {
+  return text.toStdString();
+}
 
 /// A text over several lines for a widget, which knows line feeds alone.
 inline QString ToQtLines(std::string_view text) {

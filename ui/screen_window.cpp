@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/column_flow.h"
 #include "ui/control_faces.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
@@ -15,8 +16,8 @@
 namespace veldox {
 namespace {
 
-constexpr int kWindowMargin = 10;
-constexpr int kFrameGap = 10;
+constexpr int kWindowMargin = 8;
+constexpr int kFrameGap = 8;
 /// What a window manager puts around a window.
 constexpr QSize kDecoration(10, 40);
 
@@ -29,28 +30,25 @@ QSize FittingSize(const QWidget& window, QSize wanted) {
 
 void OrderTabs(const FaceSet& faces) {
   QWidget* last = nullptr;
-  for (const auto& face : faces.all()) {
-    QWidget* next = face->widget();
-    if (next->focusPolicy() == Qt::NoFocus) continue;
-    if (last != nullptr) QWidget::setTabOrder(last, next);
-    last = next;
+  for (const Control* control : faces.screen().controls()) {
+    const Face* face = faces.Of(*control);
+    if (face == nullptr || face->widget()->focusPolicy() == Qt::NoFocus) continue;
+    if (last != nullptr) QWidget::setTabOrder(last, face->widget());
+    last = face->widget();
   }
 }
 
 ScreenWindow::ScreenWindow(Screen& screen)
-    : screen_(screen), faces_(screen), scroll_(new QScrollArea(this)) {
+    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
   Control* quit = screen.Find("subend");
   std::vector<const Control*> placed;
-  for (const Control* control : {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()),
-                                 quit}) {
+  for (const Control* control :
+       {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()), quit}) {
     if (control != nullptr) placed.push_back(control);
   }
 
-  scroll_->setFrameShape(QFrame::NoFrame);
-  scroll_->setFocusPolicy(Qt::NoFocus);
-  scroll_->setWidgetResizable(true);
   scroll_->setWidget(BuildBody(placed));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
@@ -62,7 +60,7 @@ ScreenWindow::ScreenWindow(Screen& screen)
 }
 
 QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
-  auto* body = new QWidget;
+  auto* body = new ColumnFlow(kWindowMargin, kFrameGap, scroll_);
   body->setMouseTracking(true);
   body->installEventFilter(this);
   setMouseTracking(true);
@@ -70,29 +68,30 @@ QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
 
   int columns = 1;
   for (const Frame* frame : screen_.frames()) columns = std::max(columns, frame->column() + 1);
-  auto* row = new QHBoxLayout(body);
-  row->setContentsMargins(kWindowMargin, kWindowMargin, kWindowMargin, 2);
-  row->setSpacing(kFrameGap);
-  row->addStretch(1);
   for (int i = 0; i < columns; ++i) {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(kFrameGap);
+    auto* column = new QWidget(body);
+    column->setMouseTracking(true);
+    column->installEventFilter(this);
+    auto* frames = new QVBoxLayout(column);
+    frames->setContentsMargins(0, 0, 0, 0);
+    frames->setSpacing(kFrameGap);
     std::vector<FramePanel*> panels;
     int labelWidth = 0;
     int unitWidth = 0;
     for (Frame* frame : screen_.frames()) {
       if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
-      panels.push_back(new FramePanel(faces_, *frame, placed, body));
+      panels.push_back(new FramePanel(faces_, *frame, placed, column));
       faces_.Make<FrameFace>(*frame, panels.back());
       labelWidth = std::max(labelWidth, panels.back()->labelWidth());
       unitWidth = std::max(unitWidth, panels.back()->unitWidth());
-      column->addWidget(panels.back());
+      frames->addWidget(panels.back());
     }
     for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
-    column->addStretch(1);
-    row->addLayout(column);
+    body->Add(column);
+    backgrounds_.push_back(column);
   }
-  row->addStretch(1);
+  backgrounds_.push_back(body);
+  backgrounds_.push_back(this);
   return body;
 }
 
@@ -126,13 +125,18 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
 }
 
 void ScreenWindow::SizeToScreen() {
-  const QSize body = scroll_->widget()->sizeHint();
-  const QSize foot(0, layout()->minimumSize().height() - scroll_->minimumSizeHint().height());
-  QSize wanted(body.width(), body.height() + foot.height());
-  const QSize fitting = FittingSize(*this, wanted);
-  // A bar for scrolling down takes its room beside the frames, not from them.
-  if (fitting.height() < wanted.height()) wanted.rwidth() += scroll_->verticalScrollBar()->sizeHint().width();
-  resize(FittingSize(*this, wanted));
+  const QWidget& body = *scroll_->widget();
+  const int foot = layout()->minimumSize().height() - scroll_->minimumSizeHint().height();
+  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+  int width = std::min(body.sizeHint().width(), room.width());
+  int height = body.heightForWidth(width) + foot;
+  if (height > room.height()) {
+    // The bar for scrolling down takes its room beside the frames, not from them.
+    width = std::min(width + bar, room.width());
+    height = room.height();
+  }
+  resize(width, height);
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
@@ -142,8 +146,10 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
-  const bool background = watched == this || watched == scroll_->widget();
-  if (background && event->type() == QEvent::MouseMove) screen_.Hover(nullptr);
+  if (event->type() == QEvent::MouseMove &&
+      std::find(backgrounds_.begin(), backgrounds_.end(), watched) != backgrounds_.end()) {
+    screen_.Hover(nullptr);
+  }
   return QWidget::eventFilter(watched, event);
 }
 

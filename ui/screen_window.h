@@ -28,13 +28,14 @@ class ScreenWindow : public QWidget {
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
+  std::vector<const QObject*> backgrounds_;
 };
 
 /// The size of a window whose contents would like `wanted`: as much of it as the screen
 /// has room for, title bar and borders counted.
 QSize FittingSize(const QWidget& window, QSize wanted);
 
-/// Walks the tab key through the faces in their order.
+/// Walks the tab key through the controls in the screen's reading order.
 void OrderTabs(const FaceSet& faces);
 
 }  // namespace veldox

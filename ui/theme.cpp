@@ -1,11 +1,15 @@
 #include "ui/theme.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
+#include <QPolygonF>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <memory>
 
 #include "ui/field_edit.h"
 #include "ui/menu_rows.h"
@@ -13,8 +17,8 @@
 namespace veldox {
 namespace {
 
-constexpr int kFramePadding = 10;
-constexpr int kTitleGap = 6;
+constexpr int kFramePadding = 8;
+constexpr int kTitleGap = 5;
 constexpr double kFrameRadius = 6;
 constexpr double kControlRadius = 4;
 
@@ -44,7 +48,7 @@ QPalette MakePalette(const PaletteColors& c) {
   palette.setColor(QPalette::ToolTipBase, QColor(c.toolTip));
   palette.setColor(QPalette::ToolTipText, text);
   palette.setColor(QPalette::Link, QColor(c.link));
-  palette.setColor(QPalette::PlaceholderText, Blend(QColor(c.base), text, 0.5));
+  palette.setColor(QPalette::PlaceholderText, Blend(QColor(c.base), text, 0.64));
   const QColor faint = Blend(window, text, 0.45);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, faint);
@@ -54,15 +58,25 @@ QPalette MakePalette(const PaletteColors& c) {
   return palette;
 }
 
+QPalette PlainFusion() {
+  const std::unique_ptr<QStyle> fusion(QStyleFactory::create(QStringLiteral("Fusion")));
+  return fusion->standardPalette();
+}
+
+bool SameColors(const QPalette& a, const QPalette& b) {
+  return a.color(QPalette::Window) == b.color(QPalette::Window) &&
+         a.color(QPalette::Base) == b.color(QPalette::Base) &&
+         a.color(QPalette::Highlight) == b.color(QPalette::Highlight);
+}
+
 /// Fusion with flat buttons, frames as cards and fields that show their marks.
 class FlatStyle : public QProxyStyle {
  public:
   FlatStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-  QPalette standardPalette() const override { return MakePalette(kLight); }
-
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     // The Alt key alone leads into one menu row, not into each.
     if (hint == SH_MenuBar_AltKeyNavigation) {
       if (const auto* row = dynamic_cast<const MenuRow*>(widget)) return row->first() ? 1 : 0;
@@ -79,17 +93,33 @@ class FlatStyle : public QProxyStyle {
           return;
         }
         break;
-      case PE_PanelButtonCommand:
-        DrawButton(*option, painter);
+      case PE_PanelButtonCommand: DrawButton(*option, painter); return;
+      case PE_IndicatorCheckBox:
+      case PE_IndicatorRadioButton:
+        DrawIndicator(*option, element == PE_IndicatorRadioButton, painter);
         return;
       case PE_FrameFocusRect:
         // The button's own border tells the focus.
         if (dynamic_cast<const QPushButton*>(widget) != nullptr) return;
         break;
-      default:
-        break;
+      default: break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (element == CE_MenuBarEmptyArea) {
+      painter->fillRect(option->rect, option->palette.window());
+      return;
+    }
+    if (const auto* item = element == CE_MenuBarItem
+                               ? qstyleoption_cast<const QStyleOptionMenuItem*>(option)
+                               : nullptr) {
+      DrawMenuBarItem(*item, painter);
+      return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -103,22 +133,31 @@ class FlatStyle : public QProxyStyle {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
 
-  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
-                       SubControl part, const QWidget* widget) const override {
-    const auto* box = control == CC_GroupBox
-                          ? qstyleoption_cast<const QStyleOptionGroupBox*>(option)
-                          : nullptr;
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    const ThemeColors colors(widget != nullptr ? widget->palette() : QApplication::palette());
+    switch (which) {
+      case SP_MessageBoxInformation: return SignIcon(colors.accent, QLatin1Char('i'));
+      case SP_MessageBoxQuestion: return SignIcon(colors.accent, QLatin1Char('?'));
+      case SP_MessageBoxWarning: return SignIcon(QColor(0xd98200), QLatin1Char('!'));
+      case SP_MessageBoxCritical: return SignIcon(QColor(0xc62828), QChar(0x00d7));
+      default: return QProxyStyle::standardIcon(which, option, widget);
+    }
+  }
+
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                       const QWidget* widget) const override {
+    const auto* box =
+        control == CC_GroupBox ? qstyleoption_cast<const QStyleOptionGroupBox*>(option) : nullptr;
     if (box == nullptr) return QProxyStyle::subControlRect(control, option, part, widget);
     const int title = box->text.isEmpty() ? 0 : box->fontMetrics.height() + kTitleGap;
     const QRect inner =
         box->rect.adjusted(kFramePadding, kFramePadding - 2, -kFramePadding, -kFramePadding);
     switch (part) {
-      case SC_GroupBoxContents:
-        return inner.adjusted(0, title, 0, 0);
+      case SC_GroupBoxContents: return inner.adjusted(0, title, 0, 0);
       case SC_GroupBoxLabel:
         return QRect(inner.left(), inner.top(), inner.width(), box->fontMetrics.height());
-      default:
-        return box->rect;
+      default: return box->rect;
     }
   }
 
@@ -127,9 +166,9 @@ class FlatStyle : public QProxyStyle {
     const auto* box =
         type == CT_GroupBox ? qstyleoption_cast<const QStyleOptionGroupBox*>(option) : nullptr;
     if (box == nullptr) return QProxyStyle::sizeFromContents(type, option, contents, widget);
-    return QSize(QFontMetrics(TitleFont(*box, widget)).horizontalAdvance(box->text) +
-                     2 * kFramePadding,
-                 contents.height() + 2 * kFramePadding);
+    return QSize(
+        QFontMetrics(TitleFont(*box, widget)).horizontalAdvance(box->text) + 2 * kFramePadding,
+        contents.height() + 2 * kFramePadding);
   }
 
  private:
@@ -146,6 +185,22 @@ class FlatStyle : public QProxyStyle {
     painter->setBrush(fill);
     painter->drawRoundedRect(rect.adjusted(width / 2, width / 2, -width / 2, -width / 2), radius,
                              radius);
+  }
+
+  void DrawMenuBarItem(const QStyleOptionMenuItem& item, QPainter* painter) const {
+    const bool on = (item.state & State_Enabled) != 0;
+    const bool chosen = on && (item.state & State_Selected) != 0;
+    painter->fillRect(item.rect, item.palette.window());
+    if (chosen) {
+      painter->save();
+      Panel(painter, QRectF(item.rect).adjusted(1, 1, -1, -1), kControlRadius,
+            item.palette.color(QPalette::Highlight), item.palette.color(QPalette::Highlight));
+      painter->restore();
+    }
+    drawItemText(painter, item.rect,
+                 Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine,
+                 item.palette, on, item.text,
+                 chosen ? QPalette::HighlightedText : QPalette::ButtonText);
   }
 
   static void DrawFrame(const QStyleOptionGroupBox& box, QPainter* painter) {
@@ -180,6 +235,51 @@ class FlatStyle : public QProxyStyle {
     if (!on) line = Blend(colors.card, text, 0.25);
     painter->save();
     Panel(painter, option.rect, kControlRadius, fill, line, focused ? 2 : 1);
+    painter->restore();
+  }
+
+  /// A white sign on a coloured disc.
+  static QIcon SignIcon(const QColor& color, QChar sign) {
+    constexpr int kSide = 128;
+    QPixmap pixmap(kSide, kSide);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(8, 8, kSide - 16, kSide - 16);
+    QFont font = QApplication::font();
+    font.setPixelSize(kSide * 5 / 8);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(pixmap.rect(), Qt::AlignCenter, sign);
+    return QIcon(pixmap);
+  }
+
+  static void DrawIndicator(const QStyleOption& option, bool round, QPainter* painter) {
+    const ThemeColors colors(option.palette);
+    const bool enabled = (option.state & State_Enabled) != 0;
+    const bool on = (option.state & State_On) != 0;
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    QColor fill = enabled ? option.palette.color(QPalette::Base) : colors.card;
+    QColor line = enabled ? colors.fieldBorder : colors.border;
+    if (on) fill = line = enabled ? colors.accent : colors.fieldBorder;
+    if ((option.state & State_HasFocus) != 0) line = colors.accent;
+    painter->save();
+    Panel(painter, box, round ? box.width() / 2 : 3, fill, line);
+    const QColor sign = option.palette.color(QPalette::HighlightedText);
+    if (on && round) {
+      painter->setPen(Qt::NoPen);
+      painter->setBrush(sign);
+      painter->drawEllipse(box.center(), box.width() / 5, box.width() / 5);
+    } else if (on) {
+      painter->setPen(QPen(sign, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      const auto at = [&](double x, double y) {
+        return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+      };
+      painter->drawPolyline(QPolygonF{at(0.24, 0.54), at(0.42, 0.72), at(0.76, 0.3)});
+    }
     painter->restore();
   }
 
@@ -239,13 +339,11 @@ void ApplyTheme(QApplication& app, Theme theme) {
   switch (theme) {
     case Theme::System:
       app.setPalette(QPalette());
+      // A desktop that names no colours of its own hands on the plain grey ones.
+      if (SameColors(QApplication::palette(), PlainFusion())) app.setPalette(MakePalette(kLight));
       break;
-    case Theme::Light:
-      app.setPalette(MakePalette(kLight));
-      break;
-    case Theme::Dark:
-      app.setPalette(MakePalette(kDark));
-      break;
+    case Theme::Light: app.setPalette(MakePalette(kLight)); break;
+    case Theme::Dark: app.setPalette(MakePalette(kDark)); break;
   }
 }
 

@@ -55,7 +55,9 @@ void TitleArea::Finish() {
   Place();
 }
 
-void TitleArea::resizeEvent(QResizeEvent*) { Place(); }
+void TitleArea::resizeEvent(QResizeEvent*) {
+  Place();
+}
 
 void TitleArea::showEvent(QShowEvent*) {
   if (shell_.titleAnimation().running()) timer_.start();

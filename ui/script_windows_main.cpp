@@ -1,0 +1,24 @@
+#include <cstdio>
+
+#include "script/arguments.h"
+#include "script/runner.h"
+#include "ui/application.h"
+#include "ui/theme.h"
+#include "ui/window_driver.h"
+
+int main(int argc, char** argv) {
+  std::string wrong;
+  const auto arguments =
+      veldox::ParseScriptArguments(std::vector<std::string>(argv + 1, argv + argc), wrong);
+  if (!arguments) {
+    std::fprintf(stderr, "veldox-script: %s\n%s\n", wrong.c_str(), veldox::kScriptUsage);
+    return 2;
+  }
+  veldox::Application app(argc, argv);
+  veldox::ApplyTheme(app, veldox::Theme::System);
+  // A script closes and opens windows as it likes; its last line ends the program.
+  veldox::Application::setQuitOnLastWindowClosed(false);
+  return veldox::RunScriptFile(*arguments, [](veldox::Program& program) {
+    return std::make_unique<veldox::WindowDriver>(program.shell());
+  });
+}
