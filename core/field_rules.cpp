@@ -59,24 +59,12 @@ void FieldRules::NoteChange() {
 
 void FieldRules::Filter(KeyRule rule, std::string_view text, char32_t& key) {
   switch (rule) {
-    case KeyRule::AnyText:
-      NoteChange();
-      break;
-    case KeyRule::OutputOnly:
-      KeyOutputOnly(key);
-      break;
-    case KeyRule::Digits:
-      KeyDigits(key);
-      break;
-    case KeyRule::UnsignedReal:
-      KeyUnsignedReal(text, key);
-      break;
-    case KeyRule::SignedReal:
-      KeySignedReal(text, key);
-      break;
-    case KeyRule::SignedDigits:
-      KeySignedDigits(text, key);
-      break;
+    case KeyRule::AnyText: NoteChange(); break;
+    case KeyRule::OutputOnly: KeyOutputOnly(key); break;
+    case KeyRule::Digits: KeyDigits(key); break;
+    case KeyRule::UnsignedReal: KeyUnsignedReal(text, key); break;
+    case KeyRule::SignedReal: KeySignedReal(text, key); break;
+    case KeyRule::SignedDigits: KeySignedDigits(text, key); break;
   }
 }
 
@@ -130,14 +118,10 @@ bool FieldRules::FieldGotFocus(std::string_view text) const {
 
 bool FieldRules::Check(LeaveCheck check, TextControl& field) {
   switch (check) {
-    case LeaveCheck::None:
-      return true;
-    case LeaveCheck::NotBlank:
-      return CheckNotBlank(field);
-    case LeaveCheck::HasDigits:
-      return CheckHasDigits(field);
-    case LeaveCheck::NotZero:
-      return CheckNotZero(field);
+    case LeaveCheck::None: return true;
+    case LeaveCheck::NotBlank: return CheckNotBlank(field);
+    case LeaveCheck::HasDigits: return CheckHasDigits(field);
+    case LeaveCheck::NotZero: return CheckNotZero(field);
   }
   return true;
 }

@@ -86,6 +86,7 @@ std::string FormatField11(double value, DecimalMark mark);
 std::string FormatInt(double value, DecimalMark mark);
 
 /// The shortest text that reads back to the same double, always with a point.
+/// @throws CommandError as FormatByPattern does
 std::string FormatShortest(double value);
 
 /// Reads a number as a user types it: blanks around it, a sign, digits, one

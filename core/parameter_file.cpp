@@ -316,16 +316,12 @@ class ParameterFile::Writer {
         written_.bytes += row.key;
         EndLine();
         return;
-      case KeyForm::Number:
-        Record(row.key, FormatSmart(value, mark_));
-        return;
+      case KeyForm::Number: Record(row.key, FormatSmart(value, mark_)); return;
       case KeyForm::NumberOrField:
         Record(row.key,
                value != 0 ? FormatSmart(value, mark_) : FieldText(row, FormatSmart(0, mark_)));
         return;
-      case KeyForm::Integer:
-        WriteInteger(row, AsOptionGroup(owner), value);
-        return;
+      case KeyForm::Integer: WriteInteger(row, AsOptionGroup(owner), value); return;
       case KeyForm::IntegerOrField:
         Record(row.key, value != 0 ? FormatInt(value, mark_) : FieldText(row, FormatInt(0, mark_)));
         return;
@@ -341,15 +337,9 @@ class ParameterFile::Writer {
         Record(row.key, Trim(text).empty() ? FormatSmart(0, mark_) : OneLine(text));
         return;
       }
-      case KeyForm::Text:
-        Record(row.key, OneLine(*TextOf(row, block_)));
-        return;
-      case KeyForm::YesNo:
-        Record(row.key, IsOn(owner, value) ? "Yes" : "No");
-        return;
-      case KeyForm::OnOff:
-        Record(row.key, IsOn(owner, value) ? "ON" : "OFF");
-        return;
+      case KeyForm::Text: Record(row.key, OneLine(*TextOf(row, block_))); return;
+      case KeyForm::YesNo: Record(row.key, IsOn(owner, value) ? "Yes" : "No"); return;
+      case KeyForm::OnOff: Record(row.key, IsOn(owner, value) ? "ON" : "OFF"); return;
       case KeyForm::Table:
         for (int i = row.firstRow; i < row.rows; ++i) WriteTableRow(row, i);
         return;
@@ -383,17 +373,11 @@ class ParameterFile::Writer {
     }
     text += " = ";
     switch (row.tableForm) {
-      case TableForm::Fields:
-        AppendField(cell(0));
-        break;
+      case TableForm::Fields: AppendField(cell(0)); break;
       case TableForm::Smart:
       case TableForm::GearIndexed:
-      case TableForm::GearChangeTime:
-        AppendSmart(cell(0));
-        break;
-      case TableForm::GearChangeRpm:
-        AppendInt(cell(0));
-        break;
+      case TableForm::GearChangeTime: AppendSmart(cell(0)); break;
+      case TableForm::GearChangeRpm: AppendInt(cell(0)); break;
       case TableForm::NitrousStages:
         if (index < kGearStages) {
           AppendInt(cell(0));
@@ -406,8 +390,7 @@ class ParameterFile::Writer {
         AppendField(cell(0));
         AppendFurtherFields(row, index);
         break;
-      case TableForm::None:
-        break;
+      case TableForm::None: break;
     }
     EndLine();
   }
@@ -724,20 +707,11 @@ class ParameterFile::Reader {
     }
     double torque = value;
     switch (unit) {
-      case TorqueUnit::PoundFeet:
-        break;
-      case TorqueUnit::Horsepower:
-        torque = value * 5252 / rpm;
-        break;
-      case TorqueUnit::NewtonMetres:
-        torque = value / 1.3558179;
-        break;
-      case TorqueUnit::Kilowatts:
-        torque = (value / kKilowattsPerHorsepower) * 5252 / rpm;
-        break;
-      case TorqueUnit::MetricHorsepower:
-        torque = (value * 0.9863) * 5252 / rpm;
-        break;
+      case TorqueUnit::PoundFeet: break;
+      case TorqueUnit::Horsepower: torque = value * 5252 / rpm; break;
+      case TorqueUnit::NewtonMetres: torque = value / 1.3558179; break;
+      case TorqueUnit::Kilowatts: torque = (value / kKilowattsPerHorsepower) * 5252 / rpm; break;
+      case TorqueUnit::MetricHorsepower: torque = (value * 0.9863) * 5252 / rpm; break;
     }
     if (!std::isfinite(torque)) {
       throw CommandError(ErrorKind::Overflow, "is too large a torque.");

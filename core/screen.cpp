@@ -340,6 +340,26 @@ bool Screen::MoveFocus(Control* control) {
   return true;
 }
 
+Control* Screen::NextInTabOrder(const Control& from) const {
+  const auto takesKeyboard = [](const Control& control) {
+    if (!control.Shown() || !control.enabled()) return false;
+    switch (control.kind()) {
+      case ControlKind::Label:
+      case ControlKind::Frame:
+      case ControlKind::OptionGroup: return false;
+      case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
+      default: return true;
+    }
+  };
+  const auto start = std::find(controls_.begin(), controls_.end(), &from);
+  const auto rest = static_cast<std::size_t>(start - controls_.begin());
+  for (std::size_t i = 1; i < controls_.size(); ++i) {
+    Control* next = controls_[(rest + i) % controls_.size()];
+    if (takesKeyboard(*next)) return next;
+  }
+  return nullptr;
+}
+
 double Screen::Read(Field& field) const {
   try {
     return ParseNumber(field.text(), mark());

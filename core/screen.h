@@ -200,6 +200,7 @@ class Command : public Control {
           void (S::*handler)())
       : Command(frame, std::move(name), std::move(caption), std::move(help)) {
     handler_ = static_cast<ScreenHandler>(handler);
+    SetEnabled(true);
   }
   /// A command whose work is not built yet: it is there, disabled.
   Command(Frame& frame, std::string name, std::string caption, std::string help);
@@ -359,6 +360,9 @@ class Screen {
   /// Moves the focus without asking a face; the check of the field that is left runs
   /// first and may keep it. False when it was kept.
   bool MoveFocus(Control* control);
+  /// Where the tab key goes from a control: the next one in reading order that takes the
+  /// keyboard, round to the first. Null when there is no other.
+  Control* NextInTabOrder(const Control& from) const;
 
  protected:
   /// Parses a field. @throws CommandError (NotANumber) that names the field.

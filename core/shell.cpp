@@ -190,8 +190,8 @@ constexpr LauncherItem kLauncher[] = {
     {"Weather and Reference", "WEATHER", "Weather Correction"},
     {"Weather and Reference", "UNIT", "Unit Conversion"},
     {"Weather and Reference", "EQUIV", "Equivalence Charts"},
-    {"Graphs", "GRAPHER", "Grapher"},
-    {"Graphs", "About", "About VELDOX"},
+    {"Graphs and About", "GRAPHER", "Grapher"},
+    {"Graphs and About", "About", "About VELDOX"},
 };
 // clang-format on
 
@@ -337,12 +337,9 @@ std::string Shell::MenuCaption(const MenuItem& item) const {
 
 bool Shell::MenuEnabled(const MenuItem& item) {
   switch (item.kind) {
-    case MenuKind::Separator:
-      return false;
-    case MenuKind::Screen:
-      return FindScreen(item.screen) != nullptr;
-    case MenuKind::Action:
-      return item.action != nullptr;
+    case MenuKind::Separator: return false;
+    case MenuKind::Screen: return FindScreen(item.screen) != nullptr;
+    case MenuKind::Action: return item.action != nullptr;
     case MenuKind::Submenu:
       return std::any_of(std::begin(kMenu), std::end(kMenu), [&](const MenuItem& child) {
         return child.parent == item.name && MenuEnabled(child);

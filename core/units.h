@@ -27,26 +27,16 @@ enum class Unit {
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
 constexpr std::string_view UnitSign(Unit unit, bool metric) {
   switch (unit) {
-    case Unit::None:
-      return "";
-    case Unit::Length:
-      return metric ? "mm" : "in";
-    case Unit::Area:
-      return metric ? "sq mm" : "sq in";
-    case Unit::Volume:
-      return metric ? "cc" : "cu in";
-    case Unit::PistonSpeed:
-      return metric ? "m/min" : "ft/min";
-    case Unit::SurfaceSpeed:
-      return metric ? "m/s" : "ft/s";
-    case Unit::Power:
-      return metric ? "kW" : "HP";
-    case Unit::Degrees:
-      return "deg";
-    case Unit::Grams:
-      return "g";
-    case Unit::RevolutionsPerMinute:
-      return "RPM";
+    case Unit::None: return "";
+    case Unit::Length: return metric ? "mm" : "in";
+    case Unit::Area: return metric ? "sq mm" : "sq in";
+    case Unit::Volume: return metric ? "cc" : "cu in";
+    case Unit::PistonSpeed: return metric ? "m/min" : "ft/min";
+    case Unit::SurfaceSpeed: return metric ? "m/s" : "ft/s";
+    case Unit::Power: return metric ? "kW" : "HP";
+    case Unit::Degrees: return "deg";
+    case Unit::Grams: return "g";
+    case Unit::RevolutionsPerMinute: return "RPM";
   }
   return "";
 }

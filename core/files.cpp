@@ -1,0 +1,341 @@
+#include "core/files.h"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+#include "core/error.h"
+
+#if defined(__unix__) || defined(__APPLE__)
+#define VELDOX_POSIX_FILES
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace veldox {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A failure of the system on the way to or from a file, not yet with the file's name.
+class SystemFailure : public std::exception {
+ public:
+  explicit SystemFailure(std::string reason) : reason_(std::move(reason)) {}
+  explicit SystemFailure(const std::error_code& error) : SystemFailure(error.message()) {}
+  const std::string& reason() const { return reason_; }
+  const char* what() const noexcept override { return reason_.c_str(); }
+
+ private:
+  std::string reason_;
+};
+
+[[noreturn]] void FailWithErrno(int number = errno) {
+  throw SystemFailure(std::error_code(number, std::generic_category()));
+}
+
+constexpr const char* kNotPlain = "it is not a plain file";
+
+void RequireName(const fs::path& path) {
+  if (path.empty()) throw SystemFailure("the name is empty");
+  if (path.native().find(fs::path::value_type{}) != fs::path::string_type::npos) {
+    throw SystemFailure("the name holds a character that no file name may hold");
+  }
+}
+
+/// What a path is, or where nothing is there `file_type::not_found`.
+fs::file_status StatusOf(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::status_known(status)) throw SystemFailure(error);
+  return status;
+}
+
+void RequirePlain(const fs::file_status& status) {
+  if (fs::is_directory(status)) throw SystemFailure("it is a folder");
+  if (!fs::is_regular_file(status)) throw SystemFailure(kNotPlain);
+}
+
+/// The file that a name stands for in the end, whether it is there or not.
+fs::path FollowLinks(fs::path path) {
+  constexpr int kMostLinks = 40;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::error_code error;
+    if (!fs::is_symlink(fs::symlink_status(path, error))) return path;
+    const fs::path next = fs::read_symlink(path, error);
+    if (error) throw SystemFailure(error);
+    path = path.parent_path() / next;  // an absolute link stands alone
+  }
+  throw SystemFailure(std::make_error_code(std::errc::too_many_symbolic_link_levels));
+}
+
+#ifdef VELDOX_POSIX_FILES
+
+/// An open file that closes itself.
+class FileHandle {
+ public:
+  FileHandle(const fs::path& path, int flags, mode_t mode = 0)
+      : descriptor_(::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode)) {
+    if (descriptor_ < 0) FailWithErrno();
+    if (::fstat(descriptor_, &status_) != 0 || !S_ISREG(status_.st_mode)) {
+      const bool folder = S_ISDIR(status_.st_mode);
+      ::close(descriptor_);
+      throw SystemFailure(folder ? "it is a folder" : kNotPlain);
+    }
+  }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+  }
+
+  std::uintmax_t Size() const { return static_cast<std::uintmax_t>(status_.st_size); }
+
+  void SetPermissions(mode_t mode) {
+    if ((status_.st_mode & 0777U) != mode && ::fchmod(descriptor_, mode) != 0) FailWithErrno();
+  }
+
+  /// @return the number of bytes read, 0 at the end of the file
+  std::size_t Read(char* to, std::size_t size) {
+    for (;;) {
+      const ssize_t count = ::read(descriptor_, to, size);
+      if (count >= 0) return static_cast<std::size_t>(count);
+      if (errno != EINTR) FailWithErrno();
+    }
+  }
+
+  void WriteAll(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t count = ::write(descriptor_, bytes.data(), bytes.size());
+      if (count >= 0) {
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+      } else if (errno != EINTR) {
+        FailWithErrno();
+      }
+    }
+  }
+
+  void Flush() {
+    while (::fsync(descriptor_) != 0) {
+      if (errno != EINTR) FailWithErrno();
+    }
+  }
+
+  void Close() {
+    if (::close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) FailWithErrno();
+  }
+
+ private:
+  int descriptor_;
+  struct stat status_ = {};
+};
+
+/// A file without the right to write is meant to be kept, though the folder's rights would let
+/// another be moved over it.
+void RequireWritable(const fs::path& path) {
+  if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) FailWithErrno();
+}
+
+/// Writes and flushes a file, with the permissions of the old one where there is one.
+/// @param started  set once the file is open, so that bytes of it may stand on the disk
+void WriteChecked(const fs::path& path, std::string_view bytes, const fs::file_status& old,
+                  bool& started) {
+  const bool replaces = fs::exists(old);
+  const auto mode = static_cast<mode_t>(old.permissions()) & 0777U;
+  FileHandle file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, replaces ? mode : 0666U);
+  started = true;
+  if (replaces) file.SetPermissions(mode);
+  file.WriteAll(bytes);
+  file.Flush();
+  file.Close();
+}
+
+/// Lets the file's new name reach the disk. The file is whole under its name already, so that a
+/// folder which cannot be flushed is no failure.
+void FlushFolder(const fs::path& folder) {
+  const int descriptor =
+      ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+std::string ReadChecked(const fs::path& path) {
+  FileHandle file(path, O_RDONLY);
+  const auto tooLarge = [] {
+    return SystemFailure("it is larger than " + std::to_string(kLargestFile >> 20) + " MB");
+  };
+  if (file.Size() > kLargestFile) throw tooLarge();
+
+  // One byte more than the size tells the end, and a file that grows meanwhile.
+  constexpr std::size_t kStep = 65536;
+  std::string bytes(static_cast<std::size_t>(file.Size()) + 1, '\0');
+  std::size_t size = 0;
+  while (const std::size_t count = file.Read(bytes.data() + size, bytes.size() - size)) {
+    size += count;
+    if (size > kLargestFile) throw tooLarge();
+    if (size == bytes.size()) bytes.resize(size + kStep);
+  }
+  bytes.resize(size);
+  return bytes;
+}
+
+#else
+
+void RequireWritable(const fs::path&) {}
+
+void FlushFolder(const fs::path&) {}
+
+void WriteChecked(const fs::path& path, std::string_view bytes, const fs::file_status& old,
+                  bool& started) {
+  errno = 0;
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  started = file.is_open();
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.flush();
+  file.close();
+  if (!file) FailWithErrno(errno != 0 ? errno : EIO);
+  if (fs::exists(old)) {
+    std::error_code error;
+    fs::permissions(path, old.permissions(), error);
+    if (error) throw SystemFailure(error);
+  }
+}
+
+std::string ReadChecked(const fs::path& path) {
+  std::error_code error;
+  if (fs::file_size(path, error) > kLargestFile && !error) {
+    throw SystemFailure("it is larger than " + std::to_string(kLargestFile >> 20) + " MB");
+  }
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  if (!file.is_open() || file.bad()) FailWithErrno(errno != 0 ? errno : EIO);
+  return bytes;
+}
+
+#endif
+
+/// The number of bytes of the UTF-8 character that a text begins with; 0 where it begins with
+/// none: a stray or missing continuation byte, an overlong form, a surrogate, a code too high.
+std::size_t CharacterSize(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const auto continues = [&](std::size_t i, unsigned low = 0x80, unsigned high = 0xBF) {
+    return i < text.size() && byte(i) >= low && byte(i) <= high;
+  };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead <= 0xDF) return continues(1) ? 2 : 0;
+  if (lead >= 0xE0 && lead <= 0xEF) {
+    const bool second = continues(1, lead == 0xE0 ? 0xA0 : 0x80, lead == 0xED ? 0x9F : 0xBF);
+    return second && continues(2) ? 3 : 0;
+  }
+  if (lead >= 0xF0 && lead <= 0xF4) {
+    const bool second = continues(1, lead == 0xF0 ? 0x90 : 0x80, lead == 0xF4 ? 0x8F : 0xBF);
+    return second && continues(2) && continues(3) ? 4 : 0;
+  }
+  return 0;
+}
+
+bool IsUtf8(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t size = CharacterSize(text);
+    if (size == 0) return false;
+    text.remove_prefix(size);
+  }
+  return true;
+}
+
+void AppendCharacter(std::string& text, unsigned code) {
+  if (code < 0x80) {
+    text += static_cast<char>(code);
+  } else if (code < 0x800) {
+    text += static_cast<char>(0xC0U | (code >> 6));
+    text += static_cast<char>(0x80U | (code & 0x3FU));
+  } else {
+    text += static_cast<char>(0xE0U | (code >> 12));
+    text += static_cast<char>(0x80U | ((code >> 6) & 0x3FU));
+    text += static_cast<char>(0x80U | (code & 0x3FU));
+  }
+}
+
+/// Unicode of the Windows-1252 bytes 0x80 to 0x9F; all others stand for themselves, as do the
+/// five to which the code page gives no character.
+constexpr std::array<char16_t, 32> kWindows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::string FromWindows1252(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 8);
+  for (const char c : bytes) {
+    const unsigned byte = static_cast<unsigned char>(c);
+    AppendCharacter(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80] : byte);
+  }
+  return text;
+}
+
+}  // namespace
+
+void SaveFile(const fs::path& path, std::string_view bytes) {
+  fs::path part;
+  bool started = false;
+  try {
+    RequireName(path);
+    if (!path.has_filename()) throw SystemFailure("it is a folder");
+    const fs::path target = FollowLinks(path);
+    const fs::file_status old = StatusOf(target);
+    if (fs::exists(old)) {
+      RequirePlain(old);
+      RequireWritable(target);
+    }
+    part = target;
+    part += ".part";
+    WriteChecked(part, bytes, old, started);
+    std::error_code error;
+    fs::rename(part, target, error);
+    if (error) throw SystemFailure(error);
+    FlushFolder(target.parent_path());
+  } catch (const SystemFailure& failure) {
+    std::string message =
+        "The file \"" + PathText(path) + "\" could not be written: " + failure.reason() + ".";
+    if (started) {
+      message += " What was written of it stands in \"" + PathText(part) + "\".";
+    }
+    throw CommandError(ErrorKind::File, std::move(message));
+  }
+}
+
+std::string LoadFile(const fs::path& path) {
+  try {
+    RequireName(path);
+    const fs::file_status status = StatusOf(path);
+    if (!fs::exists(status)) FailWithErrno(ENOENT);
+    RequirePlain(status);
+    return ReadChecked(path);
+  } catch (const SystemFailure& failure) {
+    throw CommandError(ErrorKind::File, "The file \"" + PathText(path) +
+                                            "\" could not be read: " + failure.reason() + ".");
+  }
+}
+
+std::string DecodeText(std::string bytes) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
+  return IsUtf8(bytes) ? std::move(bytes) : FromWindows1252(bytes);
+}
+
+std::string PathText(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  std::string bytes(text.begin(), text.end());
+  // Where the system's names are bytes, an old one may hold another character set.
+  return IsUtf8(bytes) ? bytes : FromWindows1252(bytes);
+}
+
+}  // namespace veldox

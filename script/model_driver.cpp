@@ -1,0 +1,122 @@
+#include "script/model_driver.h"
+
+namespace veldox {
+
+namespace {
+
+void AppendUtf8(std::string& text, char32_t c) {
+  const auto byte = [&](char32_t value) { text += static_cast<char>(value); };
+  if (c < 0x80) {
+    byte(c);
+  } else if (c < 0x800) {
+    byte(0xC0 | (c >> 6));
+    byte(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    byte(0xE0 | (c >> 12));
+    byte(0x80 | ((c >> 6) & 0x3F));
+    byte(0x80 | (c & 0x3F));
+  } else {
+    byte(0xF0 | (c >> 18));
+    byte(0x80 | ((c >> 12) & 0x3F));
+    byte(0x80 | ((c >> 6) & 0x3F));
+    byte(0x80 | (c & 0x3F));
+  }
+}
+
+/// Takes the last character off a UTF-8 text.
+void Shorten(std::string& text) {
+  while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80) {
+    text.pop_back();
+  }
+  if (!text.empty()) text.pop_back();
+}
+
+}  // namespace
+
+void ModelDriver::ChooseMenu(const MenuItem& item) {
+  shell_.Choose(item);
+}
+
+void ModelDriver::Set(TextControl& field, const std::string& text) {
+  if (!field.screen().MoveFocus(&field)) return;
+  field.Edit(text);
+  selected_ = false;
+}
+
+bool ModelDriver::TabInto(Control& control) {
+  Screen& screen = control.screen();
+  if (!screen.MoveFocus(&control)) return false;
+  screen.Hover(&control);
+  auto* field = dynamic_cast<TextControl*>(&control);
+  selected_ = field != nullptr && field->Enter();
+  return true;
+}
+
+void ModelDriver::Type(TextControl& field, const std::vector<Key>& keys) {
+  if (!TabInto(field)) return;
+  for (const Key key : keys) {
+    // A field that another one was left for takes no more keys.
+    if (field.screen().focus() != &field) return;
+    TypeKey(field, key);
+  }
+}
+
+void ModelDriver::TypeKey(TextControl& field, Key key) {
+  const Key taken = field.FilterKey(key);
+  if (taken == 0) return;
+  if (taken == kTab) {
+    if (Control* next = field.screen().NextInTabOrder(field)) TabInto(*next);
+    return;
+  }
+  if (taken == kEnter) {
+    if (field.kind() == ControlKind::TextArea) field.SetText(field.text() + "\r\n");
+    return;
+  }
+  std::string text = selected_ ? std::string{} : field.text();
+  if (taken == kBackspace) {
+    if (!selected_) Shorten(text);
+  } else {
+    AppendUtf8(text, taken);
+  }
+  selected_ = false;
+  field.SetText(std::move(text));
+}
+
+void ModelDriver::Leave(TextControl& field) {
+  if (field.screen().focus() != &field && !TabInto(field)) return;
+  field.screen().MoveFocus(nullptr);
+}
+
+void ModelDriver::Press(Control& control, Key key) {
+  if (control.screen().focus() != &control && !TabInto(control)) return;
+  if (auto* field = dynamic_cast<TextControl*>(&control)) {
+    TypeKey(*field, key);
+  } else if (key == U' ') {
+    Click(control);
+  }
+}
+
+void ModelDriver::Click(Control& control) {
+  if (!control.enabled() || !control.Shown()) return;
+  Screen& screen = control.screen();
+  screen.Hover(&control);
+  // The field that has the focus may keep it, and the click goes nowhere.
+  if (!screen.MoveFocus(&control)) return;
+  switch (control.kind()) {
+    case ControlKind::Command: static_cast<Command&>(control).Click(); break;
+    case ControlKind::CheckBox: static_cast<CheckBox&>(control).Click(); break;
+    case ControlKind::OptionButton: static_cast<OptionButton&>(control).Click(); break;
+    default: break;
+  }
+}
+
+void ModelDriver::Select(ComboList& list, int row) {
+  if (!list.screen().MoveFocus(&list)) return;
+  list.Choose(row);
+}
+
+void ModelDriver::Hover(Screen& screen, Control* control) {
+  screen.Hover(control);
+}
+
+}  // namespace veldox

@@ -1,0 +1,385 @@
+#include "script/runner.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <random>
+#include <system_error>
+
+#include "core/files.h"
+#include "core/key_table.h"
+
+namespace veldox {
+
+namespace {
+
+/// Cuts the first word off a text, with the one blank behind it.
+std::string_view TakeWord(std::string_view& text) {
+  const auto blank = text.find(' ');
+  const std::string_view word = text.substr(0, blank);
+  text = blank == std::string_view::npos ? std::string_view{} : text.substr(blank + 1);
+  return word;
+}
+
+std::vector<Key> ParseKeys(std::string_view text) {
+  std::vector<Key> keys;
+  for (std::size_t i = 0; i < text.size();) {
+    constexpr std::array<std::pair<std::string_view, Key>, 3> kNamed{
+        {{"{BS}", kBackspace}, {"{TAB}", kTab}, {"{ENTER}", kEnter}}};
+    const auto named = std::find_if(kNamed.begin(), kNamed.end(), [&](const auto& key) {
+      return text.substr(i, key.first.size()) == key.first;
+    });
+    if (named != kNamed.end()) {
+      keys.push_back(named->second);
+      i += named->first.size();
+      continue;
+    }
+    // One UTF-8 character.
+    const auto lead = static_cast<unsigned char>(text[i]);
+    const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    Key key = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+    for (std::size_t k = 1; k < length && i + k < text.size(); ++k) {
+      key = (key << 6) | (static_cast<unsigned char>(text[i + k]) & 0x3FU);
+    }
+    keys.push_back(key);
+    i += length;
+  }
+  return keys;
+}
+
+std::optional<int> ParseWhole(std::string_view text) {
+  int value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+std::string TextOf(const Control& control) {
+  switch (control.kind()) {
+    case ControlKind::Field:
+    case ControlKind::ReportBox:
+    case ControlKind::TextArea: return static_cast<const TextControl&>(control).text();
+    case ControlKind::CheckBox: return static_cast<const CheckBox&>(control).on() ? "on" : "off";
+    case ControlKind::OptionButton:
+      return static_cast<const OptionButton&>(control).on() ? "on" : "off";
+    case ControlKind::OptionGroup:
+      return std::to_string(static_cast<const OptionGroup&>(control).chosen());
+    case ControlKind::ComboList: {
+      const auto& list = static_cast<const ComboList&>(control);
+      return list.chosen() < 0 ? std::string{}
+                               : list.rows()[static_cast<std::size_t>(list.chosen())];
+    }
+    default: return control.caption();
+  }
+}
+
+std::string StateText(bool visible, bool enabled) {
+  return std::string(visible ? "visible" : "hidden") + (enabled ? " enabled" : " disabled");
+}
+
+FontChoice ParseFont(std::string_view text) {
+  FontChoice font;
+  std::vector<std::string_view> pieces;
+  for (std::size_t from = 0; from <= text.size();) {
+    const auto end = std::min(text.find(';', from), text.size());
+    pieces.push_back(text.substr(from, end - from));
+    from = end + 1;
+  }
+  const auto size = pieces.size() == 4 ? ParseWhole(pieces[1]) : std::nullopt;
+  if (!size) throw ScriptError("a font is NAME;SIZE;BOLD;ITALIC");
+  const auto isOn = [](std::string_view word) {
+    return word == "1" || word == "-1" || word == "BOLD" || word == "ITALIC" || word == "bold" ||
+           word == "italic" || word == "on" || word == "Yes" || word == "true" || word == "True";
+  };
+  font.name = pieces[0];
+  font.size = *size;
+  font.bold = isOn(pieces[2]);
+  font.italic = isOn(pieces[3]);
+  return font;
+}
+
+}  // namespace
+
+ScriptRunner::ScriptRunner(Program& program, ScriptHost& host, Driver& driver,
+                           std::filesystem::path folder, Print print)
+    : program_(program),
+      host_(host),
+      driver_(driver),
+      folder_(std::move(folder)),
+      print_(std::move(print)) {}
+
+bool ScriptRunner::Run(std::string_view script) {
+  try {
+    while (!script.empty()) {
+      const auto end = script.find('\n');
+      std::string_view line = script.substr(0, end);
+      script = end == std::string_view::npos ? std::string_view{} : script.substr(end + 1);
+      if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+      ++line_;
+      if (line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#') continue;
+      RunLine(line);
+      if (!host_.wrong.empty()) throw ScriptError(host_.wrong);
+    }
+    RequireNothingPrepared();
+    return true;
+  } catch (const ScriptError& error) {
+    wrong_ = "script line " + std::to_string(line_) + ": " + error.what();
+    return false;
+  }
+}
+
+void ScriptRunner::RunLine(std::string_view line) {
+  std::string_view rest = line;
+  const std::string_view verb = TakeWord(rest);
+  const auto isOneOf = [&](std::initializer_list<std::string_view> verbs) {
+    return std::find(verbs.begin(), verbs.end(), verb) != verbs.end();
+  };
+  if (verb == "pause") {
+    print_(UnescapeText(rest));
+  } else if (verb == "messages") {
+    PrintList(host_.messages);
+  } else if (verb == "dialogs") {
+    PrintList(host_.dialogs);
+  } else if (verb == "value") {
+    TellValue(rest);
+  } else if (isOneOf({"answer", "file", "font", "color"})) {
+    Prepare(verb, rest);
+  } else if (isOneOf({"get", "state", "rows", "show"})) {
+    Tell(verb, rest);
+  } else {
+    const std::string_view target = TakeWord(rest);
+    Touch(verb, target, rest);
+  }
+}
+
+void ScriptRunner::Prepare(std::string_view verb, std::string_view text) {
+  const bool cancel = text == "cancel";
+  if (verb == "answer") {
+    constexpr std::array<std::pair<std::string_view, Button>, 4> kButtons{
+        {{"OK", Button::OK}, {"Cancel", Button::Cancel}, {"Yes", Button::Yes}, {"No", Button::No}}};
+    const auto button = std::find_if(kButtons.begin(), kButtons.end(),
+                                     [&](const auto& entry) { return entry.first == text; });
+    if (button == kButtons.end()) throw ScriptError("no such button: " + std::string(text));
+    host_.answers.push_back({button->second, line_});
+  } else if (verb == "file") {
+    std::optional<std::filesystem::path> path;
+    if (!cancel) path = folder_ / std::filesystem::path(UnescapeText(text));
+    host_.files.push_back({path, line_});
+  } else if (verb == "font") {
+    std::optional<FontChoice> font;
+    if (!cancel) font = ParseFont(text);
+    host_.fonts.push_back({font, line_});
+  } else {
+    const auto color = ParseWhole(text);
+    if (!cancel && !color) throw ScriptError("no such colour: " + std::string(text));
+    host_.colors.push_back({color, line_});
+  }
+}
+
+void ScriptRunner::Touch(std::string_view verb, std::string_view target, std::string_view text) {
+  if (verb == "menu") {
+    const MenuItem* item = Shell::FindMenuItem(target);
+    if (item == nullptr) throw ScriptError("no such menu item: " + std::string(target));
+    driver_.ChooseMenu(*item);
+  } else if (verb == "set") {
+    driver_.Set(Find<TextControl>(target, "field"), UnescapeText(text));
+  } else if (verb == "type") {
+    driver_.Type(Find<TextControl>(target, "field"), ParseKeys(UnescapeText(text)));
+  } else if (verb == "leave") {
+    driver_.Leave(Find<TextControl>(target, "field"));
+  } else if (verb == "press") {
+    const std::vector<Key> keys = ParseKeys(UnescapeText(text));
+    if (keys.size() != 1) throw ScriptError("press takes one key");
+    driver_.Press(FindControl(target), keys.front());
+  } else if (verb == "check" || verb == "uncheck") {
+    auto& box = Find<CheckBox>(target, "check box");
+    if (box.on() != (verb == "check")) driver_.Click(box);
+  } else if (verb == "choose") {
+    driver_.Click(Find<OptionButton>(target, "option button"));
+  } else if (verb == "select") {
+    auto& list = Find<ComboList>(target, "list");
+    const auto row = std::find(list.rows().begin(), list.rows().end(), UnescapeText(text));
+    if (row == list.rows().end()) throw ScriptError("no such row: " + std::string(text));
+    driver_.Select(list, static_cast<int>(row - list.rows().begin()));
+  } else if (verb == "hover") {
+    Screen* screen = program_.shell().FindScreen(target);
+    if (screen != nullptr) {
+      driver_.Hover(*screen, nullptr);
+    } else {
+      Control& control = FindControl(target);
+      driver_.Hover(control.screen(), &control);
+    }
+  } else if (verb == "click") {
+    driver_.Click(Find<Command>(target, "command"));
+  } else if (verb == "picture") {
+    Screen* screen = program_.shell().FindScreen(target);
+    if (screen == nullptr) throw ScriptError("no such screen: " + std::string(target));
+    if (!driver_.Picture(*screen, std::filesystem::path(UnescapeText(text)))) {
+      throw ScriptError("no picture: it needs --windows and an open window");
+    }
+  } else {
+    throw ScriptError("unknown verb: " + std::string(verb));
+  }
+}
+
+void ScriptRunner::Tell(std::string_view verb, std::string_view target) {
+  const std::string name(target);
+  // The items of the menu answer by their control names as well.
+  if (target.substr(0, 5) == "Main." && program_.shell().FindControl(target) == nullptr) {
+    if (const MenuItem* item = Shell::FindMenuItem(target.substr(5))) {
+      if (verb == "get") {
+        print_(name + " = " + EscapeText(program_.shell().MenuCaption(*item)));
+        return;
+      }
+      if (verb == "state") {
+        print_(name + " = " + StateText(true, program_.shell().MenuEnabled(*item)));
+        return;
+      }
+    }
+  }
+  Control& control = FindControl(target);
+  if (verb == "get") {
+    print_(name + " = " + EscapeText(TextOf(control)));
+  } else if (verb == "state") {
+    print_(name + " = " + StateText(control.Shown(), control.enabled()));
+  } else if (verb == "rows") {
+    const auto& rows = Find<ComboList>(target, "list").rows();
+    print_(std::to_string(rows.size()));
+    for (const std::string& row : rows) print_(EscapeText(row));
+  } else {
+    const std::string text = TextOf(control);
+    for (std::size_t from = 0; from <= text.size();) {
+      const auto end = std::min(text.find('\n', from), text.size());
+      std::string_view line = std::string_view(text).substr(from, end - from);
+      if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+      print_("| " + std::string(line));
+      from = end + 1;
+    }
+  }
+}
+
+void ScriptRunner::TellValue(std::string_view key) {
+  ParameterBlock& block = program_.context().block;
+  const auto unknown = [&] { return ScriptError("no such key: " + std::string(key)); };
+  const KeyRow* row = FindKey(key);
+  int index = 0;
+  if (row == nullptr || row->form == KeyForm::Table) {
+    // An array key ends with the index of its row: "T Gear 3", "Shift RPM 1-2".
+    const auto blank = key.rfind(' ');
+    if (blank == std::string_view::npos) throw unknown();
+    const std::string_view number = key.substr(blank + 1);
+    row = FindKey(key.substr(0, blank));
+    const auto parsed = ParseWhole(number.substr(0, number.find('-')));
+    if (row == nullptr || row->form != KeyForm::Table || !parsed || *parsed < row->firstRow ||
+        *parsed >= row->rows) {
+      throw unknown();
+    }
+    index = *parsed;
+  }
+  print_(std::string(key) + " = " + EscapeText(KeyValueText(*row, block, index)));
+}
+
+void ScriptRunner::PrintList(std::vector<std::string>& lines) {
+  for (const std::string& line : lines) print_(line);
+  lines.clear();
+}
+
+void ScriptRunner::RequireNothingPrepared() const {
+  const auto require = [&](const auto& prepared, const char* what) {
+    if (!prepared.empty()) {
+      throw ScriptError(std::string(what) + " of line " + std::to_string(prepared.front().line) +
+                        " was never asked for");
+    }
+  };
+  require(host_.answers, "the answer");
+  require(host_.files, "the file");
+  require(host_.fonts, "the font");
+  require(host_.colors, "the colour");
+}
+
+Control& ScriptRunner::FindControl(std::string_view name) {
+  Control* control = program_.shell().FindControl(name);
+  if (control == nullptr) throw ScriptError("no such control: " + std::string(name));
+  return *control;
+}
+
+template <class T>
+T& ScriptRunner::Find(std::string_view name, const char* what) {
+  auto* found = dynamic_cast<T*>(&FindControl(name));
+  if (found == nullptr) throw ScriptError(std::string(name) + " is no " + what);
+  return *found;
+}
+
+namespace {
+
+/// A folder of its own for a script that names none, gone when the script is over.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    std::random_device random;
+    path_ = std::filesystem::temp_directory_path() /
+            ("veldox-script-" + std::to_string(random()) + std::to_string(random()));
+    std::filesystem::create_directories(path_);
+  }
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+std::optional<std::string> LoadScript(const std::string& file) {
+  if (file == "-") {
+    return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+  }
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+}
+
+}  // namespace
+
+int RunScriptFile(const ScriptArguments& arguments, const DriverMaker& makeDriver) {
+  const std::optional<std::string> script = LoadScript(arguments.file);
+  if (!script) {
+    std::fprintf(stderr, "veldox-script: cannot read the script %s\n", arguments.file.c_str());
+    return 2;
+  }
+  std::optional<TemporaryFolder> temporary;
+  ScriptHost::Settings settings;
+  if (arguments.folder) {
+    settings.folder = std::filesystem::absolute(*arguments.folder);
+  } else {
+    settings.folder = temporary.emplace().path();
+  }
+  settings.mark = arguments.decimalComma ? DecimalMark::Comma : DecimalMark::Point;
+  settings.date = arguments.date;
+  const std::filesystem::path scriptFolder =
+      arguments.file == "-" ? std::filesystem::current_path()
+                            : std::filesystem::absolute(arguments.file).parent_path();
+
+  ScriptHost host(std::move(settings));
+  Program program(host);
+  const std::unique_ptr<Driver> driver = makeDriver(program);
+  program.Start();
+  ScriptRunner runner(program, host, *driver, scriptFolder, [](std::string_view line) {
+    std::fwrite(line.data(), 1, line.size(), stdout);
+    std::fputc('\n', stdout);
+  });
+  const bool done = runner.Run(DecodeText(*script));
+  std::fflush(stdout);
+  if (!done) std::fprintf(stderr, "%s\n", runner.wrong().c_str());
+  return done ? 0 : 2;
+}
+
+}  // namespace veldox
