@@ -793,8 +793,7 @@ class ParameterFile::Reader {
 void ParameterFile::BindOwners(const ControlFinder& find) {
   owners_.clear();
   for (const KeyRow& row : KeyTable()) {
-    Control* const owner =
-        row.owner.find('.') == std::string_view::npos ? nullptr : find(row.owner);
+    Control* const owner = find(row.owner);
     owners_.push_back(owner);
     std::int16_t* const slot = SwitchOf(row, context_.block);
     if (slot == nullptr) continue;
