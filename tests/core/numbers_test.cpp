@@ -114,7 +114,7 @@ LongDecimal RoundTo(const LongDecimal& number, int places) {
 }
 
 LongDecimal FifteenDigits(double magnitude) {
-  const LongDecimal number = WriteOut(magnitude);
+  LongDecimal number = WriteOut(magnitude);
   const std::string all = number.whole + number.decimals;
   const std::size_t first = all.find_first_not_of('0');
   if (first == std::string::npos) return number;
@@ -541,49 +541,12 @@ TEST(ParseNumber, KnowsNoThousandsGroups) {
 }
 
 TEST(ParseNumber, RefusesWhatIsNoNumber) {
-  for (const std::string_view text : {"",
-                                      " ",
-                                      "-",
-                                      "+",
-                                      ".",
-                                      "-.",
-                                      "+.",
-                                      "abc",
-                                      "1a",
-                                      "a1",
-                                      "1 2",
-                                      "--1",
-                                      "+-1",
-                                      "-+1",
-                                      "++1",
-                                      "1-",
-                                      "- 1",
-                                      "1e",
-                                      "1e+",
-                                      "1e-",
-                                      "1e1.5",
-                                      "e5",
-                                      ".e5",
-                                      "1ee5",
-                                      "1e5e5",
-                                      "1e 5",
-                                      "inf",
-                                      "-inf",
-                                      "nan",
-                                      "NaN",
-                                      "infinity",
-                                      "0x10",
-                                      "0x1p3",
-                                      "1f",
-                                      "1.0d",
-                                      "1\n",
-                                      "\n1",
-                                      "1\r",
-                                      "\xC2\xA0"
-                                      "1",
-                                      "1_000",
-                                      "'5'",
-                                      "5%"}) {
+  for (const std::string_view text :
+       {"",     " ",   "-",       "+",        ".",    "-.",    "+.",    "abc",  "1a",
+        "a1",   "1 2", "--1",     "+-1",      "-+1",  "++1",   "1-",    "- 1",  "1e",
+        "1e+",  "1e-", "1e1.5",   "e5",       ".e5",  "1ee5",  "1e5e5", "1e 5", "inf",
+        "-inf", "nan", "NaN",     "infinity", "0x10", "0x1p3", "1f",    "1.0d", "1\n",
+        "\n1",  "1\r", "\u00A01", "1_000",    "'5'",  "5%"}) {
     for (const DecimalMark mark : {kPoint, kComma}) {
       SCOPED_TRACE(text);
       EXPECT_FAILS(ParseNumber(text, mark), ErrorKind::NotANumber);
