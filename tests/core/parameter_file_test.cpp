@@ -1892,7 +1892,7 @@ TEST(ParameterFileBadInput, WhatWasReadFromAMutatedFileIsWrittenSoThatItReads) {
     PatientProgram program;
     program.file.ReadBytes(bytes, "mutated.prm");
     program.host.boxes = 0;
-    // RPM of torque rows may have become equal once rounded: only those rows may be told.
+    // Torque rows are left out: their RPM may have become equal once rounded.
     program.context.block.AccelRowCount = 0;
     const std::string written = program.file.Compose().bytes;
     program.file.ReadBytes(written, "written.prm");
@@ -1907,7 +1907,7 @@ double SecondsToRead(const std::string& bytes) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Hard bound: twenty times what a loaded machine needs, a tenth of what quadratic work would.
+/// Far more than a busy machine needs; work that grows with the square would take hours.
 TEST(ParameterFileBadInput, LargeFilesTakeLinearTime) {
   constexpr std::size_t kSize = 16U << 20;
   std::string notes = "Notes = start\n";
