@@ -261,7 +261,7 @@ class ParameterFile::Writer {
   }
 
  private:
-  static constexpr std::size_t kUsualSize = 32 * 1024;
+  static constexpr std::size_t kUsualSize = 32768;
   /// Stages of nitrous that start by gear; the others run by time.
   static constexpr int kGearStages = 7;
 

@@ -1892,7 +1892,7 @@ TEST(ParameterFileBadInput, WhatWasReadFromAMutatedFileIsWrittenSoThatItReads) {
     PatientProgram program;
     program.file.ReadBytes(bytes, "mutated.prm");
     program.host.boxes = 0;
-    // RPM of torque rows may have become equal once rounded: only those rows may be told.
+    // Torque rows are left out: their RPM may have become equal once rounded.
     program.context.block.AccelRowCount = 0;
     const std::string written = program.file.Compose().bytes;
     program.file.ReadBytes(written, "written.prm");
@@ -1907,7 +1907,7 @@ double SecondsToRead(const std::string& bytes) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// Hard bound: twenty times what a loaded machine needs, a tenth of what quadratic work would.
+/// Far more than a busy machine needs; work that grows with the square would take hours.
 TEST(ParameterFileBadInput, LargeFilesTakeLinearTime) {
   constexpr std::size_t kSize = 16U << 20;
   std::string notes = "Notes = start\n";
@@ -1983,7 +1983,7 @@ TEST_P(Samples, AreConsistentEngines) {
   const double deck = kPi / 4 * b.Bore * b.Bore * b.DeckClearance * ccPerCubicInch;
   const double clearance = b.CombChamberVol + gasket + deck - b.DomeVol + b.RingCC;
   EXPECT_NEAR(b.CompressionRatio, (sweptVolume * ccPerCubicInch + clearance) / clearance, 0.005);
-  // 720 degrees have room for both events about their centers.
+  // Events of the camshaft.
   EXPECT_NEAR(b.IntakeDuration, b.IntakeOpen + 180 + b.IntakeClose, 0.0001);
   EXPECT_NEAR(b.ExhaustDuration, b.ExhaustOpen + 180 + b.ExhaustClose, 0.0001);
   EXPECT_NEAR(b.IntakeCL, b.IntakeDuration / 2 - b.IntakeOpen, 0.0001);
@@ -2000,10 +2000,14 @@ TEST_P(Samples, AreConsistentEngines) {
     }
   }
   EXPECT_NEAR(b.HorsePower, power, 0.05);
-  // The four corners carry the vehicle; a motorcycle has its wheels on the left side alone.
   EXPECT_NEAR(b.WeightLeftFront + b.WeightLeftRear + b.WeightRightFront + b.WeightRightRear,
               b.CarWeight, 0.0001);
-  for (std::size_t gear = 1; gear < static_cast<std::size_t>(b.TransGear); ++gear) {
+  EXPECT_NEAR(b.RearGearRatio,
+              b.RingGear > 0 ? static_cast<double>(b.RingGear) / b.PinionGear
+                             : static_cast<double>(b.RearSprocket) / b.FrontSprocket,
+              0.0001);
+  EXPECT_NEAR(b.TireRollingRadius, b.TireDiameter / 2, 0.001);
+  for (std::size_t gear = 1; gear < b.TGear.size() && b.TGear[gear] > 0; ++gear) {
     EXPECT_LT(b.TGear[gear], b.TGear[gear - 1]);
     EXPECT_GT(b.ShiftRPM[gear], b.LaunchRPM);
   }
