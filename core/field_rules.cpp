@@ -43,6 +43,9 @@ void FieldRules::BuildMessages() {
   messages_.MsgNotBlank = "Note: This field can not be blank.";
   messages_.MsgNotBlankOrZero =
       "Note: This field can not be blank and must have a value of other than zero.";
+  messages_.PartialMetricNote =
+      "This form does not have all the metric conversions working at this time.\r\n"
+      "Do not do any Calculations with the Metric Switch Checked!";
 }
 
 char32_t FieldRules::MarkKey() const {

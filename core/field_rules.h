@@ -25,6 +25,8 @@ struct FieldMessages {
   std::string MsgOutputOnly;
   std::string MsgNotBlank;
   std::string MsgNotBlankOrZero;
+  /// Shown by screens whose unit conversion is partial.
+  std::string PartialMetricNote;
 };
 
 /// The rules every field obeys: which keys it takes and what is checked on leaving it.

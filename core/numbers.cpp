@@ -29,9 +29,9 @@ void RequireFinite(double value) {
   if (std::isfinite(value)) return;
   if (std::isnan(value)) {
     throw CommandError(ErrorKind::InvalidArgument,
-                       "has no value: the calculation has no result for these numbers.");
+                       "The calculation has no result for these numbers.");
   }
-  throw CommandError(ErrorKind::Overflow, "is too large a number to be shown.");
+  throw CommandError(ErrorKind::Overflow, "A result is too large a number to be shown.");
 }
 
 /// The value 0.d1d2d3... times ten to the power of `exponent`, where d1 is not zero. Round
@@ -292,7 +292,7 @@ Integer RoundToInteger(double value) {
   if (!std::isfinite(whole) || whole < std::numeric_limits<Integer>::min() ||
       whole > std::numeric_limits<Integer>::max()) {
     throw CommandError(ErrorKind::Overflow,
-                       "must be a whole number from " +
+                       "must be a number from " +
                            std::to_string(std::numeric_limits<Integer>::min()) + " to " +
                            std::to_string(std::numeric_limits<Integer>::max()) + ".");
   }

@@ -261,7 +261,7 @@ class ParameterFile::Writer {
   }
 
  private:
-  static constexpr std::size_t kUsualSize = 32 * 1024;
+  static constexpr std::size_t kUsualSize = 32768;
   /// Stages of nitrous that start by gear; the others run by time.
   static constexpr int kGearStages = 7;
 
@@ -483,7 +483,8 @@ class ParameterFile::Reader {
 
   int records() const { return records_; }
 
-  /// Shows what ended the reading, if anything did.
+  /// Shows what ended the reading, if anything did. The messages of errors begin with
+  /// the verb, here as for a field.
   void TellFailure() const {
     if (!failure_) return;
     std::string text(kReadingError);
@@ -496,6 +497,7 @@ class ParameterFile::Reader {
     text += "Data --> ";
     text += Clipped(line_);
     text += kLineEnd;
+    text += "The value ";
     text += Clipped(*failure_);
     context_.host.Ask(
         {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
@@ -593,7 +595,7 @@ class ParameterFile::Reader {
     const double number = ParseNumber(value, mark_);
     if (OptionGroup* group = AsOptionGroup(owner)) {
       if (!group->Choose(RoundToInt16(number))) {
-        throw CommandError(ErrorKind::IndexOutOfRange, "There is no such option.");
+        throw CommandError(ErrorKind::IndexOutOfRange, "is none of the options that there are.");
       }
     }
     StoreNumber(row, block_, number);
@@ -613,7 +615,7 @@ class ParameterFile::Reader {
     for (std::string_view off : {"no", "off", "0"}) {
       if (SameIgnoringCase(value, off)) return false;
     }
-    throw CommandError(ErrorKind::InvalidArgument, "The value must be Yes or No, ON or OFF.");
+    throw CommandError(ErrorKind::InvalidArgument, "must be Yes or No, ON or OFF.");
   }
 
   void ReadTableRow(const KeyRow& row, std::string_view value) {
@@ -630,7 +632,7 @@ class ParameterFile::Reader {
   }
 
   [[noreturn]] static void ThrowTableIsFull() {
-    throw CommandError(ErrorKind::IndexOutOfRange, "The table has no room for another row.");
+    throw CommandError(ErrorKind::IndexOutOfRange, "is beyond the last row of its table.");
   }
 
   /// The numbers of a line, with blanks between them.
@@ -639,14 +641,14 @@ class ParameterFile::Reader {
     text = Trim(text);
     while (!text.empty()) {
       if (numbers.count == most) {
-        throw CommandError(ErrorKind::InvalidArgument, "There are too many numbers in the line.");
+        throw CommandError(ErrorKind::InvalidArgument, "holds more numbers than the record has.");
       }
       const std::size_t end = std::min(text.find_first_of(kBlanks), text.size());
       numbers.values[numbers.count++] = ParseNumber(text.substr(0, end), mark_);
       text = Trim(text.substr(end));
     }
     if (numbers.count < fewest) {
-      throw CommandError(ErrorKind::NotANumber, "A number is missing in the line.");
+      throw CommandError(ErrorKind::NotANumber, "holds fewer numbers than the record has.");
     }
     return numbers;
   }
@@ -664,7 +666,7 @@ class ParameterFile::Reader {
       if (SameIgnoringCase(key, part.key)) {
         const std::int32_t level = RoundToInt32(number());
         if (level < 0 || level > 255) {
-          throw CommandError(ErrorKind::Overflow, "A part of a color goes from 0 to 255.");
+          throw CommandError(ErrorKind::Overflow, "must be from 0 to 255 for a part of a color.");
         }
         block_.GridColor = (block_.GridColor & ~(255 << part.shift)) | (level << part.shift);
         return true;
@@ -701,7 +703,7 @@ class ParameterFile::Reader {
   static double TorqueInPoundFeet(double value, TorqueUnit unit, double rpm) {
     const bool isPower = unit != TorqueUnit::PoundFeet && unit != TorqueUnit::NewtonMetres;
     if (isPower && rpm == 0) {
-      throw CommandError(ErrorKind::DivisionByZero, "There is no torque from power at 0 RPM.");
+      throw CommandError(ErrorKind::DivisionByZero, "is a power at 0 RPM, which gives no torque.");
     }
     double torque = value;
     switch (unit) {
@@ -712,7 +714,7 @@ class ParameterFile::Reader {
       case TorqueUnit::MetricHorsepower: torque = (value * 0.9863) * 5252 / rpm; break;
     }
     if (!std::isfinite(torque)) {
-      throw CommandError(ErrorKind::Overflow, "The torque is too large a number.");
+      throw CommandError(ErrorKind::Overflow, "is too large a torque.");
     }
     return torque;
   }
@@ -734,11 +736,11 @@ class ParameterFile::Reader {
       const std::string_view text = line_.substr(row->key.size());
       const std::size_t equals = text.find('=');
       if (equals == std::string_view::npos) {
-        throw CommandError(ErrorKind::InvalidArgument, "There is no \"=\" in the line.");
+        throw CommandError(ErrorKind::InvalidArgument, "has no \"=\" before it.");
       }
       const int index = GearIndex(Trim(text.substr(0, std::min(text.find('-'), equals))));
       if (index < row->firstRow || index >= row->rows) {
-        throw CommandError(ErrorKind::IndexOutOfRange, "There is no such gear.");
+        throw CommandError(ErrorKind::IndexOutOfRange, "belongs to a gear that is not there.");
       }
       const std::string_view value = Trim(text.substr(equals + 1));
       row->cell(block_, index, 0) = value.empty() ? 0 : ParseNumber(value, mark_);
@@ -751,7 +753,8 @@ class ParameterFile::Reader {
   static int GearIndex(std::string_view text) {
     const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
     if (text.empty() || text.size() > 2 || !std::ranges::all_of(text, isDigit)) {
-      throw CommandError(ErrorKind::NotANumber, "The gear must be a number.");
+      throw CommandError(ErrorKind::NotANumber,
+                         "needs a gear of one or two digits before its \"=\".");
     }
     int index = 0;
     for (char digit : text) index = index * 10 + (digit - '0');
@@ -790,8 +793,7 @@ class ParameterFile::Reader {
 void ParameterFile::BindOwners(const ControlFinder& find) {
   owners_.clear();
   for (const KeyRow& row : KeyTable()) {
-    Control* const owner =
-        row.owner.find('.') == std::string_view::npos ? nullptr : find(row.owner);
+    Control* const owner = find(row.owner);
     owners_.push_back(owner);
     std::int16_t* const slot = SwitchOf(row, context_.block);
     if (slot == nullptr) continue;

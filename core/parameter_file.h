@@ -16,7 +16,8 @@ namespace veldox {
 /// the options and the notes, from the one key table.
 class ParameterFile {
  public:
-  /// Finds a control by "Form1.Text3"; null when its screen is not there.
+  /// Finds a control by "Form1.Text3"; null when its screen is not there, and for the
+  /// owners that are a whole screen.
   using ControlFinder = std::function<Control*(std::string_view)>;
 
   explicit ParameterFile(ProgramContext& context) : context_(context) {}

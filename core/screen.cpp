@@ -141,8 +141,7 @@ Command::Command(Frame& frame, std::string name, std::string caption, std::strin
 
 void Command::Click() {
   if (handler_ == nullptr || !enabled() || !Shown()) return;
-  Screen& owner = screen();
-  owner.Perform([&] { (owner.*handler_)(); });
+  screen().Run(handler_);
 }
 
 CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help)
@@ -160,8 +159,7 @@ bool CheckBox::Click() {
   if (!enabled() || !Shown()) return false;
   SetOn(!on_);
   if (handler_ == nullptr) return true;
-  Screen& owner = screen();
-  const bool done = owner.Perform([&] { (owner.*handler_)(); });
+  const bool done = screen().Run(handler_);
   if (!done) SetOn(!on_);
   return done;
 }
@@ -292,6 +290,10 @@ bool Screen::Perform(const std::function<void()>& command) {
             std::string("The command could not be finished: ") + error.what()});
   }
   return false;
+}
+
+bool Screen::Run(ScreenHandler handler) {
+  return Perform([this, handler] { (this->*handler)(); });
 }
 
 void Screen::Report(const CommandError& error) {

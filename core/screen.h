@@ -349,6 +349,8 @@ class Screen {
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.
   bool Perform(const std::function<void()>& command);
+  /// The same for a handler of one of the screen's controls.
+  bool Run(ScreenHandler handler);
 
   /// Empties every text box (Clear).
   virtual void ClearFields();

@@ -1,0 +1,110 @@
+// What holds for every screen, whichever it is.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+
+#include "core/key_table.h"
+#include "program/program.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+class Screens : public testing::Test {
+ protected:
+  Screens() { program_.Start(); }
+  TestHost host_;
+  Program program_{host_};
+};
+
+TEST_F(Screens, HaveControlsWithNamesOfTheirOwn) {
+  for (const Screen* screen : program_.shell().screens()) {
+    std::set<std::string> names;
+    for (const Control* control : screen->controls()) {
+      EXPECT_TRUE(names.insert(control->name()).second)
+          << screen->name() << '.' << control->name() << " stands twice";
+    }
+    EXPECT_FALSE(screen->title().empty());
+    EXPECT_NE(screen->Find("subend"), nullptr) << screen->name() << " cannot be closed";
+  }
+}
+
+TEST_F(Screens, HaveLabelsOnAllFieldsAndSentencesOnAllCommands) {
+  for (const Screen* screen : program_.shell().screens()) {
+    for (const Control* control : screen->controls()) {
+      const std::string where = screen->name() + '.' + control->name();
+      if (control->kind() == ControlKind::Field) {
+        EXPECT_FALSE(control->caption().empty()) << where;
+      }
+      if (control->kind() == ControlKind::Command) {
+        EXPECT_FALSE(control->caption().empty()) << where;
+        EXPECT_FALSE(control->help().empty()) << where;
+      }
+    }
+  }
+}
+
+TEST_F(Screens, OwnTheControlsThatTheKeyTableNames) {
+  for (const KeyRow& row : KeyTable()) {
+    const auto dot = row.owner.find('.');
+    const Screen* screen = program_.shell().FindScreen(row.owner.substr(0, dot));
+    if (screen == nullptr || dot == std::string_view::npos) continue;
+    if (Shell::FindMenuItem(row.owner.substr(dot + 1)) != nullptr) continue;
+    EXPECT_NE(program_.shell().FindControl(row.owner), nullptr)
+        << row.key << " is owned by " << row.owner;
+  }
+}
+
+TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
+  for (const Screen* screen : program_.shell().screens()) {
+    for (const Control* control : screen->controls()) {
+      const auto* field = dynamic_cast<const Field*>(control);
+      if (field == nullptr || field->rule() == KeyRule::AnyText) continue;
+      EXPECT_TRUE(IsNumber(field->text(), DecimalMark::Point))
+          << screen->name() << '.' << field->name() << ": " << field->text();
+    }
+  }
+}
+
+/// The folders in the order in which they may include each other: a folder includes those
+/// of its own line and of the lines below.
+const std::map<std::string, int> kLevels{{"ui", 6},        {"script", 5},  {"program", 4},
+                                         {"engine", 3},    {"cam", 3},     {"airfuel", 3},
+                                         {"twostroke", 3}, {"vehicle", 3}, {"chassis", 3},
+                                         {"reference", 3}, {"graph", 2},   {"core", 1}};
+
+TEST(Folders, IncludeDownwardsOnly) {
+  const std::filesystem::path root = VELDOX_SOURCE_DIR;
+  const std::regex include("^\\s*#include\\s+([\"<])([^\">]+)[\">]");
+  int files = 0;
+  for (const auto& [folder, level] : kLevels) {
+    if (!std::filesystem::exists(root / folder)) continue;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root / folder)) {
+      const auto extension = entry.path().extension();
+      if (extension != ".h" && extension != ".cpp") continue;
+      ++files;
+      std::ifstream stream(entry.path());
+      for (std::string line; std::getline(stream, line);) {
+        std::smatch found;
+        if (!std::regex_search(line, found, include)) continue;
+        const std::string name = found[2];
+        if (folder != "ui") {
+          EXPECT_FALSE(found[1] == "<" && name.front() == 'Q') << entry.path() << ": " << line;
+        }
+        const auto other = kLevels.find(name.substr(0, name.find('/')));
+        if (other == kLevels.end() || name.find('/') == std::string::npos) continue;
+        EXPECT_LE(other->second, level) << entry.path() << ": " << line;
+      }
+    }
+  }
+  EXPECT_GT(files, 20);
+}
+
+}  // namespace
+}  // namespace veldox

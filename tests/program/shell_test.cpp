@@ -1,0 +1,277 @@
+#include "core/shell.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "engine/form1.h"
+#include "program/program.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+class ShellTest : public testing::Test {
+ protected:
+  ShellTest() { host_.folder = folder_.path(); }
+
+  Shell& shell() { return program_.shell(); }
+  ParameterBlock& block() { return program_.context().block; }
+  void Choose(std::string_view name) { shell().Choose(*Shell::FindMenuItem(name)); }
+  Form1& form1() { return static_cast<Form1&>(*shell().FindScreen("Form1")); }
+  void WriteFile(const char* name, const std::string& text) {
+    std::ofstream(folder_ / name, std::ios::binary) << text;
+  }
+
+  TemporaryFolder folder_;
+  TestHost host_;
+  Program program_{host_};
+};
+
+TEST_F(ShellTest, StartsSilentlyWithItsDefaults) {
+  program_.Start();
+  EXPECT_TRUE(host_.messages.empty());
+  EXPECT_EQ(block().Bore, 4.0);
+  EXPECT_EQ(block().DataChanged, 0);
+  EXPECT_EQ(block().CustomGridLineCountx, 10);
+  EXPECT_EQ(block().CustomGridLineCounty, 10);
+  EXPECT_EQ(shell().Combo3.rows(),
+            (std::vector<std::string>{"0 - Left", "1 - Right", "2 - Center (Default)"}));
+  EXPECT_EQ(shell().Combo6.rows().size(), 16U);
+  EXPECT_TRUE(shell().visible());
+  EXPECT_EQ(form1().Text1.text(), "4.000");
+}
+
+TEST_F(ShellTest, ReadsTheStartUpFileOfItsFolder) {
+  WriteFile("zxqvwu00.prm", "Bore = 4.5\r\nBore Increase = 0.03\r\n");
+  program_.Start();
+  EXPECT_TRUE(host_.messages.empty());
+  EXPECT_EQ(block().Bore, 4.5);
+  EXPECT_EQ(form1().Text26.text(), "0.03");
+}
+
+TEST_F(ShellTest, TellsWhatIsWrongWithTheStartUpFile) {
+  WriteFile("zxqvwu00.prm", "Bore = 4.5\r\nnonsense\r\nStroke = 3\r\n");
+  host_.Answer(Button::OK);
+  program_.Start();
+  EXPECT_EQ(host_.messages.back().text, "Invalid Input Record # - 2   Data --> nonsense");
+  EXPECT_EQ(block().Stroke, 3);
+}
+
+TEST_F(ShellTest, MarkerFilesSetTheSizeOfTheScreens) {
+  WriteFile("veldox.lrg", "");
+  WriteFile("veldox.ful", "");
+  program_.Start();
+  EXPECT_EQ(block().LargeScreen, 1);
+  EXPECT_EQ(block().FullScreen, 1);
+}
+
+TEST_F(ShellTest, CommaSystemsAreToldAndConverted) {
+  host_.decimalMark = DecimalMark::Comma;
+  host_.Answer(Button::OK);
+  program_.Start();
+  EXPECT_EQ(host_.messages.back().text, "Program Set for Decimal Point to be >>,<< [Comma] ");
+  EXPECT_EQ(host_.messages.back().icon, Icon::Information);
+  EXPECT_EQ(form1().Text3.text(), "3,25");
+  EXPECT_EQ(block().DecimalCommaMode, 1);
+}
+
+TEST_F(ShellTest, OpeningCopiesTheSharedValuesAndSetsTheTag) {
+  program_.Start();
+  block().Bore = 4.1255559;
+  block().NumberofCylinders = 6;
+  block().RPM = 7123.6;
+  Choose("CubicInch");
+  EXPECT_TRUE(form1().visible());
+  EXPECT_EQ(form1().Text1.text(), "4.125556");
+  EXPECT_EQ(form1().Text2.text(), "6");
+  EXPECT_EQ(form1().Text5.text(), "7124");
+  EXPECT_EQ(form1().Text27.text(), "555.0");
+  EXPECT_EQ(form1().Text20.text(), "2.25");
+  EXPECT_EQ(form1().Text21.text(), "0.85");
+  EXPECT_EQ(form1().Text22.text(), "13.59405");
+  EXPECT_EQ(form1().Text8.text(), "9.245");
+  EXPECT_EQ(block().CurrentScreenTag, "CubicIn");
+}
+
+TEST_F(ShellTest, ItemsWhoseScreenIsNotThereAreDisabledAndDoNothing) {
+  program_.Start();
+  EXPECT_FALSE(shell().MenuEnabled(*Shell::FindMenuItem("CHASSIS")));
+  Choose("CHASSIS");
+  Choose("LrgScrRes");
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(ShellTest, TheMenuTreeIsWhole) {
+  std::set<std::string_view> names;
+  int top = 0;
+  for (const MenuItem& item : Shell::Menu()) {
+    EXPECT_TRUE(names.insert(item.name).second) << item.name << " stands twice";
+    EXPECT_FALSE(item.caption.empty()) << item.name;
+    if (item.parent.empty()) {
+      ++top;
+    } else {
+      const MenuItem* parent = Shell::FindMenuItem(item.parent);
+      ASSERT_NE(parent, nullptr) << item.name;
+      EXPECT_EQ(parent->kind, MenuKind::Submenu);
+      EXPECT_TRUE(names.contains(item.parent)) << item.name << " stands before its menu";
+    }
+  }
+  EXPECT_EQ(top, 22);
+  for (const LauncherItem& item : Shell::Launcher()) {
+    const MenuItem* opens = Shell::FindMenuItem(item.menuItem);
+    ASSERT_NE(opens, nullptr) << item.menuItem;
+    EXPECT_EQ(opens->kind, MenuKind::Screen);
+  }
+}
+
+TEST_F(ShellTest, EveryScreenOfTheMenuHasALauncherButton) {
+  std::set<std::string_view> launched;
+  for (const LauncherItem& item : Shell::Launcher()) launched.insert(item.menuItem);
+  for (const MenuItem& item : Shell::Menu()) {
+    if (item.kind == MenuKind::Screen) {
+      EXPECT_TRUE(launched.contains(item.name)) << item.name;
+    }
+  }
+}
+
+TEST_F(ShellTest, ClosingTheWindowWithChangedDataOffersNoCancel) {
+  program_.Start();
+  block().DataChanged = 1;
+  host_.Answer(Button::No);
+  shell().CloseWindow();
+  EXPECT_EQ(host_.messages.back().text, "Do you want to Save Your Data before Exiting VELDOX?");
+  EXPECT_EQ(host_.messages.back().icon, Icon::Question);
+  EXPECT_EQ(host_.messages.back().buttons, (std::vector<Button>{Button::Yes, Button::No}));
+  EXPECT_TRUE(shell().ended());
+}
+
+TEST_F(ShellTest, ExitFromTheMenuCanBeCancelledAndTriedAgain) {
+  program_.Start();
+  block().DataChanged = 1;
+  host_.Answer(Button::Cancel);
+  Choose("Exit");
+  EXPECT_EQ(host_.messages.back().buttons,
+            (std::vector<Button>{Button::Yes, Button::No, Button::Cancel}));
+  EXPECT_FALSE(shell().ended());
+  EXPECT_EQ(block().ExitInProgress, 0);
+  host_.Answer(Button::Yes);
+  host_.AnswerFile(std::nullopt);
+  Choose("Exit");
+  EXPECT_FALSE(shell().ended()) << "the save dialog was cancelled";
+  host_.Answer(Button::Yes);
+  host_.Answer(Button::OK);
+  host_.AnswerFile(folder_ / "out.prm");
+  Choose("Exit");
+  EXPECT_TRUE(shell().ended());
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "out.prm"));
+}
+
+TEST_F(ShellTest, ExitAsksNothingWhenNothingHasChanged) {
+  program_.Start();
+  shell().CloseWindow();
+  EXPECT_TRUE(shell().ended());
+}
+
+TEST_F(ShellTest, SaveDialogsBeginInTheProgramsFolder) {
+  program_.Start();
+  host_.AnswerFile(std::nullopt);
+  Choose("Write");
+  EXPECT_EQ(host_.fileDialogs.back().folder, folder_.path());
+  EXPECT_EQ(host_.fileDialogs.back().kind, FileDialog::Kind::Save);
+  EXPECT_EQ(host_.fileDialogs.back().filterIndex, 3);
+  EXPECT_EQ(host_.fileDialogs.back().filter,
+            "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Parameter Files (*.prm)|*.prm");
+}
+
+TEST_F(ShellTest, AFileThatCannotBeWrittenIsToldAndTheOldOneStays) {
+  program_.Start();
+  WriteFile("old", "a folder's name follows");
+  std::filesystem::create_directory(folder_ / "taken.prm");
+  host_.AnswerFile(folder_ / "taken.prm");
+  host_.Answer(Button::OK);
+  Choose("Write");
+  EXPECT_EQ(host_.messages.back().icon, Icon::Warning);
+  EXPECT_NE(host_.messages.back().text.find("taken.prm"), std::string::npos);
+  EXPECT_EQ(shell().Label8.caption(), "");
+}
+
+TEST_F(ShellTest, ChangedDataThatCouldNotBeSavedStayChanged) {
+  program_.Start();
+  std::filesystem::create_directory(folder_ / "taken.prm");
+  block().DataChanged = 1;
+  host_.Answer(Button::Yes);
+  host_.AnswerFile(folder_ / "taken.prm");
+  host_.Answer(Button::OK);
+  Choose("Read");
+  EXPECT_EQ(block().DataChanged, 1);
+}
+
+TEST_F(ShellTest, ReadClearsTheChangeAlsoWhenItsDialogIsCancelled) {
+  program_.Start();
+  block().DataChanged = 1;
+  host_.Answer(Button::No);
+  host_.AnswerFile(std::nullopt);
+  Choose("Read");
+  EXPECT_EQ(block().DataChanged, 0);
+}
+
+TEST_F(ShellTest, TypingInAnOptionFieldIsNoChangeOfTheData) {
+  program_.Start();
+  shell().MoveFocus(&shell().Text13);
+  EXPECT_EQ(block().OptionFieldActive, 1);
+  shell().Text13.FilterKey(U'2');
+  EXPECT_EQ(block().DataChanged, 0);
+  shell().MoveFocus(nullptr);
+  EXPECT_EQ(block().OptionFieldActive, 0);
+  shell().MoveFocus(&shell().Text13);
+  shell().Minimised();
+  EXPECT_EQ(block().OptionFieldActive, 0);
+}
+
+TEST_F(ShellTest, MetricModeAndPrintHeadsOfAFileTurnTheMenu) {
+  program_.Start();
+  WriteFile("modes.prm", "Metric Mode = ON\r\nPrint Heads = ON\r\n");
+  host_.AnswerFile(folder_ / "modes.prm");
+  host_.Answer(Button::OK);
+  Choose("Read");
+  EXPECT_EQ(host_.messages.back().text, "2 Records Read");
+  EXPECT_EQ(shell().MenuCaption(*Shell::FindMenuItem("Metric")), "Metric Mode -- Is ON");
+  EXPECT_EQ(shell().MenuCaption(*Shell::FindMenuItem("Print_CI")),
+            "Print Company Info Multi Page -- Is ON");
+  Choose("CubicInch");
+  EXPECT_TRUE(form1().Check1.on());
+  EXPECT_EQ(form1().Text1.text(), "101.6");
+}
+
+TEST_F(ShellTest, PickFontAndPickColorReportACancelToTheirCaller) {
+  program_.Start();
+  host_.AnswerFont(FontChoice{"Sans", 11, true, false});
+  EXPECT_EQ(shell().PickFont().name, "Sans");
+  host_.AnswerColor(255 + 256 * 128);
+  EXPECT_EQ(shell().PickColor(), "33023");
+  host_.AnswerFont(std::nullopt);
+  host_.AnswerColor(std::nullopt);
+  EXPECT_THROW(shell().PickFont(), CommandError);
+  EXPECT_THROW(shell().PickColor(), CommandError);
+}
+
+TEST(TitleAnimation, BringsOnePieceAfterTheOtherToRestAndStops) {
+  TitleAnimation title;
+  int ticks = 0;
+  while (title.Tick()) {
+    ++ticks;
+    for (int piece = 1; piece < TitleAnimation::kPieces; ++piece) {
+      if (title.offset(piece) < TitleAnimation::kStart) {
+        EXPECT_EQ(title.offset(piece - 1), 0);
+      }
+    }
+    ASSERT_LT(ticks, 1000);
+  }
+  for (int piece = 0; piece < TitleAnimation::kPieces; ++piece) EXPECT_EQ(title.offset(piece), 0);
+  EXPECT_FALSE(title.Tick());
+}
+
+}  // namespace
+}  // namespace veldox
