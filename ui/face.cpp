@@ -92,8 +92,9 @@ bool Face::EnterControl() {
 }
 
 void Face::FocusWent() {
-  // When another control of the window takes over, that one moves the screen's focus.
-  if (set_.Of(QApplication::focusWidget()) != nullptr) return;
+  // When another control of the window takes over, that one moves the screen's focus; and
+  // what a panel that closes takes with it was not left by anybody.
+  if (set_.Of(QApplication::focusWidget()) != nullptr || !control_.Shown()) return;
   Screen& screen = control_.screen();
   if (screen.focus() == &control_ && !screen.MoveFocus(nullptr)) set_.ReturnFocus();
 }
