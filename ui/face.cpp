@@ -14,6 +14,24 @@ bool TakesPointer(const Control& control) {
   return control.kind() != ControlKind::ReportBox && &control != control.screen().HelpPlace();
 }
 
+/// A sentence in lines short enough for a tooltip, which breaks none itself.
+QString InLines(const QString& sentence) {
+  constexpr qsizetype kLongest = 90;
+  QString lines;
+  qsizetype column = 0;
+  for (const QString& word : sentence.split(QLatin1Char(' '))) {
+    if (column > 0 && column + word.size() >= kLongest) {
+      lines += QLatin1Char('\n');
+      column = 0;
+    } else if (!lines.isEmpty()) {
+      lines += QLatin1Char(' ');
+    }
+    lines += word;
+    column += word.size() + 1;
+  }
+  return lines;
+}
+
 }  // namespace
 
 bool MovedOnPurpose(Qt::FocusReason reason) {
@@ -52,7 +70,7 @@ void Face::Follow() {
   if (control_.kind() == ControlKind::Command && !control_.enabled()) {
     widget_->setToolTip(QLatin1String(kNotAvailable));
   } else if (control_.kind() != ControlKind::Label) {
-    widget_->setToolTip(help);
+    widget_->setToolTip(InLines(help));
   }
   widget_->setAccessibleDescription(help);
 }

@@ -68,6 +68,14 @@ TEST_F(Form1WindowTest, HelpIsTooltipAndAccessibleDescriptionOfACommand) {
   EXPECT_EQ(Child(window, "Command1").accessibleDescription(), help);
 }
 
+TEST_F(Form1WindowTest, LongHelpIsBrokenIntoLinesInATooltip) {
+  const std::string& help = Model<OptionButton>("Form1.Option1(19)").help();
+  QString tip = Child(window, "Option1(19)").toolTip();
+  ASSERT_GT(help.size(), 150U);
+  for (const QString& line : tip.split(QLatin1Char('\n'))) EXPECT_LE(line.size(), 90);
+  EXPECT_EQ(FromQt(tip.replace(QLatin1Char('\n'), QLatin1Char(' '))), help);
+}
+
 TEST_F(Form1WindowTest, CommandThatIsNotBuiltSaysSo) {
   const auto* command = Model<Command>("Form1.Command12").enabled() ? nullptr : "Command12";
   if (command == nullptr) GTEST_SKIP() << "all commands are built";
