@@ -101,6 +101,7 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   auto* cells = new QGridLayout;
   cells->setSpacing(6);
   std::vector<QWidget*> buttons;
+  buttons.reserve(commands.size());
   for (Command* command : commands) {
     buttons.push_back(faces.Make<CommandFace>(*command, this).widget());
   }
