@@ -145,6 +145,8 @@ void ScriptRunner::RunLine(std::string_view line) {
     PrintList(host_.messages);
   } else if (verb == "dialogs") {
     PrintList(host_.dialogs);
+  } else if (verb == "plot") {
+    TellPlot();
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color"})) {
@@ -282,6 +284,33 @@ void ScriptRunner::TellValue(std::string_view key) {
     index = *parsed;
   }
   print_(std::string(key) + " = " + EscapeText(KeyValueText(*row, block, index)));
+}
+
+void ScriptRunner::TellPlot() {
+  const PlotEngine& plot = program_.grapher().plot();
+  print_("plot");
+  for (const std::string& title : plot.Titles()) print_("title " + EscapeText(title));
+  const auto caption = [&](const char* axis, int number) {
+    if (const std::string& text = plot.Caption(number); !text.empty()) {
+      print_(std::string("caption ") + axis + ' ' + EscapeText(text));
+    }
+  };
+  caption("x", kXPointerCaption);
+  caption("x", kXNameCaption);
+  caption("y", kYPointerCaption);
+  if (plot.hasAxes()) {
+    print_("range x " + FormatShortest(plot.XLow) + ' ' + FormatShortest(plot.XHigh));
+    print_("range y " + FormatShortest(plot.YLow) + ' ' + FormatShortest(plot.YHigh));
+  }
+  int number = 0;
+  for (const PlotSeriesRecord& series : plot.series()) {
+    print_("series " + std::to_string(++number) + ' ' +
+           (plot.UserColor() ? std::string(kUserColorName) : series.name) + ' ' +
+           std::to_string(series.points.size()) + " points");
+    for (const GraphPoint& point : series.points) {
+      print_(FormatShortest(point.x) + ' ' + FormatShortest(point.y));
+    }
+  }
 }
 
 void ScriptRunner::PrintList(std::vector<std::string>& lines) {
