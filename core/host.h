@@ -1,12 +1,14 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/page_surface.h"
 
 namespace veldox {
 
@@ -93,6 +95,11 @@ class Host {
   /// Where the start-up file, user tables and marker files lie and dialogs begin.
   virtual std::filesystem::path ProgramFolder() = 0;
   virtual ScreenSize MeasureScreen() = 0;
+  /// Begins a print job on the printer that is set up.
+  /// @throws CommandError (File) when there is none, (Cancelled) when the user does not want to
+  virtual std::unique_ptr<PageSurface> OpenPrinter() {
+    throw CommandError(ErrorKind::File, "No printer is set up on this computer.");
+  }
   /// Shows or ends the hourglass.
   virtual void SetBusy(bool busy) = 0;
 

@@ -552,6 +552,13 @@ struct ParameterBlock {
   double PistonArea{0};
   std::string Notes;
 
+  // The company block of printed pages
+  std::string CompanyName;
+  std::string CompanyAddress;
+  std::string CompanyCity;
+  std::string CompanyPhone;
+  std::string CompanyWebSite;
+
   // Switches and work values of the program
   std::int16_t DecimalCommaMode{0};
   std::int16_t MetricSwitch{0};       ///< 1 while a screen's "Metric" box is ticked

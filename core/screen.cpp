@@ -7,6 +7,10 @@
 #include <stdexcept>
 #include <utility>
 
+#include "core/files.h"
+#include "core/pages.h"
+#include "core/report.h"
+
 namespace veldox {
 
 // ---------------------------------------------------------------- Control
@@ -127,6 +131,55 @@ TextArea::TextArea(Frame& frame, std::string name, std::string label)
 ReportBox::ReportBox(Frame& frame, std::string name)
     : TextControl(frame, ControlKind::ReportBox, std::move(name), {}, {}, KeyRule::OutputOnly, {}) {
   SetVisible(false);
+}
+
+void ReportBox::ShowReport(std::string report, int fontSize) {
+  report_ = std::move(report);
+  fontSize_ = fontSize;
+  showsReport_ = true;
+  SetText(ReportBoxText(report_));
+  SetVisible(true);
+}
+
+void ReportBox::CloseReport() {
+  report_.clear();
+  showsReport_ = false;
+  SetText({});
+  SetVisible(false);
+}
+
+char32_t ReportBox::FilterKey(char32_t key) {
+  if (!showsReport_) return TextControl::FilterKey(key);
+  bool done = true;
+  if (key == U'.' || key == U',') {
+    done = screen().Perform([this, key] {
+      try {
+        key == U'.' ? WriteReportToFile() : PrintReport();
+      } catch (const CommandError& error) {
+        // A cancelled dialog was a key like any other.
+        if (error.kind() != ErrorKind::Cancelled) throw;
+      }
+    });
+  }
+  if (done) CloseReport();
+  return 0;
+}
+
+void ReportBox::WriteReportToFile() const {
+  constexpr int kPrinterFiles = 3;
+  Host& host = screen().context().host;
+  const auto path =
+      host.AskFile({FileDialog::Kind::Save,
+                    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt",
+                    kPrinterFiles, host.ProgramFolder()});
+  if (!path) throw CommandError(ErrorKind::Cancelled, "");
+  SaveFile(*path, ReportFileText(report_));
+}
+
+void ReportBox::PrintReport() const {
+  Host& host = screen().context().host;
+  const std::unique_ptr<PageSurface> surface = host.OpenPrinter();
+  ReportPrinter(*surface, HeaderOf(screen().block(), host.Now())).PrintReport(report_, fontSize_);
 }
 
 Label::Label(Frame& frame, std::string name, std::string caption)
@@ -255,8 +308,7 @@ void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on() && !box->Click()) return;
   Hover(nullptr);
   if (ReportBox* report = ReportPane(); report != nullptr) {
-    report->SetText({});
-    report->SetVisible(false);
+    report->CloseReport();
   }
   Closed();
   SetVisible(false);
@@ -265,6 +317,11 @@ void Screen::Quit() {
 void Screen::Hover(Control* control) {
   Control* place = HelpPlace();
   if (place == nullptr) return;
+  // A report is not written over by what the pointer passes.
+  if (const auto* box = dynamic_cast<const ReportBox*>(place);
+      box != nullptr && box->showsReport()) {
+    return;
+  }
   const std::string sentence = control == nullptr ? std::string{} : control->help();
   if (place->kind() == ControlKind::Label) {
     place->SetCaption(sentence);
@@ -312,6 +369,7 @@ void Screen::Report(const CommandError& error) {
 void Screen::ClearFields() {
   for (Control* control : controls_) {
     if (auto* text = dynamic_cast<TextControl*>(control)) text->SetText({});
+    if (auto* box = dynamic_cast<ReportBox*>(control)) box->CloseReport();
   }
 }
 
@@ -407,6 +465,10 @@ void Screen::RequireResult(Field& field, double value, DividesBy divisors) const
 void Screen::ShowText(TextControl& field, std::string text) {
   field.SetText(std::move(text));
   field.SetMark(Mark::Changed);
+}
+
+void Screen::ShowReport(std::string report, int fontSize) {
+  ReportPane()->ShowReport(std::move(report), fontSize);
 }
 
 void Screen::Show(Field& field, double value, DividesBy divisors) {

@@ -140,7 +140,7 @@ class TextControl : public Control {
   KeyRule rule() const { return rule_; }
   LeaveCheck leaveCheck() const { return leaveCheck_; }
   /// Runs a typed key through the field's rule; 0 when it is refused.
-  char32_t FilterKey(char32_t key);
+  virtual char32_t FilterKey(char32_t key);
   /// True when entering has to select all of the text.
   bool Enter();
   /// Runs the check on losing the focus; false when the field keeps the focus.
@@ -183,6 +183,28 @@ class TextArea : public TextControl {
 class ReportBox : public TextControl {
  public:
   ReportBox(Frame& frame, std::string name);
+
+  /// Shows a report (core/report.h); it stays until a key closes it.
+  /// @param fontSize  points it is printed in
+  void ShowReport(std::string report, int fontSize);
+  bool showsReport() const { return showsReport_; }
+  /// The report with its marks, empty when none is shown.
+  const std::string& report() const { return report_; }
+  int fontSize() const { return fontSize_; }
+  /// Empties and hides the box.
+  void CloseReport();
+
+  /// A key while a report is shown: "." writes it to a file, "," prints it, and every key
+  /// closes it, unless writing or printing failed. No key is ever taken as text.
+  char32_t FilterKey(char32_t key) override;
+
+ private:
+  void WriteReportToFile() const;
+  void PrintReport() const;
+
+  std::string report_;
+  int fontSize_ = 0;
+  bool showsReport_ = false;
 };
 
 class Label : public Control {
@@ -391,6 +413,8 @@ class Screen {
   /// happened since the command began.
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
   void ShowText(TextControl& field, std::string text);
+  /// Shows a report in the screen's report box. @param fontSize  points it is printed in
+  void ShowReport(std::string report, int fontSize = 10);
   /// Ends the command unless a condition on a field's value holds; the message follows the
   /// field's label. @throws CommandError (InvalidArgument)
   static void Require(bool holds, Field& field, const char* message) {

@@ -9,6 +9,9 @@ inline constexpr double kMetresPerFoot = 0.3048;
 inline constexpr double kFeetPerMetre = 3.280839895;
 inline constexpr double kCubicInchesPerCc = 0.061023744;
 inline constexpr double kKilowattsPerHorsepower = 0.745701;
+inline constexpr double kNewtonsPerPound = 4.448222;
+inline constexpr double kNewtonMetresPerFootPound = 1.3558179;
+inline constexpr double kGramsPerPound = 453.5923696;
 
 /// What a field measures; the face shows the unit's sign beside it.
 enum class Unit {

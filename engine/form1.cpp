@@ -1,6 +1,10 @@
 #include "engine/form1.h"
 
+#include <cfenv>
+#include <cmath>
 #include <vector>
+
+#include "core/report.h"
 
 namespace veldox {
 
@@ -236,6 +240,176 @@ void Form1::Command10_Click() {
   ReadEngineFields();
   ShowAs<"0.00000000000">(Text15, EqualSpeedCrankAngle(block().RodLength, block().Stroke),
                           {&Text3});
+}
+
+bool Form1::CheckDegreeRange() {
+  constexpr double kManyLongLines = 723;
+  constexpr double kManyShortLines = 1200;
+  ParameterBlock& b = block();
+  ReadInto(b.EveryXDegrees, Text39);
+  ReadInto(b.StartDegrees, Text40);
+  ReadInto(b.EndDegrees, Text41);
+  Require(b.EveryXDegrees > 0, Text39, "must be greater than 0 for this command.");
+  Require(b.StartDegrees + b.EveryXDegrees > b.StartDegrees &&
+              b.EndDegrees + b.EveryXDegrees > b.EndDegrees,
+          Text39, "is too small beside the Start Degrees and End Degrees.");
+  const double lines = DegreeLines(b.StartDegrees, b.EndDegrees, b.EveryXDegrees);
+  std::string wrong;
+  if (lines > kMostDegreeLines) {
+    wrong += "\r\nYou can generate no more than 3600 degree lines and you want " +
+             FormatInt(lines, mark()) +
+             "\r\nYou can increase your Every xx Degrees or your Start Degrees or decrease your "
+             "End Degrees.";
+  } else if (lines >= (Check3.on() ? kManyShortLines : kManyLongLines)) {
+    context().host.Ask({Icon::Information,
+                        context().rules.messages().MessageTitle,
+                        std::string(OverflowNote),
+                        {Button::OK}});
+  }
+  if (b.StartDegrees > b.EndDegrees) {
+    wrong += "\r\nYour Starting Degrees is greater than your Ending Degrees.";
+  }
+  if (b.EndDegrees > 360) wrong += "\r\nYour Ending Degrees is greater then 360";
+  if (wrong.empty()) return true;
+  ShowReport(std::move(wrong));
+  return false;
+}
+
+void Form1::ReadWeights() {
+  ParameterBlock& b = block();
+  ReadInto(b.PistonWeight, Text30);
+  ReadInto(b.RodWeight, Text31);
+  if (Check2.on()) {
+    ReadInto(b.SmallEndRodWeight, Text14);
+  } else {
+    b.SmallEndRodWeight = b.RodWeight / 3;
+  }
+}
+
+PistonTable Form1::Table() const {
+  const ParameterBlock& b = block();
+  PistonTable table;
+  table.bore = b.Bore;
+  table.stroke = b.Stroke;
+  table.rodLength = b.RodLength;
+  table.offset = b.WristPinOffset;
+  table.rpm = b.RPM;
+  table.cylinders = b.NumberofCylinders;
+  table.weights = {b.PistonWeight, b.RodWeight, b.SmallEndRodWeight};
+  table.metric = b.MetricSwitch == 1;
+  table.compact = Check3.on();
+  table.startDegrees = b.StartDegrees;
+  table.endDegrees = b.EndDegrees;
+  table.everyDegrees = b.EveryXDegrees;
+  return table;
+}
+
+void Form1::FailForGeometry(const CommandError& error) {
+  const ParameterBlock& b = block();
+  const double reach = b.Stroke / 2 + std::abs(b.WristPinOffset);
+  if (reach > b.RodLength) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "is too large for this Stroke and Rod Length: the rod cannot follow the "
+                       "crank all the way round.",
+                       &Text32);
+  }
+  if (reach == b.RodLength) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "is too short for this Stroke: the rod would stand square to the bore.",
+                       &Text4);
+  }
+  throw error;
+}
+
+void Form1::ShowTable(const std::function<std::string(const PistonTable&)>& build) {
+  std::string report;
+  try {
+    report = build(Table());
+    if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) {
+      throw CommandError(ErrorKind::InvalidArgument,
+                         "The table cannot be computed for this engine. Please check the Bore, "
+                         "Stroke, Rod Length, Engine RPM and Wrist Pin Offset.");
+    }
+  } catch (const CommandError& error) {
+    FailForGeometry(error);
+  }
+  ShowReport(std::move(report));
+  DeriveEngineFields();
+}
+
+void Form1::ShowVelocityTable(AngleOrigin origin) {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  ReadInto(b.VolumetricEfficiency, Text21);
+  Require(b.PortDiameter != 0, Text20, "must not be 0 for this command.");
+  if (!CheckDegreeRange()) return;
+  Require(b.RPM != 0, Text5, "must not be 0 for this command.");
+  ShowTable([&](const PistonTable& table) { return VelocityReport(table, origin, mark()); });
+}
+
+void Form1::Command20_Click() {
+  ShowVelocityTable(AngleOrigin::Crank);
+}
+
+void Form1::Command19_Click() {
+  ShowVelocityTable(AngleOrigin::DegreeWheel);
+}
+
+void Form1::Command21_Click() {
+  ReadEngineFields();
+  if (!CheckDegreeRange()) return;
+  Require(block().RPM != 0, Text5, "must not be 0 for this command.");
+  ShowTable([&](const PistonTable& table) { return TravelReport(table, mark()); });
+}
+
+void Form1::Command17_Click() {
+  ReadEngineFields();
+  if (!CheckDegreeRange()) return;
+  ReadWeights();
+  Require(block().RodWeight != 0, Text31, "must not be 0 for this command.");
+  ShowTable([&](const PistonTable& table) { return CrankpinForceReport(table, mark()); });
+}
+
+void Form1::Command18_Click() {
+  ReadEngineFields();
+  if (!CheckDegreeRange()) return;
+  ReadWeights();
+  ShowTable([&](const PistonTable& table) { return CrankpinLoadReport(table, mark()); });
+}
+
+void Form1::Command24_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  ReadInto(b.CrankDegrees, Text47);
+  // A travel has the unit of the lengths it comes from.
+  const double radius = b.Stroke / 2;
+  const double travel = PistonTravelAt({radius, b.RodLength, b.WristPinOffset}, b.CrankDegrees);
+  const double travel2 = PistonTravelAt({radius, b.RodLength2, b.WristPinOffset}, b.CrankDegrees);
+  Store(b.PistonTravel, Text48, travel, {&Text4});
+  Show(Text18, travel2, {&Text17});
+  Show(Text19, travel - travel2);
+}
+
+void Form1::Command25_Click() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  ReadInto(b.PistonTravel, Text48);
+  Require(b.PistonTravel >= 0, Text48, "must not be negative for this command.");
+  try {
+    if (b.WristPinOffset == 0) {
+      Store(b.CrankDegrees, Text47, CrankDegreesAtTravel(b.Stroke, b.RodLength, b.PistonTravel));
+    } else {
+      Show(Text47,
+           CrankDegreesAtTravel({b.Stroke / 2, b.RodLength, b.WristPinOffset}, b.PistonTravel));
+    }
+  } catch (const CommandError& error) {
+    // Its sentence stands alone in the box, so the field is pointed at here.
+    if (error.control() == nullptr) {
+      Text48.SetMark(Mark::Error);
+      Text48.Focus();
+    }
+    throw;
+  }
 }
 
 void Form1::Check1_Click() {

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "core/screen.h"
 #include "engine/displacement.h"
+#include "engine/piston_reports.h"
 
 namespace veldox {
 
@@ -33,6 +37,13 @@ class Form1 : public Screen {
   void Command23_Click();
   void Command26_Click();
   void Command10_Click();
+  void Command17_Click();
+  void Command18_Click();
+  void Command19_Click();
+  void Command20_Click();
+  void Command21_Click();
+  void Command24_Click();
+  void Command25_Click();
   void Check1_Click();
 
   void ReadEngineFields();
@@ -45,6 +56,17 @@ class Form1 : public Screen {
   double PistonSpeedInFormulaUnits() const;
   double EngineSizeInFieldUnits() const;
   double CylinderVolume();
+
+  /// Parses the degree range. False when it cannot make a table: the report box then tells why.
+  bool CheckDegreeRange();
+  void ReadWeights();
+  /// The engine and the degree range as the last commands have read them.
+  PistonTable Table() const;
+  /// Builds a table of the engine and shows it.
+  void ShowTable(const std::function<std::string(const PistonTable&)>& build);
+  void ShowVelocityTable(AngleOrigin origin);
+  /// Ends a command that no engine of these sizes can do. @throws CommandError
+  [[noreturn]] void FailForGeometry(const CommandError& error);
 
  public:
   Frame Frame1{*this, "Frame1", "Engine", 0};
@@ -148,10 +170,12 @@ class Form1 : public Screen {
   Field Text19{Frame7, "Text19", "Pist T - Pist T2", "0.018", KeyRule::OutputOnly, Unit::Length};
   Command Command24{Frame7, "Command24", "Piston Tra&vel",
                     "Calculate Piston Travel [ Piston Travel 2 and Difference ], using Stroke, Rod "
-                    "Length [ Rod Length 2 ], Wrist Pin Offset and Crank Degrees Rotation."};
+                    "Length [ Rod Length 2 ], Wrist Pin Offset and Crank Degrees Rotation.",
+                    &Form1::Command24_Click};
   Command Command25{Frame7, "Command25", "Crank De&grees",
                     "Calculate Crank Degrees Rotation, using Stroke, Rod Length, Wrist Pin Offset "
-                    "and Piston Travel."};
+                    "and Piston Travel.",
+                    &Form1::Command25_Click};
 
   Frame Frame8{*this, "Frame8", "Bearing Speed", 2};
   Field Text33{Frame8, "Text33", "Journal Diameter", "2.5", KeyRule::UnsignedReal, Unit::Length};
@@ -180,25 +204,30 @@ class Form1 : public Screen {
   Command Command20{Frame11, "Command20", "Piston &Vel",
                     "Calculate Piston Speed, Piston Acceleration and Velocity also Piston Flow @ "
                     "28\", showing result ever X Crankshaft Degrees. Using Bore, Stroke, Wrist Pin "
-                    "Offset, RPM, and Rod Length."};
+                    "Offset, RPM, and Rod Length.",
+                    &Form1::Command20_Click};
   Command Command19{
       Frame11, "Command19", "&Piston Vel/Trv",
       "Calculate Piston Travel, Piston Acceleration and Velocity, (Degree Wheel) showing result "
-      "ever X Degrees. Using Bore, Stroke, Wrist Pin Offset, RPM, and Rod Length."};
+      "ever X Degrees. Using Bore, Stroke, Wrist Pin Offset, RPM, and Rod Length.",
+      &Form1::Command19_Click};
   Command Command21{Frame11, "Command21", "Piston T&rv",
                     "Calculate Piston Travel, Crank Rod Angle, Rod Bore Angle, and Cylinder "
                     "Volume, showing results every X Crankshaft Degrees. Using Bore, Stroke, Wrist "
-                    "Pin Offset, RPM, and Rod Length."};
+                    "Pin Offset, RPM, and Rod Length.",
+                    &Form1::Command21_Click};
   Command Command17{
       Frame11, "Command17", "Crankpin Force",
       "Calculate Crankpin Force, showing result ever X Crankshaft Degrees. Using Bore, Stroke, "
       "RPM, Rod Length, Piston Weight (this includes the weight of the rings, wrist pin, and any "
-      "locks or buttons), Wrist Pin Offset, and Rod Weight."};
+      "locks or buttons), Wrist Pin Offset, and Rod Weight.",
+      &Form1::Command17_Click};
   Command Command18{
       Frame11, "Command18", "Crankpin Load",
       "Calculate Crankpin Load, showing result ever X Crankshaft Degrees. Using Bore, Stroke, RPM, "
       "Rod Length, Piston Weight (this includes the weight of the rings, wrist pin, and any locks "
-      "or buttons), Wrist Pin Offset, and Rod Weight."};
+      "or buttons), Wrist Pin Offset, and Rod Weight.",
+      &Form1::Command18_Click};
 
   Frame Frame12{*this, "Frame12", "Graphs", 3};
   OptionGroup Option1{

@@ -147,6 +147,8 @@ void ScriptRunner::RunLine(std::string_view line) {
     PrintList(host_.dialogs);
   } else if (verb == "plot") {
     TellPlot();
+  } else if (verb == "pages") {
+    TellPages();
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color"})) {
@@ -309,6 +311,18 @@ void ScriptRunner::TellPlot() {
            std::to_string(series.points.size()) + " points");
     for (const GraphPoint& point : series.points) {
       print_(FormatShortest(point.x) + ' ' + FormatShortest(point.y));
+    }
+  }
+}
+
+void ScriptRunner::TellPages() {
+  int number = 0;
+  for (const Page& page : host_.pages) {
+    print_("page " + std::to_string(++number) + (page.landscape ? " landscape" : " portrait"));
+    for (const PlacedText& text : page.texts) {
+      print_(std::to_string(text.x) + ' ' + std::to_string(text.y) + ' ' + text.font.name + ' ' +
+             std::to_string(text.font.size) + (text.font.bold ? " bold " : " plain ") +
+             EscapeText(text.text));
     }
   }
 }

@@ -38,6 +38,19 @@ T Take(std::deque<ScriptHost::Prepared<T>>& prepared) {
   return answer;
 }
 
+/// A printer that leaves its pages with the host when the job has ended.
+class ScriptPrinter : public PageRecorder {
+ public:
+  explicit ScriptPrinter(ScriptHost& host) : PageRecorder(host.landscape), host_(host) {}
+  void EndJob() override {
+    PageRecorder::EndJob();
+    host_.pages = PageRecorder::pages();
+  }
+
+ private:
+  ScriptHost& host_;
+};
+
 }  // namespace
 
 std::string EscapeText(std::string_view text) {
@@ -107,6 +120,10 @@ std::optional<FontChoice> ScriptHost::AskFont() {
 
 std::optional<std::int32_t> ScriptHost::AskColor() {
   return Take(colors);
+}
+
+std::unique_ptr<PageSurface> ScriptHost::OpenPrinter() {
+  return std::make_unique<ScriptPrinter>(*this);
 }
 
 ClockTime ScriptHost::Now() {

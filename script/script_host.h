@@ -45,6 +45,10 @@ class ScriptHost : public Host {
   /// What was shown and asked for since the script last looked, one line each.
   std::vector<std::string> messages;
   std::vector<std::string> dialogs;
+  /// The pages of the last print job.
+  std::vector<Page> pages;
+  /// How the next print job lays its pages.
+  bool landscape = false;
   /// The first thing that went wrong inside a box, told when the statement is over.
   std::string wrong;
 
@@ -56,6 +60,7 @@ class ScriptHost : public Host {
   DecimalMark SystemDecimalMark() override { return settings_.mark; }
   std::filesystem::path ProgramFolder() override { return settings_.folder; }
   ScreenSize MeasureScreen() override { return {1366, 768, 96}; }
+  std::unique_ptr<PageSurface> OpenPrinter() override;
   void SetBusy(bool) override {}
 
  private:

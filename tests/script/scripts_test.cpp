@@ -60,9 +60,13 @@ class Scripts : public testing::TestWithParam<std::string> {
 
   Result RunScript(const std::string& more) const {
     const fs::path script = folder_ / (GetParam() + ".vs");
-    return RunProgram(std::string(VELDOX_SCRIPT) + " --date \"2026-11-21 14:05:09\" " + more + ' ' +
-                      ArgumentsOf(Load(script)) + " '" + script.string() + "' 2>&1");
+    return RunProgram("QT_QPA_PLATFORM=offscreen " + std::string(VELDOX_SCRIPT) +
+                      " --date \"2026-11-21 14:05:09\" " + more + ' ' + ArgumentsOf(Load(script)) +
+                      " '" + script.string() + "' 2>'" + Complaints().string() + "'");
   }
+
+  /// What the program wrote to standard error, shown when a test fails.
+  fs::path Complaints() const { return folder_ / "standard-error.txt"; }
 
   fs::path folder_;
 };
@@ -70,14 +74,14 @@ class Scripts : public testing::TestWithParam<std::string> {
 TEST_P(Scripts, PrintTheExpectedLines) {
   const Result result = RunScript("");
   EXPECT_EQ(result.output, Load(folder_ / (GetParam() + ".out")));
-  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.status, 0) << Load(Complaints());
 }
 
 #ifdef VELDOX_HAS_WINDOWS
 TEST_P(Scripts, PrintTheSameWithWindows) {
   const Result result = RunScript("--windows");
   EXPECT_EQ(result.output, Load(folder_ / (GetParam() + ".out")));
-  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.status, 0) << Load(Complaints());
 }
 #endif
 

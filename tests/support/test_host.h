@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <deque>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <random>
 #include <string>
@@ -44,6 +45,8 @@ class TestHost : public Host {
   std::filesystem::path folder;
   ClockTime now{2024, 5, 17, 14, 3, 9};
   ScreenSize screen{1366, 768, 96};
+  /// What a print job is drawn on; a job that nobody prepared fails the test.
+  std::unique_ptr<PageSurface> printer;
 
   Button Ask(const Message& message) override {
     messages.push_back(message);
@@ -67,6 +70,11 @@ class TestHost : public Host {
   DecimalMark SystemDecimalMark() override { return decimalMark; }
   std::filesystem::path ProgramFolder() override { return folder; }
   ScreenSize MeasureScreen() override { return screen; }
+  std::unique_ptr<PageSurface> OpenPrinter() override {
+    if (printer != nullptr) return std::move(printer);
+    ADD_FAILURE() << "unexpected print job";
+    return Host::OpenPrinter();
+  }
   void SetBusy(bool busy) override {
     busyDepth_ += busy ? 1 : -1;
     if (busy) ++busyCount;

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/report_columns.h"
+
+namespace veldox {
+
+/// A report is one text of lines that end with CR LF, the last one without. The last character
+/// of a line may be a mark for the printer, which no reader ever sees.
+enum class LineMark : char {
+  None = 0,
+  Heading = '_',      ///< bold, and repeated at the top of the pages that follow
+  Bold = '^',         ///< bold
+  HeadingsEnd = '~',  ///< no headings are repeated from here on
+};
+
+/// What every report begins with: the keys of the report box. It is shown and written to files,
+/// never printed.
+inline constexpr std::string_view ReportPrompt =
+    "Press the . key to Write this Data to a Disk File Or , key to Print this Data\r\n\r\n";
+
+/// The beginning of a page that can only be written to a file.
+inline constexpr std::string_view PagePrompt =
+    "Pressing the . key will cause this Page to be Written to a Disk File.\r\n\r\n";
+
+/// The warning before a report that is longer than a text box may hold.
+inline constexpr std::string_view OverflowNote =
+    "You could be trying to Generate More Lines than can fit in the Text Box\r\n\r\n"
+    "Note if you save the Data to a File or Print the Data to a Printer all of the Data should be "
+    "There\r\n";
+
+/// One line of a report, without its mark and line break. It points into the report's text.
+struct MarkedLine {
+  std::string_view text;
+  LineMark mark = LineMark::None;
+
+  bool operator==(const MarkedLine&) const = default;
+};
+
+/// The lines of a report in order; a text without a line break is one line.
+std::vector<MarkedLine> ReportLines(std::string_view report);
+
+/// The report as the report box shows it: without the marks at line ends.
+std::string ReportBoxText(std::string_view report);
+
+/// The report as it is written to a file: without marks, and with a line break behind the last
+/// line. A mark that no line break follows stays.
+std::string ReportFileText(std::string_view report);
+
+/// Builds a report line by line: cells of numbers by ReportColumns, texts as they are.
+class ReportWriter : public ReportColumns {
+ public:
+  /// Begins a report with ReportPrompt.
+  explicit ReportWriter(DecimalMark mark) : ReportColumns(mark) { ReportLine = ReportPrompt; }
+
+  /// Appends a text to the line.
+  ReportWriter& Add(std::string_view text) {
+    ReportLine += text;
+    return *this;
+  }
+
+  /// Appends a number by a pattern, with blanks on its left up to `width`.
+  template <PatternText Pattern>
+  ReportWriter& Add(double value, int width = 0) {
+    AddCell<Pattern>(value, width);
+    return *this;
+  }
+
+  /// Ends the line. A text that already carries its mark needs none here.
+  void EndLine(LineMark mark = LineMark::None);
+
+  /// Appends whole lines, each with its mark as its last character.
+  void AddLines(std::initializer_list<std::string_view> lines);
+
+  /// The report, without a line break behind its last line. The writer is empty then.
+  std::string Finish();
+};
+
+}  // namespace veldox

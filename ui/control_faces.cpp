@@ -1,0 +1,198 @@
+#include "ui/control_faces.h"
+
+#include <QGridLayout>
+#include <QWheelEvent>
+
+#include "ui/qt_text.h"
+#include "ui/theme.h"
+
+namespace veldox {
+namespace {
+
+/// Room for the longest result, which has eleven decimals.
+constexpr int kFieldDigits = 13;
+/// Border and margins of a text box, and its point.
+constexpr int kFieldEdges = 20;
+/// Longer labels take a second line.
+constexpr int kLabelDigits = 30;
+
+int DigitsWidth(const QWidget& widget, int digits) {
+  return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits;
+}
+
+QLabel* MakeLabel(const Control& control, QWidget* parent) {
+  auto* label = new QLabel(ToQtLines(control.caption()), parent);
+  label->setTextFormat(Qt::PlainText);
+  const int widest = DigitsWidth(*label, kLabelDigits);
+  if (label->sizeHint().width() > widest) {
+    label->setWordWrap(true);
+    label->setMinimumWidth(widest);
+  }
+  return label;
+}
+
+/// A list whose row the wheel turns only while it has the focus.
+class CalmComboBox : public QComboBox {
+ public:
+  explicit CalmComboBox(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) {
+      QComboBox::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+};
+
+}  // namespace
+
+FieldFace::FieldFace(FaceSet& set, Field& field, QWidget* parent)
+    : Face(set, field, new FieldEdit(field, parent)),
+      field_(field),
+      label_(MakeLabel(field, parent)),
+      edit_(static_cast<FieldEdit*>(widget())),
+      unit_(new QLabel(parent)) {
+  edit_->setFixedWidth(DigitsWidth(*edit_, kFieldDigits) + kFieldEdges);
+  label_->setBuddy(edit_);
+  unit_->setTextFormat(Qt::PlainText);
+}
+
+void FieldFace::Follow() {
+  Face::Follow();
+  if (const QString caption = ToQtLines(field_.caption()); caption != label_->text()) {
+    label_->setText(caption);
+    edit_->setAccessibleName(ToQt(field_.PlainCaption()));
+  }
+  const QString unit = ToQt(UnitSign(field_.unit(), field_.screen().metric()));
+  if (unit != unit_->text()) unit_->setText(unit);
+  // Assistive tools read the unit with the field, as eyes do.
+  const QString help = ToQt(field_.help());
+  edit_->setAccessibleDescription(
+      help.isEmpty() || unit.isEmpty() ? help + unit : help + QLatin1Char(' ') + unit);
+  label_->setVisible(field_.visible());
+  unit_->setVisible(field_.visible());
+  if (const QString text = ToQt(field_.text()); text != edit_->text()) {
+    edit_->setText(text);
+    if (!edit_->hasFocus()) edit_->home(false);
+  }
+  edit_->update();
+}
+
+LabelFace::LabelFace(FaceSet& set, Label& label, QWidget* parent)
+    : Face(set, label, MakeLabel(label, parent)), label_(static_cast<QLabel*>(widget())) {}
+
+void LabelFace::Follow() {
+  Face::Follow();
+  label_->setText(ToQtLines(control().caption()));
+  label_->setAccessibleName(label_->text());
+}
+
+CheckBoxFace::CheckBoxFace(FaceSet& set, CheckBox& box, QWidget* parent)
+    : Face(set, box, new QCheckBox(ToQt(box.caption()), parent)),
+      box_(box),
+      widget_(static_cast<QCheckBox*>(widget())) {
+  connect(widget_, &QCheckBox::clicked, this, [this] {
+    box_.Click();
+    Follow();
+  });
+}
+
+void CheckBoxFace::Follow() {
+  Face::Follow();
+  widget_->setText(ToQt(box_.caption()));
+  widget_->setChecked(box_.on());
+}
+
+OptionButtonFace::OptionButtonFace(FaceSet& set, OptionButton& option, QWidget* parent)
+    : Face(set, option, new QRadioButton(ToQt(option.caption()), parent)),
+      option_(option),
+      button_(static_cast<QRadioButton*>(widget())) {
+  connect(button_, &QRadioButton::clicked, this, [this] { option_.Click(); });
+}
+
+void OptionButtonFace::Follow() {
+  Face::Follow();
+  button_->setText(ToQt(option_.caption()));
+  if (option_.on()) button_->setChecked(true);
+}
+
+OptionGroupFace::OptionGroupFace(FaceSet& set, OptionGroup& group, QWidget* parent)
+    : Face(set, group, new QWidget(parent)) {
+  auto* grid = new QGridLayout(widget());
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(3);
+  int row = 0;
+  const int columns = std::max(1, group.buttonsInRow());
+  if (!group.caption().empty()) {
+    QLabel* caption = MakeLabel(group, widget());
+    caption->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(caption, row++, 0, 1, columns);
+  }
+  int column = 0;
+  for (const auto& option : group.buttons()) {
+    auto& face = set.Make<OptionButtonFace>(*option, widget());
+    buttons_.push_back(&face);
+    // Members that are never shown take no cell.
+    if (!option->visible()) continue;
+    grid->addWidget(face.widget(), row, column);
+    if (++column == columns) {
+      column = 0;
+      ++row;
+    }
+  }
+  grid->setColumnStretch(columns, 1);
+}
+
+void OptionGroupFace::Follow() {
+  Face::Follow();
+  for (OptionButtonFace* button : buttons_) button->Follow();
+}
+
+ComboFace::ComboFace(FaceSet& set, ComboList& list, QWidget* parent)
+    : Face(set, list, new CalmComboBox(parent)),
+      list_(list),
+      label_(MakeLabel(list, parent)),
+      combo_(static_cast<QComboBox*>(widget())) {
+  label_->setBuddy(combo_);
+  connect(combo_, &QComboBox::activated, this, [this](int row) { list_.Choose(row); });
+}
+
+void ComboFace::Follow() {
+  Face::Follow();
+  QStringList rows;
+  for (const std::string& row : list_.rows()) rows.append(ToQt(row));
+  bool same = rows.size() == combo_->count();
+  for (int i = 0; same && i < combo_->count(); ++i) same = rows[i] == combo_->itemText(i);
+  if (!same) {
+    combo_->clear();
+    combo_->addItems(rows);
+  }
+  combo_->setCurrentIndex(list_.chosen());
+  label_->setVisible(list_.visible());
+}
+
+CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
+    : Face(set, command, new QPushButton(ToQt(command.caption()), parent)),
+      button_(static_cast<QPushButton*>(widget())) {
+  connect(button_, &QPushButton::clicked, this, [&command] { command.Click(); });
+}
+
+void CommandFace::Follow() {
+  Face::Follow();
+  button_->setText(ToQt(control().caption()));
+}
+
+TextAreaFace::TextAreaFace(FaceSet& set, TextArea& area, QWidget* parent)
+    : Face(set, area, new LinesEdit(area, parent)),
+      area_(area),
+      edit_(static_cast<LinesEdit*>(widget())) {}
+
+void TextAreaFace::Follow() {
+  Face::Follow();
+  edit_->Show(ToQtLines(area_.text()));
+}
+
+}  // namespace veldox

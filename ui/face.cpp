@@ -1,0 +1,140 @@
+#include "ui/face.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QWidget>
+
+#include "ui/qt_text.h"
+
+namespace veldox {
+namespace {
+
+/// False for the places that show help and reports: whoever reads them must not wipe them.
+bool TakesPointer(const Control& control) {
+  return control.kind() != ControlKind::ReportBox && &control != control.screen().HelpPlace();
+}
+
+/// A sentence in lines short enough for a tooltip, which breaks none itself.
+QString InLines(const QString& sentence) {
+  constexpr qsizetype kLongest = 90;
+  QString lines;
+  qsizetype column = 0;
+  for (const QString& word : sentence.split(QLatin1Char(' '))) {
+    if (column > 0 && column + word.size() >= kLongest) {
+      lines += QLatin1Char('\n');
+      column = 0;
+    } else if (!lines.isEmpty()) {
+      lines += QLatin1Char(' ');
+    }
+    lines += word;
+    column += word.size() + 1;
+  }
+  return lines;
+}
+
+}  // namespace
+
+bool MovedOnPurpose(Qt::FocusReason reason) {
+  return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+         reason != Qt::MenuBarFocusReason;
+}
+
+Face::Face(FaceSet& set, Control& control, QWidget* widget)
+    : set_(set), control_(control), widget_(widget) {
+  widget_->setObjectName(ToQt(control_.name()));
+  widget_->setAccessibleName(ToQt(control_.PlainCaption()));
+  widget_->installEventFilter(this);
+  control_.SetFace(this);
+}
+
+Face::~Face() {
+  control_.SetFace(nullptr);
+}
+
+void Face::FocusRequested(Control&) {
+  // The program may ask in the middle of a change of focus; that has to end first.
+  QMetaObject::invokeMethod(
+      widget_,
+      [widget = widget_] {
+        if (!widget->isVisible()) return;
+        widget->activateWindow();
+        widget->setFocus(Qt::OtherFocusReason);
+      },
+      Qt::QueuedConnection);
+}
+
+void Face::Follow() {
+  widget_->setVisible(control_.visible());
+  widget_->setEnabled(control_.enabled());
+  const QString help = ToQt(control_.help());
+  if (control_.kind() == ControlKind::Command && !control_.enabled()) {
+    widget_->setToolTip(QLatin1String(kNotAvailable));
+  } else if (control_.kind() != ControlKind::Label) {
+    widget_->setToolTip(InLines(help));
+  }
+  widget_->setAccessibleDescription(help);
+}
+
+bool Face::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != widget_) return false;
+  switch (event->type()) {
+    case QEvent::Enter:
+      if (TakesPointer(control_)) control_.screen().Hover(&control_);
+      break;
+    case QEvent::FocusIn: FocusCame(static_cast<QFocusEvent*>(event)->reason()); break;
+    case QEvent::KeyPress:
+      // The first key after the window came to the front enters the control.
+      if (control_.screen().focus() != &control_) EnterControl();
+      break;
+    case QEvent::FocusOut:
+      if (MovedOnPurpose(static_cast<QFocusEvent*>(event)->reason())) FocusWent();
+      break;
+    default: break;
+  }
+  return false;
+}
+
+void Face::FocusCame(Qt::FocusReason reason) {
+  // A window that comes to the front enters nothing.
+  if (!MovedOnPurpose(reason) || !EnterControl()) return;
+  const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                          reason == Qt::ShortcutFocusReason;
+  if (byKeyboard) control_.screen().Hover(&control_);
+}
+
+bool Face::EnterControl() {
+  Screen& screen = control_.screen();
+  if (screen.focus() == &control_ || screen.MoveFocus(&control_)) return true;
+  set_.ReturnFocus();
+  return false;
+}
+
+void Face::FocusWent() {
+  // When another control of the window takes over, that one moves the screen's focus; and
+  // what a panel that closes takes with it was not left by anybody.
+  if (set_.Of(QApplication::focusWidget()) != nullptr || !control_.Shown()) return;
+  Screen& screen = control_.screen();
+  if (screen.focus() == &control_ && !screen.MoveFocus(nullptr)) set_.ReturnFocus();
+}
+
+Face* FaceSet::Of(const Control& control) const {
+  for (const auto& face : faces_) {
+    if (&face->control() == &control) return face.get();
+  }
+  return nullptr;
+}
+
+Face* FaceSet::Of(const QWidget* widget) const {
+  if (widget == nullptr) return nullptr;
+  for (const auto& face : faces_) {
+    if (face->widget() == widget) return face.get();
+  }
+  return nullptr;
+}
+
+void FaceSet::ReturnFocus() {
+  if (screen_.focus() == nullptr) return;
+  if (Face* face = Of(*screen_.focus())) face->FocusRequested(*screen_.focus());
+}
+
+}  // namespace veldox

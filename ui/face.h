@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <vector>
+
+#include "core/screen.h"
+
+class QWidget;
+
+namespace veldox {
+
+class FaceSet;
+
+/// Said of every command, menu item and launcher button whose work is not built yet.
+inline constexpr const char* kNotAvailable = "Not available yet";
+
+/// True when the user or the program moved the focus to or from a widget itself, and not
+/// the window came to the front or a menu opened and closed.
+bool MovedOnPurpose(Qt::FocusReason reason);
+
+/// Stands for one control in a window: shows what the control holds and tells it what
+/// the user does. Neither knows more of the other.
+class Face : public QObject, public ControlFace {
+ public:
+  Face(FaceSet& set, Control& control, QWidget* widget);
+  ~Face() override;
+
+  Control& control() const { return control_; }
+  /// The widget that takes the focus; its object name is the control's name.
+  QWidget* widget() const { return widget_; }
+
+  void ControlChanged(Control&) override { Follow(); }
+  void FocusRequested(Control&) override;
+  /// Shows what the control holds now.
+  virtual void Follow();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void FocusCame(Qt::FocusReason reason);
+  /// Moves the screen's focus here. False when the field that is left keeps it.
+  bool EnterControl();
+  void FocusWent();
+
+  FaceSet& set_;
+  Control& control_;
+  QWidget* widget_;
+};
+
+/// The faces of one window. It moves the screen's focus with the keyboard focus and puts
+/// it back where a check of the field that was left keeps it.
+class FaceSet {
+ public:
+  explicit FaceSet(Screen& screen) : screen_(screen) {}
+
+  template <class F, class C, class... Args>
+  F& Make(C& control, Args&&... args) {
+    auto face = std::make_unique<F>(*this, control, std::forward<Args>(args)...);
+    F& made = *face;
+    faces_.push_back(std::move(face));
+    made.Follow();
+    return made;
+  }
+
+  Screen& screen() const { return screen_; }
+  /// In the order in which they were made; null where a control has none.
+  Face* Of(const Control& control) const;
+  Face* Of(const QWidget* widget) const;
+  const std::vector<std::unique_ptr<Face>>& all() const { return faces_; }
+  /// Gives the keyboard focus back to the control that holds the screen's.
+  void ReturnFocus();
+
+ private:
+  Screen& screen_;
+  std::vector<std::unique_ptr<Face>> faces_;
+};
+
+}  // namespace veldox

@@ -1,0 +1,153 @@
+#include "ui/frame_panel.h"
+
+#include <algorithm>
+
+#include "ui/control_faces.h"
+#include "ui/qt_text.h"
+
+namespace veldox {
+namespace {
+
+/// Room beside a command's caption beyond what the style gives.
+constexpr int kCaptionAir = 4;
+constexpr int kMostCommandsInRow = 3;
+/// Commands of a frame that holds nothing else may make it this wide.
+constexpr int kCommandFrameWidth = 300;
+
+bool Contains(const std::vector<const Control*>& list, const Control* control) {
+  return std::find(list.begin(), list.end(), control) != list.end();
+}
+
+int Widest(const std::vector<QWidget*>& widgets) {
+  int widest = 0;
+  for (const QWidget* widget : widgets) widest = std::max(widest, widget->sizeHint().width());
+  return widest;
+}
+
+}  // namespace
+
+bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed) {
+  return std::any_of(frame.controls().begin(), frame.controls().end(), [&](Control* control) {
+    return control->kind() != ControlKind::OptionButton && !Contains(placed, control);
+  });
+}
+
+FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,
+                       QWidget* parent)
+    : QGroupBox(ToQt(frame.caption()), parent), grid_(new QGridLayout(this)) {
+  grid_->setContentsMargins(0, 0, 0, 0);
+  grid_->setHorizontalSpacing(6);
+  grid_->setVerticalSpacing(3);
+  grid_->setColumnStretch(0, 1);
+  std::vector<Command*> commands;
+  for (Control* control : frame.controls()) {
+    if (Contains(placed, control)) continue;
+    if (control->kind() == ControlKind::Command) {
+      commands.push_back(static_cast<Command*>(control));
+    } else {
+      Place(faces, *control);
+    }
+  }
+  PlaceCommands(faces, commands);
+}
+
+void FramePanel::Place(FaceSet& faces, Control& control) {
+  const int row = grid_->rowCount();
+  switch (control.kind()) {
+    case ControlKind::Field: {
+      auto& face = faces.Make<FieldFace>(static_cast<Field&>(control), this);
+      grid_->addWidget(face.label(), row, 0);
+      grid_->addWidget(face.edit(), row, 1);
+      grid_->addWidget(face.unit(), row, 2);
+      labels_.push_back(face.label());
+      units_.push_back(static_cast<Field&>(control).unit());
+      break;
+    }
+    case ControlKind::ComboList: {
+      auto& face = faces.Make<ComboFace>(static_cast<ComboList&>(control), this);
+      grid_->addWidget(face.label(), row, 0);
+      grid_->addWidget(face.combo(), row, 1, 1, 2);
+      labels_.push_back(face.label());
+      break;
+    }
+    case ControlKind::Label:
+      grid_->addWidget(faces.Make<LabelFace>(static_cast<Label&>(control), this).widget(), row, 0,
+                       1, 3);
+      break;
+    case ControlKind::CheckBox:
+      grid_->addWidget(faces.Make<CheckBoxFace>(static_cast<CheckBox&>(control), this).widget(),
+                       row, 0, 1, 3);
+      break;
+    case ControlKind::OptionGroup:
+      grid_->addWidget(
+          faces.Make<OptionGroupFace>(static_cast<OptionGroup&>(control), this).widget(), row, 0, 1,
+          3);
+      break;
+    case ControlKind::TextArea:
+      grid_->setRowStretch(row, 1);
+      grid_->addWidget(faces.Make<TextAreaFace>(static_cast<TextArea&>(control), this).widget(),
+                       row, 0, 1, 3);
+      break;
+    case ControlKind::OptionButton:  // stands in its group
+    case ControlKind::Command:       // stands below, with the others
+    case ControlKind::Frame:
+    case ControlKind::ReportBox:  // opens at the foot of the window
+      break;
+  }
+}
+
+void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& commands) {
+  if (commands.empty()) return;
+  auto* cells = new QGridLayout;
+  cells->setSpacing(6);
+  std::vector<QWidget*> buttons;
+  buttons.reserve(commands.size());
+  for (Command* command : commands) {
+    buttons.push_back(faces.Make<CommandFace>(*command, this).widget());
+  }
+  const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
+  const int width = Widest(buttons) + kCaptionAir;
+  const int fitting = (room + cells->spacing()) / (width + cells->spacing());
+  const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
+  for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
+    QWidget* button = buttons[static_cast<std::size_t>(i)];
+    // The column's share of the width, not the caption, makes the buttons equal.
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    button->setMinimumWidth(width);
+    cells->addWidget(button, i / columns, i % columns);
+  }
+  for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
+  const int row = grid_->rowCount();
+  if (row > 1) grid_->setRowMinimumHeight(row, 2);
+  grid_->addLayout(cells, row + 1, 0, 1, 3);
+}
+
+int FramePanel::labelWidth() const {
+  return Widest(labels_);
+}
+
+int FramePanel::unitWidth() const {
+  int widest = 0;
+  for (const Unit unit : units_) {
+    for (const bool metric : {false, true}) {
+      widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(UnitSign(unit, metric))));
+    }
+  }
+  // A label asks for a little more than its text.
+  return widest == 0 ? 0 : widest + 3;
+}
+
+void FramePanel::Align(int labelWidth, int unitWidth) {
+  if (labels_.empty()) return;
+  grid_->setColumnMinimumWidth(0, labelWidth);
+  grid_->setColumnMinimumWidth(2, unitWidth);
+}
+
+FrameFace::FrameFace(FaceSet& set, Frame& frame, FramePanel* panel) : Face(set, frame, panel) {}
+
+void FrameFace::Follow() {
+  Face::Follow();
+  static_cast<FramePanel*>(widget())->setTitle(ToQt(control().caption()));
+}
+
+}  // namespace veldox

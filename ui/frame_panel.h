@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <vector>
+
+#include "ui/face.h"
+
+namespace veldox {
+
+/// A frame of a screen: its fields, boxes and options in a grid of label, text box and
+/// unit, and its commands in rows of equal width below.
+class FramePanel : public QGroupBox {
+ public:
+  /// @param placed  controls of the frame that the window shows elsewhere
+  FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,
+             QWidget* parent);
+
+  int labelWidth() const;
+  int unitWidth() const;
+  /// Lines the grid up with those of the other frames in its column.
+  void Align(int labelWidth, int unitWidth);
+
+ private:
+  void Place(FaceSet& faces, Control& control);
+  void PlaceCommands(FaceSet& faces, const std::vector<Command*>& commands);
+
+  QGridLayout* grid_;
+  std::vector<QWidget*> labels_;
+  std::vector<Unit> units_;
+};
+
+/// Stands for a frame that is shown and hidden in its place.
+class FrameFace : public Face {
+ public:
+  FrameFace(FaceSet& set, Frame& frame, FramePanel* panel);
+  void Follow() override;
+};
+
+/// True when a frame has something to show besides the controls placed elsewhere.
+bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed);
+
+}  // namespace veldox

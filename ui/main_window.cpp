@@ -1,0 +1,183 @@
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "ui/control_faces.h"
+#include "ui/frame_panel.h"
+#include "ui/help_bar.h"
+#include "ui/launcher.h"
+#include "ui/menu_rows.h"
+#include "ui/qt_text.h"
+#include "ui/screen_window.h"
+#include "ui/title_area.h"
+
+namespace veldox {
+namespace {
+
+constexpr QSize kPreferredSize(1000, 600);
+constexpr int kNarrowest = 700;
+constexpr int kMargin = 10;
+
+}  // namespace
+
+/// Stands for a panel that takes the launcher's place; its widgets are made when it is
+/// first shown.
+class MainWindow::PanelFace : public ControlFace {
+ public:
+  PanelFace(MainWindow& window, Frame& frame) : window_(window), frame_(frame) {
+    frame_.SetFace(this);
+  }
+  ~PanelFace() override { frame_.SetFace(nullptr); }
+
+  Frame& frame() const { return frame_; }
+  QWidget* page = nullptr;
+
+  void ControlChanged(Control&) override { window_.ShowPanel(*this); }
+  void FocusRequested(Control&) override {}
+
+ private:
+  MainWindow& window_;
+  Frame& frame_;
+};
+
+MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new MenuRows(this)) {
+  setObjectName(ToQt(shell.name()));
+  setWindowTitle(ToQt(shell.title()));
+  for (const MenuItem& item : Shell::Menu()) {
+    if (item.parent.empty()) menu_->Add(MakeAction(item, this));
+  }
+  title_ = new TitleArea(shell, faces_, this);
+  auto* fileName = faces_.Make<LabelFace>(shell.Label8, this).label();
+  fileName->setAlignment(Qt::AlignHCenter);
+  BuildPages();
+  auto* help = new HelpBar(this);
+  faces_.Make<HelpFace>(shell.Label77, help);
+
+  auto* body = new QVBoxLayout;
+  body->setContentsMargins(kMargin, 0, kMargin, kMargin);
+  body->setSpacing(8);
+  body->addWidget(title_);
+  body->addWidget(fileName);
+  body->addWidget(pages_, 1);
+  body->addWidget(help);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(menu_);
+  column->addLayout(body);
+
+  setMinimumWidth(kNarrowest);
+  resize(FittingSize(*this, kPreferredSize));
+  const QRect room = screen()->availableGeometry();
+  move(room.center() - rect().center());
+  shell_.SetShellFace(this);
+}
+
+MainWindow::~MainWindow() {
+  shell_.SetShellFace(nullptr);
+}
+
+void MainWindow::BuildPages() {
+  pages_ = new QStackedWidget(this);
+  auto* scroll = new QScrollArea(pages_);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(new Launcher(
+      shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
+  pages_->addWidget(scroll);
+  for (Frame* frame : shell_.frames()) {
+    if (frame->visible()) continue;
+    panels_.push_back(std::make_unique<PanelFace>(*this, *frame));
+  }
+}
+
+void MainWindow::ShowPanel(PanelFace& panel) {
+  if (!panel.frame().visible()) {
+    if (pages_->currentWidget() == panel.page) pages_->setCurrentIndex(0);
+    return;
+  }
+  if (panel.page == nullptr) {
+    panel.page = new FramePanel(faces_, panel.frame(), {}, pages_);
+    panel.page->setObjectName(ToQt(panel.frame().name()));
+    pages_->addWidget(panel.page);
+    OrderTabs(faces_);
+  }
+  pages_->setCurrentWidget(panel.page);
+}
+
+QAction* MainWindow::MakeAction(const MenuItem& item, QWidget* owner) {
+  QAction* action = nullptr;
+  if (item.kind == MenuKind::Submenu) {
+    auto* menu = new QMenu(owner);
+    menu->setToolTipsVisible(true);
+    action = menu->menuAction();
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, name = item.name] { Fill(*menu, name); });
+  } else {
+    action = new QAction(owner);
+    action->setSeparator(item.kind == MenuKind::Separator);
+    connect(action, &QAction::triggered, this, [this, &item] { shell_.Choose(item); });
+  }
+  action->setObjectName(ToQt(item.name));
+  UpdateAction(*action, item);
+  return action;
+}
+
+void MainWindow::UpdateAction(QAction& action, const MenuItem& item) {
+  if (item.kind == MenuKind::Separator) return;
+  action.setText(ToQt(shell_.MenuCaption(item)));
+  action.setEnabled(shell_.MenuEnabled(item));
+  action.setToolTip(action.isEnabled() ? QString() : QString::fromLatin1(kNotAvailable));
+}
+
+void MainWindow::Fill(QMenu& menu, std::string_view name) {
+  if (!menu.isEmpty()) return;
+  for (const MenuItem& item : Shell::Menu()) {
+    if (item.parent == name) menu.addAction(MakeAction(item, &menu));
+  }
+}
+
+QAction* MainWindow::ActionOf(const MenuItem& item) {
+  const QString name = ToQt(item.name);
+  if (const MenuItem* parent = Shell::FindMenuItem(item.parent); parent != nullptr) {
+    QMenu* menu = ActionOf(*parent)->menu();
+    Fill(*menu, parent->name);
+    for (QAction* action : menu->actions()) {
+      if (action->objectName() == name) return action;
+    }
+  }
+  for (const MenuRow* row : menu_->rows()) {
+    for (QAction* action : row->actions()) {
+      if (action->objectName() == name) return action;
+    }
+  }
+  return nullptr;
+}
+
+void MainWindow::MenuChanged() {
+  for (const MenuItem& item : Shell::Menu()) {
+    if (auto* action = findChild<QAction*>(ToQt(item.name))) UpdateAction(*action, item);
+  }
+}
+
+void MainWindow::Ended() {
+  title_->Finish();
+  close();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!shell_.ended()) shell_.CloseWindow();
+  event->setAccepted(shell_.ended());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && isMinimized()) shell_.Minimised();
+  QWidget::changeEvent(event);
+}
+
+}  // namespace veldox

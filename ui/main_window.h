@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QStackedWidget>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "core/shell.h"
+#include "ui/face.h"
+
+class QAction;
+class QMenu;
+
+namespace veldox {
+
+class MenuRows;
+class TitleArea;
+
+/// The main form: menu in rows, sliding title, launcher, option panels, help strip.
+class MainWindow : public QWidget, public ShellFace {
+ public:
+  explicit MainWindow(Shell& shell);
+  ~MainWindow() override;
+
+  FaceSet& faces() { return faces_; }
+  MenuRows& menu() { return *menu_; }
+  TitleArea& titleArea() { return *title_; }
+  /// The action of a menu item; menus on the way to it are filled when they are not yet.
+  QAction* ActionOf(const MenuItem& item);
+
+  void MenuChanged() override;
+  void Ended() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  class PanelFace;
+
+  QAction* MakeAction(const MenuItem& item, QWidget* owner);
+  void Fill(QMenu& menu, std::string_view name);
+  void UpdateAction(QAction& action, const MenuItem& item);
+  void BuildPages();
+  void ShowPanel(PanelFace& panel);
+
+  Shell& shell_;
+  FaceSet faces_;
+  MenuRows* menu_;
+  TitleArea* title_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
+  std::vector<std::unique_ptr<PanelFace>> panels_;
+};
+
+}  // namespace veldox

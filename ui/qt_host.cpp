@@ -1,0 +1,201 @@
+#include "ui/qt_host.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStandardPaths>
+#include <vector>
+
+#include "ui/qt_text.h"
+
+namespace veldox {
+namespace {
+
+QMessageBox::Icon QtIcon(Icon icon) {
+  switch (icon) {
+    case Icon::Information: return QMessageBox::Information;
+    case Icon::Warning: return QMessageBox::Warning;
+    case Icon::Question: return QMessageBox::Question;
+    case Icon::Error: return QMessageBox::Critical;
+    case Icon::None: break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton QtButton(Button button) {
+  switch (button) {
+    case Button::OK: return QMessageBox::Ok;
+    case Button::Cancel: return QMessageBox::Cancel;
+    case Button::Yes: return QMessageBox::Yes;
+    case Button::No: return QMessageBox::No;
+  }
+  return QMessageBox::Ok;
+}
+
+/// Lets a text that is higher than the screen scroll inside its box.
+void KeepOnScreen(QMessageBox& box) {
+  const QSize room = box.screen()->availableSize();
+  auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (text == nullptr || box.sizeHint().height() < room.height() * 9 / 10) return;
+  auto* scroll = new QScrollArea(&box);
+  scroll->setFrameShape(QFrame::NoFrame);
+  box.layout()->replaceWidget(text, scroll);
+  scroll->setWidget(text);
+  scroll->setWidgetResizable(true);
+  text->setWordWrap(true);
+  const int bar = scroll->verticalScrollBar()->sizeHint().width();
+  scroll->setMinimumSize(std::min(room.width() / 2, text->sizeHint().width() + bar + 16),
+                         room.height() * 6 / 10);
+}
+
+struct FileKind {
+  QString filter;     ///< as the toolkit writes it: Name (*.x *.y)
+  QString extension;  ///< ".x", empty for all files
+};
+
+/// The kinds of a filter written "Name (*.x)|*.x|Name2 (*.y)|*.y".
+std::vector<FileKind> SplitFilter(const std::string& filter) {
+  std::vector<FileKind> kinds;
+  const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString name = parts[i];
+    if (const qsizetype bracket = name.indexOf(QLatin1String(" (")); bracket > 0) {
+      name.truncate(bracket);
+    }
+    const QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    FileKind kind{name + QLatin1String(" (") + patterns.join(QLatin1Char(' ')) + QLatin1Char(')'),
+                  {}};
+    const QString first = patterns.isEmpty() ? QString() : patterns.first().trimmed();
+    if (first.startsWith(QLatin1String("*.")) && !first.endsWith(QLatin1Char('*'))) {
+      kind.extension = first.mid(1);
+    }
+    kinds.push_back(std::move(kind));
+  }
+  return kinds;
+}
+
+bool ConfirmOverwrite(const QString& file) {
+  QMessageBox box(
+      QMessageBox::Warning, QStringLiteral("Save"),
+      QFileInfo(file).fileName() + QStringLiteral(" already exists.\nDo you want to replace it?"),
+      QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  box.setDefaultButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
+}
+
+}  // namespace
+
+Button QtHost::Ask(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setIcon(QtIcon(message.icon));
+  box.setWindowTitle(ToQt(message.title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQtLines(message.text));
+  for (const Button button : message.buttons) box.addButton(QtButton(button));
+  if (!message.buttons.empty()) box.setDefaultButton(QtButton(message.buttons.front()));
+  KeepOnScreen(box);
+  // A long command may have put up the hourglass; the box has to be answered first.
+  const bool busy = QGuiApplication::overrideCursor() != nullptr;
+  if (busy) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  const int answer = box.exec();
+  if (busy) QGuiApplication::restoreOverrideCursor();
+  for (const Button button : message.buttons) {
+    if (QtButton(button) == answer) return button;
+  }
+  return message.buttons.empty() ? Button::OK : message.buttons.back();
+}
+
+std::optional<std::filesystem::path> QtHost::AskFile(const FileDialog& dialog) {
+  const std::vector<FileKind> kinds = SplitFilter(dialog.filter);
+  const bool save = dialog.kind == FileDialog::Kind::Save;
+  QFileDialog box(QApplication::activeWindow(),
+                  save ? QStringLiteral("Save") : QStringLiteral("Open"),
+                  QFile::decodeName(dialog.folder.c_str()));
+  box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  QStringList filters;
+  for (const FileKind& kind : kinds) filters.append(kind.filter);
+  box.setNameFilters(filters);
+  if (dialog.filterIndex >= 1 && dialog.filterIndex <= filters.size()) {
+    box.selectNameFilter(filters[dialog.filterIndex - 1]);
+  }
+  while (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
+    QString file = box.selectedFiles().first();
+    // The suffix is put on here and not by the dialog, so that the file which is really
+    // written is the one asked about.
+    if (save && QFileInfo(file).suffix().isEmpty()) {
+      const qsizetype chosen = filters.indexOf(box.selectedNameFilter());
+      const QString extension =
+          chosen < 0 ? QString() : kinds[static_cast<std::size_t>(chosen)].extension;
+      if (!extension.isEmpty()) {
+        file += extension;
+        if (QFileInfo::exists(file) && !ConfirmOverwrite(file)) continue;
+      }
+    }
+    return std::filesystem::path(QFile::encodeName(QDir::toNativeSeparators(file)).toStdString());
+  }
+  return std::nullopt;
+}
+
+std::optional<FontChoice> QtHost::AskFont() {
+  bool chosen = false;
+  const QFont font = QFontDialog::getFont(&chosen, QApplication::activeWindow());
+  if (!chosen) return std::nullopt;
+  return FontChoice{FromQt(font.family()), font.pointSize(), font.bold(), font.italic()};
+}
+
+std::optional<std::int32_t> QtHost::AskColor() {
+  const QColor color = QColorDialog::getColor(Qt::white, QApplication::activeWindow());
+  if (!color.isValid()) return std::nullopt;
+  return color.red() + 256 * color.green() + 65536 * color.blue();
+}
+
+ClockTime QtHost::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+DecimalMark QtHost::SystemDecimalMark() {
+  return QLocale::system().decimalPoint() == QLatin1String(",") ? DecimalMark::Comma
+                                                                : DecimalMark::Point;
+}
+
+std::filesystem::path QtHost::ProgramFolder() {
+  QString folder = QCoreApplication::applicationDirPath();
+  if (!QFileInfo(folder).isWritable()) {
+    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(folder);
+  }
+  return std::filesystem::path(QFile::encodeName(folder).toStdString());
+}
+
+ScreenSize QtHost::MeasureScreen() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  const double scale = screen->devicePixelRatio();
+  return {qRound(screen->geometry().width() * scale), qRound(screen->geometry().height() * scale),
+          qRound(screen->logicalDotsPerInch() * scale)};
+}
+
+void QtHost::SetBusy(bool busy) {
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace veldox

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/host.h"
+
+namespace veldox {
+
+/// The world through the desktop's own dialogs.
+class QtHost : public Host {
+ public:
+  Button Ask(const Message& message) override;
+  std::optional<std::filesystem::path> AskFile(const FileDialog& dialog) override;
+  std::optional<FontChoice> AskFont() override;
+  std::optional<std::int32_t> AskColor() override;
+  ClockTime Now() override;
+  DecimalMark SystemDecimalMark() override;
+  std::filesystem::path ProgramFolder() override;
+  ScreenSize MeasureScreen() override;
+  void SetBusy(bool busy) override;
+};
+
+}  // namespace veldox

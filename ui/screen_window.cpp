@@ -1,0 +1,156 @@
+#include "ui/screen_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ui/column_flow.h"
+#include "ui/control_faces.h"
+#include "ui/frame_panel.h"
+#include "ui/help_bar.h"
+#include "ui/qt_text.h"
+
+namespace veldox {
+namespace {
+
+constexpr int kWindowMargin = 8;
+constexpr int kFrameGap = 8;
+/// What a window manager puts around a window.
+constexpr QSize kDecoration(10, 40);
+
+}  // namespace
+
+QSize FittingSize(const QWidget& window, QSize wanted) {
+  const QSize room = window.screen()->availableSize() - kDecoration;
+  return wanted.boundedTo(room);
+}
+
+void OrderTabs(const FaceSet& faces) {
+  QWidget* last = nullptr;
+  for (const Control* control : faces.screen().controls()) {
+    const Face* face = faces.Of(*control);
+    if (face == nullptr || face->widget()->focusPolicy() == Qt::NoFocus) continue;
+    if (last != nullptr) QWidget::setTabOrder(last, face->widget());
+    last = face->widget();
+  }
+}
+
+ScreenWindow::ScreenWindow(Screen& screen)
+    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
+  setObjectName(ToQt(screen.name()));
+  setWindowTitle(ToQt(screen.title()));
+  Control* quit = screen.Find("subend");
+  std::vector<const Control*> placed;
+  for (const Control* control :
+       {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()), quit}) {
+    if (control != nullptr) placed.push_back(control);
+  }
+
+  scroll_->setWidget(BuildBody(placed));
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, kWindowMargin);
+  column->setSpacing(8);
+  column->addWidget(scroll_, 1);
+  column->addLayout(BuildFoot(quit));
+  OrderTabs(faces_);
+  SizeToScreen();
+}
+
+QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
+  auto* body = new ColumnFlow(kWindowMargin, kFrameGap, scroll_);
+  body->setMouseTracking(true);
+  body->installEventFilter(this);
+  setMouseTracking(true);
+  installEventFilter(this);
+
+  int columns = 1;
+  for (const Frame* frame : screen_.frames()) columns = std::max(columns, frame->column() + 1);
+  for (int i = 0; i < columns; ++i) {
+    auto* column = new QWidget(body);
+    column->setMouseTracking(true);
+    column->installEventFilter(this);
+    auto* frames = new QVBoxLayout(column);
+    frames->setContentsMargins(0, 0, 0, 0);
+    frames->setSpacing(kFrameGap);
+    std::vector<FramePanel*> panels;
+    int labelWidth = 0;
+    int unitWidth = 0;
+    for (Frame* frame : screen_.frames()) {
+      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
+      panels.push_back(new FramePanel(faces_, *frame, placed, column));
+      faces_.Make<FrameFace>(*frame, panels.back());
+      labelWidth = std::max(labelWidth, panels.back()->labelWidth());
+      unitWidth = std::max(unitWidth, panels.back()->unitWidth());
+      frames->addWidget(panels.back());
+    }
+    for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
+    body->Add(column);
+    backgrounds_.push_back(column);
+  }
+  backgrounds_.push_back(body);
+  backgrounds_.push_back(this);
+  return body;
+}
+
+QLayout* ScreenWindow::BuildFoot(Control* quit) {
+  auto* foot = new QVBoxLayout;
+  foot->setContentsMargins(kWindowMargin, 0, kWindowMargin, 0);
+  foot->setSpacing(8);
+  Control* helpPlace = screen_.HelpPlace();
+  ReportBox* report = screen_.ReportPane();
+  auto* bar = helpPlace != nullptr ? new HelpBar(this) : nullptr;
+  if (report != nullptr) {
+    auto* panel = new ReportPanel(*report, this);
+    faces_.Make<ReportFace>(*report, panel, helpPlace == report ? bar : nullptr);
+    foot->addWidget(panel);
+  }
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kFrameGap);
+  if (bar != nullptr) {
+    if (helpPlace != report) faces_.Make<HelpFace>(*helpPlace, bar);
+    row->addWidget(bar, 1);
+  } else {
+    row->addStretch(1);
+  }
+  if (quit != nullptr) {
+    QWidget* button = faces_.Make<CommandFace>(static_cast<Command&>(*quit), this).widget();
+    button->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 13);
+    row->addWidget(button, 0, Qt::AlignBottom);
+  }
+  foot->addLayout(row);
+  return foot;
+}
+
+void ScreenWindow::SizeToScreen() {
+  const QWidget& body = *scroll_->widget();
+  const int foot = layout()->minimumSize().height() - scroll_->minimumSizeHint().height();
+  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+  int width = std::min(body.sizeHint().width(), room.width());
+  int height = body.heightForWidth(width) + foot;
+  if (height > room.height()) {
+    // The bar for scrolling down takes its room beside the frames, not from them.
+    width = std::min(width + bar, room.width());
+    height = room.height();
+  }
+  resize(width, height);
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+  // Closing is the screen's own business; it hides the window.
+  event->ignore();
+  screen_.Quit();
+}
+
+bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseMove &&
+      std::find(backgrounds_.begin(), backgrounds_.end(), watched) != backgrounds_.end()) {
+    screen_.Hover(nullptr);
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace veldox

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QScrollArea>
+#include <QWidget>
+
+#include "ui/face.h"
+
+namespace veldox {
+
+/// The window of any screen: its frames in columns, which scroll where they must, and at
+/// the foot the report, the help strip and the "&Quit" button.
+class ScreenWindow : public QWidget {
+ public:
+  explicit ScreenWindow(Screen& screen);
+
+  Screen& screen() const { return screen_; }
+  FaceSet& faces() { return faces_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QWidget* BuildBody(const std::vector<const Control*>& placed);
+  QLayout* BuildFoot(Control* quit);
+  void SizeToScreen();
+
+  Screen& screen_;
+  FaceSet faces_;
+  QScrollArea* scroll_;
+  std::vector<const QObject*> backgrounds_;
+};
+
+/// The size of a window whose contents would like `wanted`: as much of it as the screen
+/// has room for, title bar and borders counted.
+QSize FittingSize(const QWidget& window, QSize wanted);
+
+/// Walks the tab key through the controls in the screen's reading order.
+void OrderTabs(const FaceSet& faces);
+
+}  // namespace veldox

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+class QApplication;
+
+namespace veldox {
+
+/// Which colours the windows take. The program follows the desktop; tests and pictures
+/// ask for one of the others.
+enum class Theme { System, Light, Dark };
+
+/// Gives the application its style and colours. May be called again to switch.
+void ApplyTheme(QApplication& app, Theme theme);
+
+/// Colours derived from a palette, so that they hold in light and dark alike.
+struct ThemeColors {
+  explicit ThemeColors(const QPalette& palette);
+
+  bool dark;           ///< the palette's windows are dark
+  QColor card;         ///< ground of a frame
+  QColor border;       ///< line around frames
+  QColor fieldBorder;  ///< line around what takes input
+  QColor outputFill;   ///< ground of fields that show results
+  QColor changedFill;  ///< ground of fields that the last command changed
+  QColor errorFill;    ///< ground of the field that is wrong
+  QColor errorBorder;  ///< line around the field that is wrong
+  QColor accent;       ///< focus and changed marks
+};
+
+}  // namespace veldox

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "core/shell.h"
+#include "ui/main_window.h"
+#include "ui/screen_window.h"
+
+namespace veldox {
+
+/// Opens and closes the windows of all screens. A window is built when its screen is
+/// first opened, and kept.
+class WindowManager : public ScreenFace {
+ public:
+  explicit WindowManager(Shell& shell);
+  ~WindowManager() override;
+
+  MainWindow& main() { return main_; }
+  /// The window of a screen, the main form among them; null while it was never opened.
+  QWidget* WindowOf(const Screen& screen);
+  /// What stands for a control; null where its window is not built.
+  Face* FaceOf(const Control& control);
+
+  void ScreenVisibilityChanged(Screen& screen) override;
+
+ private:
+  ScreenWindow* Find(const Screen& screen) const;
+
+  Shell& shell_;
+  MainWindow main_;
+  std::vector<std::unique_ptr<ScreenWindow>> windows_;
+};
+
+}  // namespace veldox
