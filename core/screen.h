@@ -366,7 +366,7 @@ class Screen {
   void Quit();
 
   /// The pointer stands over a control (null: over the background).
-  void Hover(Control* control);
+  virtual void Hover(Control* control);
 
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.

@@ -37,7 +37,7 @@ constexpr MenuItem kMenu[] = {
     {"Nitrous", "&Nitrous", "", MenuKind::Screen, "Form17"},
     {"Tools", "Tools", "", MenuKind::Submenu},
     {"Cam_Gen", "Generate Cam File", "", MenuKind::Screen, "Form33"},
-    {"Graph", "&Graph / Draw Options", "File", MenuKind::Action},
+    {"Graph", "&Graph / Draw Options", "File", MenuKind::Action, "", &Shell::Graph},
     {"Help", "&Help Box Options", "File", MenuKind::Submenu},
     {"Fonts", "Select Font &Style", "Help", MenuKind::Action},
     {"BoxFColor", "Select &Font Color", "Help", MenuKind::Action},
@@ -195,6 +195,15 @@ constexpr LauncherItem kLauncher[] = {
 };
 // clang-format on
 
+constexpr int kSmallestGraph = 4;  ///< hundreds of pixels
+constexpr int kLargestGraph = 64;
+constexpr int kLargestGraphArea = 1600;
+constexpr const char* kGraphSizeNote =
+    "Valid Values 4 to 64 -- Max Size of Graph is Width times Height = 1600";
+constexpr int kFewestGridLines = 2;
+constexpr int kMostGridLines = 400;
+constexpr const char* kGridCountNote = "Valid Values 2 to 400";
+constexpr int kWidestLine = 50;
 constexpr const char* kStartUpFile = "\\zxqvwu00.prm";
 constexpr const char* kLargeScreenFile = "\\veldox.lrg";
 constexpr const char* kFullScreenFile = "\\veldox.ful";
@@ -233,7 +242,11 @@ Shell::Shell(ProgramContext& context)
   Frame12.SetVisible(false);
   Frame8.SetVisible(false);
   OptionFrame.SetVisible(false);
-  for (Field* field : {&Text11, &Text12, &Text13, &Text15, &Text16, &Text17}) field->SetIsOption();
+  GraphFrame.SetVisible(false);
+  for (Field* field : {&Text11, &Text12, &Text13, &Text15, &Text16, &Text17, &Text14, &Text18,
+                       &Text19, &Text20, &Text21, &Text23}) {
+    field->SetIsOption();
+  }
 }
 
 Screen* Shell::FindScreen(std::string_view screenName) {
@@ -322,6 +335,7 @@ void Shell::ReadStartUpFile() {
   if (!IsThere(file)) return;
   Perform([&] { parameterFile_.ReadParameterFile(file); });
   TellMenuChanged();
+  GraphOptionsChanged();
 }
 
 std::string Shell::MenuCaption(const MenuItem& item) const {
@@ -411,6 +425,7 @@ void Shell::Read() {
   const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Open);
   const int records = parameterFile_.ReadParameterFile(path);
   TellMenuChanged();
+  GraphOptionsChanged();
   ShowFile(path, records, " Records Read");
 }
 
@@ -440,6 +455,120 @@ void Shell::SaveNotes() {
 
 void Shell::DropNotes() {
   Frame12.SetVisible(false);
+}
+
+// ---------------------------------------------------------------- options of graphs
+
+void Shell::Graph() {
+  ShowGraphOptions();
+  GraphFrame.SetVisible(true);
+  DrawLn.Focus();
+}
+
+void Shell::CloseGraphOptions() {
+  GraphFrame.SetVisible(false);
+  GraphOptionsChanged();
+}
+
+void Shell::ShowGraphOptions() {
+  const ParameterBlock& b = block();
+  const auto turn = [](Command& command, std::int16_t on) {
+    std::string caption = command.caption();
+    caption.resize(caption.rfind(' ') + 1);
+    command.SetCaption(caption + (on != 0 ? "ON" : "OFF"));
+  };
+  turn(Graph_Head, b.GraphHeads);
+  turn(Graph_Logo, b.GraphLogo);
+  turn(Graph_Line_Color, b.GraphLineColor);
+  turn(Graph_Move_Grid, b.MoveGridLines);
+  Solid_Line.SetCaption(b.SolidSwitch == 1 ? "Solid Line" : "Dash Line");
+  const auto show = [&](Field& field, std::int16_t value) {
+    field.SetText(FormatInt(value, mark()));
+  };
+  show(Text14, b.CustomGraphWidth);
+  show(Text18, b.CustomGraphHeight);
+  show(Text19, b.CustomGridLineCountx);
+  show(Text20, b.CustomGridLineCounty);
+  show(Text21, std::max<std::int16_t>(b.DrawLineWidth, 1));
+  show(Text23, std::max<std::int16_t>(b.GraphLineWidth, 1));
+}
+
+void Shell::GraphOptionsChanged() {
+  ShowGraphOptions();
+  if (graphOptionsChanged_) graphOptionsChanged_();
+}
+
+void Shell::PickColorInto(std::int32_t& slot) {
+  slot = RoundToInt32(ParseNumber(PickColor(), DecimalMark::Point));
+  GraphOptionsChanged();
+}
+
+void Shell::Toggle(std::int16_t& slot) {
+  slot = slot != 0 ? 0 : 1;
+  GraphOptionsChanged();
+}
+
+void Shell::Solid_Line_Click() {
+  block().SolidSwitch = block().SolidSwitch == 1 ? 0 : 1;
+  GraphOptionsChanged();
+}
+
+void Shell::SetGraphSize() {
+  GraphSize size{};
+  ReadCount(size.width, Text14);
+  ReadCount(size.height, Text18);
+  const auto isValid = [](int side) { return side >= kSmallestGraph && side <= kLargestGraph; };
+  if (!isValid(size.width) || !isValid(size.height) ||
+      size.width * size.height > kLargestGraphArea) {
+    throw CommandError(ErrorKind::InvalidArgument, kGraphSizeNote);
+  }
+  block().CustomGraphWidth = size.width;
+  block().CustomGraphHeight = size.height;
+  GraphOptionsChanged();
+}
+
+void Shell::SetGridLineCounts() {
+  GridCounts counts{};
+  ReadCount(counts.x, Text19);
+  ReadCount(counts.y, Text20);
+  const auto isValid = [](int count) {
+    return count >= kFewestGridLines && count <= kMostGridLines;
+  };
+  if (!isValid(counts.x) || !isValid(counts.y)) {
+    throw CommandError(ErrorKind::InvalidArgument, kGridCountNote);
+  }
+  block().CustomGridLineCountx = counts.x;
+  block().CustomGridLineCounty = counts.y;
+  GraphOptionsChanged();
+}
+
+void Shell::SetLineWidths() {
+  std::int16_t draw = 0;
+  std::int16_t curve = 0;
+  ReadCount(draw, Text21);
+  ReadCount(curve, Text23);
+  Require(draw >= 1 && draw <= kWidestLine, Text21, "must be from 1 to 50.");
+  Require(curve >= 1 && curve <= kWidestLine, Text23, "must be from 1 to 50.");
+  block().DrawLineWidth = draw;
+  block().GraphLineWidth = curve;
+  GraphOptionsChanged();
+}
+
+void Shell::Hover(Control* control) {
+  const ParameterBlock& b = block();
+  const auto change = [&](std::int16_t from, const Field& to) {
+    return " from " + FormatInt(from, mark()) + " to " + to.text();
+  };
+  if (control == &Command5) {
+    Command5.SetHelp("Click Enter Button to Confirm Changing the Graph Size Width" +
+                     change(b.CustomGraphWidth, Text14) + " and the Height" +
+                     change(b.CustomGraphHeight, Text18) + "\r\n" + kGraphSizeNote);
+  } else if (control == &Command3) {
+    Command3.SetHelp("Click Enter Button to Confirm Changing the X-Axis Grid Line Count" +
+                     change(b.CustomGridLineCountx, Text19) + " and the Y-Axis Grid Line Count" +
+                     change(b.CustomGridLineCounty, Text20) + "\r\n" + kGridCountNote);
+  }
+  Screen::Hover(control);
 }
 
 void Shell::ClearFields() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -97,7 +98,17 @@ class Shell : public Screen {
   Control* HelpPlace() override { return &Label77; }
   void ClearFields() override;
 
+  void Hover(Control* control) override;
+
+  /// What is done when a graph option was changed here.
+  void SetGraphOptionListener(std::function<void()> listener) {
+    graphOptionsChanged_ = std::move(listener);
+  }
+  /// Puts the graph options of the shared values on their panel.
+  void ShowGraphOptions();
+
   // Menu actions
+  void Graph();
   void Read();
   void Write();
   void Notes();
@@ -124,9 +135,36 @@ class Shell : public Screen {
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
 
+  // The graph options' panel
+  struct GraphSize {
+    std::int16_t width;
+    std::int16_t height;
+  };
+  struct GridCounts {
+    std::int16_t x;
+    std::int16_t y;
+  };
+  void PickColorInto(std::int32_t& slot);
+  void Toggle(std::int16_t& slot);
+  void DrawLn_Click() { PickColorInto(block().DrawLineColor); }
+  void FontColor_Click() { PickColorInto(block().GraphFontColor); }
+  void BGColor_Click() { PickColorInto(block().GraphBackGroundColor); }
+  void Grid_Color_Click() { PickColorInto(block().GridColor); }
+  void Graph_Head_Click() { Toggle(block().GraphHeads); }
+  void Graph_Logo_Click() { Toggle(block().GraphLogo); }
+  void Graph_Line_Color_Click() { Toggle(block().GraphLineColor); }
+  void Graph_Move_Grid_Click() { Toggle(block().MoveGridLines); }
+  void Solid_Line_Click();
+  void GraphOptionsChanged();
+  void SetGraphSize();
+  void SetGridLineCounts();
+  void SetLineWidths();
+  void CloseGraphOptions();
+
   std::vector<Screen*> screens_;
   ShellFace* shellFace_ = nullptr;
   std::function<void(Screen&)> opened_;
+  std::function<void()> graphOptionsChanged_;
   TitleAnimation titleAnimation_;
   ParameterFile parameterFile_;
   std::string versionLine_;
@@ -166,6 +204,90 @@ class Shell : public Screen {
   Field Text15{Frame8, "Text15", "Field for Fuel lbs/hr", "3", KeyRule::Digits};
   Field Text16{Frame8, "Text16", "Field for BSFC", "4", KeyRule::Digits};
   Field Text17{Frame8, "Text17", "Field for Air / Fuel Ratio", "5", KeyRule::Digits};
+
+  // Options of graphs
+  Frame GraphFrame{*this, "GraphFrame", "Graph / Draw Options"};
+  Command DrawLn{GraphFrame, "DrawLn", "Select Draw Line Color",
+                 "Select the Color of Lines drawn on a Graph, and of Curves while Graph Line "
+                 "Colors are ON.",
+                 &Shell::DrawLn_Click};
+  Command FontColor{GraphFrame, "FontColor", "Select Graph Font Color",
+                    "Select the Color of the Texts of a Graph.", &Shell::FontColor_Click};
+  Command BGColor{GraphFrame, "BGColor", "Select Graph BackGround Color",
+                  "Select the Color behind a Graph.", &Shell::BGColor_Click};
+  Command Grid_Color{GraphFrame, "Grid_Color", "Select Grid Line Color",
+                     "Select the Color of Grid Lines.", &Shell::Grid_Color_Click};
+  Command Graph_Head{GraphFrame, "Graph_Head", "Graph Heads -- Is OFF",
+                     "Show the Titles over a Graph or leave them out.", &Shell::Graph_Head_Click};
+  Command Graph_Logo{GraphFrame, "Graph_Logo", "Graph Logo -- Is OFF",
+                     "Show the Program's Name under a Graph or leave it out.",
+                     &Shell::Graph_Logo_Click};
+  Command Graph_Line_Color{GraphFrame, "Graph_Line_Color", "Select Graph Line Colors -- Is OFF",
+                           "Draw all Curves in the Draw Line Color.",
+                           &Shell::Graph_Line_Color_Click};
+  Command Graph_Move_Grid{GraphFrame, "Graph_Move_Grid", "Moveable Grid Lines -- Is OFF",
+                          "Show Lines on the Graph that can be moved with the Mouse to read off "
+                          "Values.",
+                          &Shell::Graph_Move_Grid_Click};
+  OptionGroup Option4{GraphFrame,
+                      "Option4",
+                      "Grid",
+                      {{0, "No Grid", "Draw Graphs without a Grid."},
+                       {1, "Whole Grid", "Draw Graphs with a whole Grid."},
+                       {2, "Semi Grid", "Draw Graphs with Ticks or Crosses for a Grid."}},
+                      1,
+                      3};
+  Command Solid_Line{GraphFrame, "Solid_Line", "Solid Line",
+                     "Draw the Grid with solid Lines or with Dashes.", &Shell::Solid_Line_Click};
+  CheckBox Check1{GraphFrame, "Check1", "Large Lines", "Draw the Grid with wider Lines.",
+                  &Shell::GraphOptionsChanged};
+  CheckBox Check3{GraphFrame, "Check3", "Semi Grid Cross Lines",
+                  "Show small Crosses where the Lines of a Semi Grid would cross.",
+                  &Shell::GraphOptionsChanged};
+  CheckBox Check4{GraphFrame, "Check4", "Semi Grid Box Lines",
+                  "Show short Ticks at the Edges of a Semi Grid.", &Shell::GraphOptionsChanged};
+  OptionGroup Option1{GraphFrame,
+                      "Option1",
+                      "Caption Top",
+                      {{0, "Top", "Show the Names of the Curves at the Top of the Graph."},
+                       {1, "Center", "Show the Names of the Curves halfway down the Graph."},
+                       {2, "Bottom", "Show the Names of the Curves at the Bottom of the Graph."}},
+                      0,
+                      3};
+  OptionGroup Option2{GraphFrame,
+                      "Option2",
+                      "Caption Side",
+                      {{0, "Left", "Show the Names of the Curves at the Left of the Graph."},
+                       {1, "Center", "Show the Names of the Curves in the Middle of the Graph."},
+                       {2, "Right", "Show the Names of the Curves at the Right of the Graph."}},
+                      0,
+                      3};
+  OptionGroup Option3{GraphFrame,
+                      "Option3",
+                      "Graph Font Size",
+                      {{0, "100%", "Texts of Graphs in full Size."},
+                       {1, "75%", "Texts of Graphs in three Quarters of their Size."},
+                       {2, "50%", "Texts of Graphs in half their Size."},
+                       {3, "25%", "Texts of Graphs in a Quarter of their Size."},
+                       {4, "8 Pt", "Texts of Graphs in 8 Points."},
+                       {5, "10 Pt", "Texts of Graphs in 10 Points."},
+                       {6, "12 Pt", "Texts of Graphs in 12 Points."},
+                       {7, "14 Pt", "Texts of Graphs in 14 Points."}},
+                      0,
+                      4};
+  Field Text14{GraphFrame, "Text14", "Graph Size Width", "6", KeyRule::Digits};
+  Field Text18{GraphFrame, "Text18", "Graph Size Height", "6", KeyRule::Digits};
+  Command Command5{GraphFrame, "Command5", "Enter", "", &Shell::SetGraphSize};
+  Field Text19{GraphFrame, "Text19", "X-Axis Grid Line Count", "10", KeyRule::Digits};
+  Field Text20{GraphFrame, "Text20", "Y-Axis Grid Line Count", "10", KeyRule::Digits};
+  Command Command3{GraphFrame, "Command3", "Enter", "", &Shell::SetGridLineCounts};
+  Field Text21{GraphFrame, "Text21", "Draw Line Width", "1", KeyRule::Digits};
+  Field Text23{GraphFrame, "Text23", "Graph Line Width", "1", KeyRule::Digits};
+  Command Command4{GraphFrame, "Command4", "Enter",
+                   "Click Enter Button to Confirm Changing the Line Widths.",
+                   &Shell::SetLineWidths};
+  Command Command2{GraphFrame, "Command2", "Done Graph Options",
+                   "Close the Graphic Options Selection Screen.", &Shell::CloseGraphOptions};
 
   // Lists of the appearance options
   Frame OptionFrame{*this, "OptionFrame", "User Selectable Entry GUI Options"};

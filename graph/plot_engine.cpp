@@ -272,15 +272,16 @@ void PlotEngine::PlotLine(double x, double y) {
 
 void PlotEngine::PlotPoint(double x, double y, Color color) {
   RequireFinite(x, y);
-  if (Current().color != color) CurveInColor({"", color});
+  if (series_.empty() || series_.back().color != color) CurveInColor({"", color});
   PlotPoint(x, y);
 }
 
 void PlotEngine::PlotLine(double x, double y, Color color) {
   RequireFinite(x, y);
-  if (const PlotSeriesRecord& before = Current(); before.color != color) {
-    const std::optional<GraphPoint> last =
-        before.points.empty() ? std::nullopt : std::optional(before.points.back());
+  if (series_.empty() || series_.back().color != color) {
+    const std::optional<GraphPoint> last = series_.empty() || series_.back().points.empty()
+                                               ? std::nullopt
+                                               : std::optional(series_.back().points.back());
     CurveInColor({"", color});
     if (last) PlotPoint(last->x, last->y);
   }

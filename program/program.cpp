@@ -18,6 +18,8 @@ Program::Program(Host& host)
   grapher_ = &AddScreen<Form8>();
   AddScreen<Form1>();
   about_ = &AddScreen<Form15>();
+  shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });
+  grapher_->SetOptionListener([this] { shell_->ShowGraphOptions(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {
