@@ -15,6 +15,7 @@ namespace {
 
 constexpr char32_t kBackspaceKey = 8;
 constexpr char32_t kEnterKey = 13;
+constexpr char32_t kEscapeKey = 27;
 
 /// A typed text after the control's rule has gone over each of its characters.
 QString Filtered(TextControl& control, const QString& typed) {
@@ -173,6 +174,8 @@ void LinesEdit::keyPressEvent(QKeyEvent* event) {
     key = kEnterKey;
   } else if (event->key() == Qt::Key_Backspace) {
     key = kBackspaceKey;
+  } else if (event->key() == Qt::Key_Escape && isReadOnly()) {
+    key = kEscapeKey;
   }
   if (key != 0) {
     if (control_.FilterKey(key) != 0) QPlainTextEdit::keyPressEvent(event);
