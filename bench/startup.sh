@@ -7,6 +7,7 @@ bin=build/bench/bin
 for program in first_window empty_window veldox; do
   [ -x "$bin/$program" ] || { echo "missing: $bin/$program; build the bench preset first" >&2; exit 1; }
 done
+export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$(mktemp -d)}"
 runs=${1:-10}
 xvfb-run -a -s "-screen 0 1366x768x24" bash -c "
   for program in empty_window veldox empty_window veldox; do

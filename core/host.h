@@ -46,6 +46,27 @@ struct ScreenSize {
   int dpi = 96;
 };
 
+enum class PictureFormat { Bmp, Jpeg, Png, Svg, Pdf };
+
+/// What a picture is made of, and how.
+struct PictureRequest {
+  enum class Of {
+    Window,  ///< a screen's window as it shows
+    Graph,   ///< the grapher's surface, drawn anew at the size asked for
+  };
+  Of of = Of::Graph;
+  std::string screen;  ///< form name of the screen
+  PictureFormat format = PictureFormat::Bmp;
+  int width = 0;   ///< pixels; 0: as it shows
+  int height = 0;  ///< pixels; 0: as it shows
+  int quality = 100;
+};
+
+struct PictureResult {
+  std::string bytes;
+  int error = 0;  ///< the encoder's number of what failed, 0 for nothing
+};
+
 /// A moment of the local clock.
 struct ClockTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
@@ -81,7 +102,35 @@ class Host {
   }
   /// Shows or ends the hourglass.
   virtual void SetBusy(bool busy) = 0;
+
+  // Pictures need a toolkit. A host without one refuses them.
+
+  /// A picture as the bytes of its file. @throws CommandError (File)
+  virtual PictureResult EncodePicture(const PictureRequest& request);
+  /// The size of a picture from the bytes of its file.
+  /// @throws CommandError (File) when they are no picture
+  virtual ScreenSize MeasurePicture(const std::string& bytes);
+  /// Prints the grapher's surface. @throws CommandError (File, Cancelled)
+  virtual void PrintGraph();
+  /// Puts the picture on the clipboard. @throws CommandError (File)
+  virtual void CopyPicture(const PictureRequest& request);
 };
+
+inline PictureResult Host::EncodePicture(const PictureRequest& /*request*/) {
+  throw CommandError(ErrorKind::File, "Pictures can be made only while windows are shown.");
+}
+
+inline ScreenSize Host::MeasurePicture(const std::string& /*bytes*/) {
+  throw CommandError(ErrorKind::File, "Pictures can be read only while windows are shown.");
+}
+
+inline void Host::PrintGraph() {
+  throw CommandError(ErrorKind::File, "A graph can be printed only while windows are shown.");
+}
+
+inline void Host::CopyPicture(const PictureRequest& /*request*/) {
+  throw CommandError(ErrorKind::File, "There is no clipboard without windows.");
+}
 
 /// Keeps the hourglass on while it lives.
 class BusyCursor {

@@ -496,7 +496,7 @@ constexpr KeyRow kTable[] = {
     Key("Custom Grid Line Count y", KeyForm::Integer, &P::CustomGridLineCounty, "Main"),
     Key("Draw Line Color", KeyForm::Integer, &P::DrawLineColor, "Main"),
     Key("Draw Line Width", KeyForm::Integer, &P::DrawLineWidth, "Main"),
-    Key("Draw Switch", KeyForm::YesNo, &P::DrawSwitch, "Main"),
+    Key("Draw Switch", KeyForm::YesNo, &P::DrawSwitch, "Form8.Check1"),
     Comment(";   User Selected GUI Options -- Keep This Order"),
     Key("Quit BackGround Color", KeyForm::Integer, &P::QuitBackGroundColor, "Main"),
     Key("BackGround Color", KeyForm::Integer, &P::BackGroundColor, "Main"),

@@ -365,6 +365,7 @@ void Shell::Open(Screen& screen) {
     box->Click();
   }
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
+  if (opened_) opened_(screen);
 }
 
 void Shell::TellMenuChanged() {

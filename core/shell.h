@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -76,6 +77,8 @@ class Shell : public Screen {
 
   /// Opens a screen as its menu item does.
   void Open(Screen& screen);
+  /// What else is done when the menu has opened a screen.
+  void SetOpenListener(std::function<void(Screen&)> listener) { opened_ = std::move(listener); }
   /// The main window's close box.
   void CloseWindow();
   /// The main window was minimised.
@@ -123,6 +126,7 @@ class Shell : public Screen {
 
   std::vector<Screen*> screens_;
   ShellFace* shellFace_ = nullptr;
+  std::function<void(Screen&)> opened_;
   TitleAnimation titleAnimation_;
   ParameterFile parameterFile_;
   std::string versionLine_;

@@ -4,9 +4,9 @@
 
 namespace veldox {
 
-template <class S>
-S& Program::AddScreen() {
-  auto screen = std::make_unique<S>(*context_);
+template <class S, class... Arguments>
+S& Program::AddScreen(Arguments&... arguments) {
+  auto screen = std::make_unique<S>(*context_, arguments...);
   S& added = *screen;
   screens_.push_back(std::move(screen));
   shell_->Add(added);
@@ -15,8 +15,17 @@ S& Program::AddScreen() {
 
 Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
+  grapher_ = &AddScreen<Form8>();
   AddScreen<Form1>();
   about_ = &AddScreen<Form15>();
+  // The grapher's own commands would draw over what another screen has put on its surface.
+  shell_->SetOpenListener([this](Screen& screen) {
+    if (&screen == grapher_) {
+      grapher_->EnableGrapherCommands();
+    } else {
+      grapher_->DisableGrapherCommands();
+    }
+  });
 }
 
 void Program::Start() {

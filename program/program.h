@@ -5,6 +5,7 @@
 
 #include "core/form15.h"
 #include "core/shell.h"
+#include "graph/form8.h"
 
 namespace veldox {
 
@@ -16,17 +17,19 @@ class Program {
 
   ProgramContext& context() { return *context_; }
   Shell& shell() { return *shell_; }
+  Form8& grapher() { return *grapher_; }
 
   /// Runs the start-up order.
   void Start();
 
  private:
-  template <class S>
-  S& AddScreen();
+  template <class S, class... Arguments>
+  S& AddScreen(Arguments&... arguments);
 
   std::unique_ptr<ProgramContext> context_;
   std::unique_ptr<Shell> shell_;
   std::vector<std::unique_ptr<Screen>> screens_;
+  Form8* grapher_ = nullptr;
   Form15* about_ = nullptr;
 };
 

@@ -147,6 +147,8 @@ void ScriptRunner::RunLine(std::string_view line) {
     PrintList(host_.dialogs);
   } else if (verb == "pages") {
     TellPages();
+  } else if (verb == "plot") {
+    TellPlot();
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color"})) {
@@ -294,6 +296,33 @@ void ScriptRunner::TellPages() {
       print_(std::to_string(text.x) + ' ' + std::to_string(text.y) + ' ' + text.font.name + ' ' +
              std::to_string(text.font.size) + (text.font.bold ? " bold " : " plain ") +
              EscapeText(text.text));
+    }
+  }
+}
+
+void ScriptRunner::TellPlot() {
+  const PlotEngine& plot = program_.grapher().plot();
+  print_("plot");
+  for (const std::string& title : plot.Titles()) print_("title " + EscapeText(title));
+  const auto caption = [&](const char* axis, int number) {
+    if (const std::string& text = plot.Caption(number); !text.empty()) {
+      print_(std::string("caption ") + axis + ' ' + EscapeText(text));
+    }
+  };
+  caption("x", kXPointerCaption);
+  caption("x", kXNameCaption);
+  caption("y", kYPointerCaption);
+  if (plot.hasAxes()) {
+    print_("range x " + FormatShortest(plot.XLow) + ' ' + FormatShortest(plot.XHigh));
+    print_("range y " + FormatShortest(plot.YLow) + ' ' + FormatShortest(plot.YHigh));
+  }
+  int number = 0;
+  for (const PlotSeriesRecord& series : plot.series()) {
+    print_("series " + std::to_string(++number) + ' ' +
+           (plot.UserColor() ? std::string(kUserColorName) : series.name) + ' ' +
+           std::to_string(series.points.size()) + " points");
+    for (const GraphPoint& point : series.points) {
+      print_(FormatShortest(point.x) + ' ' + FormatShortest(point.y));
     }
   }
 }

@@ -35,6 +35,7 @@ class ScriptRunner {
   void Tell(std::string_view verb, std::string_view target);
   void TellValue(std::string_view key);
   void TellPages();
+  void TellPlot();
   void PrintList(std::vector<std::string>& lines);
   void RequireNothingPrepared() const;
 

@@ -14,6 +14,24 @@ bool TakesPointer(const Control& control) {
   return control.kind() != ControlKind::ReportBox && &control != control.screen().HelpPlace();
 }
 
+/// A sentence in lines short enough for a tooltip, which breaks none itself.
+QString InLines(const QString& sentence) {
+  constexpr qsizetype kLongest = 90;
+  QString lines;
+  qsizetype column = 0;
+  for (const QString& word : sentence.split(QLatin1Char(' '))) {
+    if (column > 0 && column + word.size() >= kLongest) {
+      lines += QLatin1Char('\n');
+      column = 0;
+    } else if (!lines.isEmpty()) {
+      lines += QLatin1Char(' ');
+    }
+    lines += word;
+    column += word.size() + 1;
+  }
+  return lines;
+}
+
 }  // namespace
 
 bool MovedOnPurpose(Qt::FocusReason reason) {
@@ -52,7 +70,7 @@ void Face::Follow() {
   if (control_.kind() == ControlKind::Command && !control_.enabled()) {
     widget_->setToolTip(QLatin1String(kNotAvailable));
   } else if (control_.kind() != ControlKind::Label) {
-    widget_->setToolTip(help);
+    widget_->setToolTip(InLines(help));
   }
   widget_->setAccessibleDescription(help);
 }
@@ -92,8 +110,9 @@ bool Face::EnterControl() {
 }
 
 void Face::FocusWent() {
-  // When another control of the window takes over, that one moves the screen's focus.
-  if (set_.Of(QApplication::focusWidget()) != nullptr) return;
+  // When another control of the window takes over, that one moves the screen's focus; and
+  // what a panel that closes takes with it was not left by anybody.
+  if (set_.Of(QApplication::focusWidget()) != nullptr || !control_.Shown()) return;
   Screen& screen = control_.screen();
   if (screen.focus() == &control_ && !screen.MoveFocus(nullptr)) set_.ReturnFocus();
 }

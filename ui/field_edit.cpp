@@ -14,7 +14,6 @@ namespace veldox {
 namespace {
 
 constexpr char32_t kBackspaceKey = 8;
-constexpr char32_t kTabKey = 9;
 constexpr char32_t kEnterKey = 13;
 
 /// A typed text after the control's rule has gone over each of its characters.
@@ -58,15 +57,6 @@ void FieldEdit::Replace(const QString& text) {
   } else {
     insert(text);
   }
-}
-
-bool FieldEdit::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    // Tab never reaches keyPressEvent: the widget moves the focus here.
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) field_.FilterKey(kTabKey);
-  }
-  return QLineEdit::event(event);
 }
 
 void FieldEdit::keyPressEvent(QKeyEvent* event) {

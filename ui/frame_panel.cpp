@@ -8,6 +8,8 @@
 namespace veldox {
 namespace {
 
+/// Room beside a command's caption beyond what the style gives.
+constexpr int kCaptionAir = 4;
 constexpr int kMostCommandsInRow = 3;
 /// Commands of a frame that holds nothing else may make it this wide.
 constexpr int kCommandFrameWidth = 300;
@@ -99,17 +101,19 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   auto* cells = new QGridLayout;
   cells->setSpacing(6);
   std::vector<QWidget*> buttons;
+  buttons.reserve(commands.size());
   for (Command* command : commands) {
     buttons.push_back(faces.Make<CommandFace>(*command, this).widget());
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
-  const int fitting = (room + cells->spacing()) / (Widest(buttons) + cells->spacing());
+  const int width = Widest(buttons) + kCaptionAir;
+  const int fitting = (room + cells->spacing()) / (width + cells->spacing());
   const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
   for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
     QWidget* button = buttons[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    button->setMinimumWidth(Widest(buttons));
+    button->setMinimumWidth(width);
     cells->addWidget(button, i / columns, i % columns);
   }
   for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);

@@ -17,7 +17,7 @@ constexpr int kGap = 10;
 
 }  // namespace
 
-Launcher::Launcher(Shell& shell, Chooser choose, QWidget* parent)
+Launcher::Launcher(Shell& shell, const Chooser& choose, QWidget* parent)
     : QWidget(parent), grid_(new QGridLayout(this)) {
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setSpacing(kGap);

@@ -16,7 +16,7 @@ class Launcher : public QWidget {
  public:
   using Chooser = std::function<void(const MenuItem&)>;
 
-  Launcher(Shell& shell, Chooser choose, QWidget* parent);
+  Launcher(Shell& shell, const Chooser& choose, QWidget* parent);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

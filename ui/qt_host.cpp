@@ -87,7 +87,7 @@ std::vector<FileKind> SplitFilter(const std::string& filter) {
 
 bool ConfirmOverwrite(const QString& file) {
   QMessageBox box(
-      QMessageBox::Warning, QObject::tr("Save"),
+      QMessageBox::Warning, QStringLiteral("Save"),
       QFileInfo(file).fileName() + QStringLiteral(" already exists.\nDo you want to replace it?"),
       QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
   box.setDefaultButton(QMessageBox::No);
@@ -121,7 +121,7 @@ std::optional<std::filesystem::path> QtHost::AskFile(const FileDialog& dialog) {
   const bool save = dialog.kind == FileDialog::Kind::Save;
   QFileDialog box(QApplication::activeWindow(),
                   save ? QStringLiteral("Save") : QStringLiteral("Open"),
-                  ToQt(dialog.folder.u8string().empty() ? std::string() : dialog.folder.string()));
+                  QFile::decodeName(dialog.folder.c_str()));
   box.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   box.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   QStringList filters;

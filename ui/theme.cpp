@@ -166,13 +166,12 @@ class FlatStyle : public QProxyStyle {
     const auto* box =
         type == CT_GroupBox ? qstyleoption_cast<const QStyleOptionGroupBox*>(option) : nullptr;
     if (box == nullptr) return QProxyStyle::sizeFromContents(type, option, contents, widget);
-    return QSize(
-        QFontMetrics(TitleFont(*box, widget)).horizontalAdvance(box->text) + 2 * kFramePadding,
-        contents.height() + 2 * kFramePadding);
+    return QSize(QFontMetrics(TitleFont(widget)).horizontalAdvance(box->text) + 2 * kFramePadding,
+                 contents.height() + 2 * kFramePadding);
   }
 
  private:
-  static QFont TitleFont(const QStyleOptionGroupBox&, const QWidget* widget) {
+  static QFont TitleFont(const QWidget* widget) {
     QFont font = widget != nullptr ? widget->font() : QApplication::font();
     font.setBold(true);
     return font;
@@ -329,7 +328,6 @@ ThemeColors::ThemeColors(const QPalette& palette) {
   changedFill = Blend(base, accent, dark ? 0.34 : 0.2);
   errorFill = Blend(base, QColor(0xe53935), dark ? 0.26 : 0.13);
   errorBorder = red;
-  mutedText = Blend(window, text, 0.68);
 }
 
 void ApplyTheme(QApplication& app, Theme theme) {

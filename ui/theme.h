@@ -27,7 +27,6 @@ struct ThemeColors {
   QColor errorFill;    ///< ground of the field that is wrong
   QColor errorBorder;  ///< line around the field that is wrong
   QColor accent;       ///< focus and changed marks
-  QColor mutedText;    ///< units and other side notes
 };
 
 }  // namespace veldox

@@ -164,6 +164,7 @@ void WindowDriver::Leave(TextControl& field) {
     return;
   }
   if (field.screen().focus() != &field && !Enter(field, *widget, Qt::TabFocusReason)) return;
+  if (!widget->hasFocus()) widget->setFocus(Qt::OtherFocusReason);
   widget->clearFocus();
   Settle();
 }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "graph/surface.h"
+
+namespace veldox {
+
+/// The number of curve colours behind the first graph's green; then they repeat.
+inline constexpr int kCurveColorCount = 28;
+
+/// The colour a curve is drawn in and its name in the legend.
+struct CurveColorEntry {
+  std::string_view name;
+  Color color;
+};
+
+/// The legend's text for curves in the colour that the user chose.
+inline constexpr std::string_view kUserColorName = "User Selected Color";
+
+/// The colour of a curve by its index: 0 is the first graph's "Green", 1 to 28 are the
+/// table's, 29 and up repeat 1 and up. A negative index counts as 0.
+CurveColorEntry CurveColorOf(int index);
+
+/// A colour by the name that graph files give it, in small letters; nothing for an
+/// unknown one.
+std::optional<CurveColorEntry> ColorByName(std::string_view name);
+
+}  // namespace veldox

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "graph/plot_engine.h"
+
+namespace veldox {
+
+/// The frame of a graph: limits, what the X axis is, and the texts around it.
+struct GraphFrame {
+  AxisRange range;
+  bool crankAngle = false;  ///< "TDC" and "BDC" stand under the X axis
+  std::string xPointer;     ///< such as "<--- RPM"
+  std::string xName;        ///< such as "RPM"
+  std::string yPointer;     ///< such as "<--- Horse Power"
+  std::string title;        ///< such as "Horsepower Torque"
+  /// A line through the value 0 where the Y axis runs below it.
+  bool zeroLine = false;
+};
+
+/// One curve of a graph.
+struct GraphCurve {
+  std::string note;  ///< the legend's text before the pen's colour word; may be empty
+  std::vector<GraphPoint> points;
+  std::vector<std::size_t> moves;  ///< indices of points that no line leads to
+};
+
+/// The grapher as other screens see it: a graph command computes its curves and hands
+/// them over. What stood on the surface stays when something is wrong with them.
+class Grapher {
+ public:
+  Grapher() = default;
+  Grapher(const Grapher&) = delete;
+  Grapher& operator=(const Grapher&) = delete;
+  virtual ~Grapher() = default;
+
+  /// Clears the surface and draws a new graph; the first pen is green.
+  /// @throws CommandError for limits or points that cannot be drawn
+  virtual void DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) = 0;
+  /// Draws curves onto the present graph with the next pens; axes stay.
+  /// @throws CommandError for points that cannot be drawn, or without a graph
+  virtual void AddToGraph(std::span<const GraphCurve> curves) = 0;
+  /// There is a graph that curves can be added to.
+  virtual bool HasGraph() const = 0;
+  /// Opens the grapher's window with what was drawn.
+  virtual void ShowGraph() = 0;
+  /// The plot engine itself, for screens whose graphs are more than curves.
+  virtual PlotEngine& plot() = 0;
+};
+
+}  // namespace veldox
