@@ -383,10 +383,12 @@ void Form1::Command24_Click() {
   ParameterBlock& b = block();
   ReadInto(b.CrankDegrees, Text47);
   // A travel has the unit of the lengths it comes from.
-  const double radius = b.Stroke / 2;
-  const double travel = PistonTravelAt({radius, b.RodLength, b.WristPinOffset}, b.CrankDegrees);
-  const double travel2 = PistonTravelAt({radius, b.RodLength2, b.WristPinOffset}, b.CrankDegrees);
+  const auto travelWith = [&b](double rodLength) {
+    return PistonTravelAt({b.Stroke / 2, rodLength, b.WristPinOffset}, b.CrankDegrees);
+  };
+  const double travel = travelWith(b.RodLength);
   Store(b.PistonTravel, Text48, travel, {&Text4});
+  const double travel2 = travelWith(b.RodLength2);
   Show(Text18, travel2, {&Text17});
   Show(Text19, travel - travel2);
 }

@@ -40,7 +40,7 @@ void ModelDriver::ChooseMenu(const MenuItem& item) {
 void ModelDriver::Set(TextControl& field, const std::string& text) {
   if (!field.screen().MoveFocus(&field)) return;
   field.Edit(text);
-  selected_ = false;
+  selected_ = nullptr;
 }
 
 bool ModelDriver::TabInto(Control& control) {
@@ -48,7 +48,7 @@ bool ModelDriver::TabInto(Control& control) {
   if (!screen.MoveFocus(&control)) return false;
   screen.Hover(&control);
   auto* field = dynamic_cast<TextControl*>(&control);
-  selected_ = field != nullptr && field->Enter();
+  selected_ = field != nullptr && field->Enter() ? field : nullptr;
   return true;
 }
 
@@ -62,23 +62,24 @@ void ModelDriver::Type(TextControl& field, const std::vector<Key>& keys) {
 }
 
 void ModelDriver::TypeKey(TextControl& field, Key key) {
-  const Key taken = field.FilterKey(key);
-  if (taken == 0) return;
-  if (taken == kTab) {
+  // Tab moves the focus; it is not typed into the field.
+  if (key == kTab) {
     if (Control* next = field.screen().NextInTabOrder(field)) TabInto(*next);
     return;
   }
-  if (taken == kEnter) {
-    if (field.kind() == ControlKind::TextArea) field.SetText(field.text() + "\r\n");
-    return;
-  }
-  std::string text = selected_ ? std::string{} : field.text();
+  const Key taken = field.FilterKey(key);
+  if (taken == 0) return;
+  if (taken == kEnter && field.kind() != ControlKind::TextArea) return;
+  const bool replaces = selected_ == &field;
+  std::string text = replaces ? std::string{} : field.text();
   if (taken == kBackspace) {
-    if (!selected_) Shorten(text);
+    if (!replaces) Shorten(text);
+  } else if (taken == kEnter) {
+    text += "\r\n";
   } else {
     AppendUtf8(text, taken);
   }
-  selected_ = false;
+  selected_ = nullptr;
   field.SetText(std::move(text));
 }
 

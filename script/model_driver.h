@@ -25,7 +25,7 @@ class ModelDriver : public Driver {
   void TypeKey(TextControl& field, Key key);
 
   Shell& shell_;
-  bool selected_ = false;  // all text of the focused field is selected
+  const Control* selected_ = nullptr;  // the field whose text is all selected
 };
 
 }  // namespace veldox

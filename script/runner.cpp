@@ -145,10 +145,10 @@ void ScriptRunner::RunLine(std::string_view line) {
     PrintList(host_.messages);
   } else if (verb == "dialogs") {
     PrintList(host_.dialogs);
-  } else if (verb == "plot") {
-    TellPlot();
   } else if (verb == "pages") {
     TellPages();
+  } else if (verb == "plot") {
+    TellPlot();
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color"})) {
@@ -288,6 +288,18 @@ void ScriptRunner::TellValue(std::string_view key) {
   print_(std::string(key) + " = " + EscapeText(KeyValueText(*row, block, index)));
 }
 
+void ScriptRunner::TellPages() {
+  int number = 0;
+  for (const Page& page : host_.pages) {
+    print_("page " + std::to_string(++number) + (page.landscape ? " landscape" : " portrait"));
+    for (const PlacedText& text : page.texts) {
+      print_(std::to_string(text.x) + ' ' + std::to_string(text.y) + ' ' + text.font.name + ' ' +
+             std::to_string(text.font.size) + (text.font.bold ? " bold " : " plain ") +
+             EscapeText(text.text));
+    }
+  }
+}
+
 void ScriptRunner::TellPlot() {
   const PlotEngine& plot = program_.grapher().plot();
   print_("plot");
@@ -314,18 +326,6 @@ void ScriptRunner::TellPlot() {
            std::to_string(series.points.size()) + " points");
     for (const GraphPoint& point : series.points) {
       print_(FormatShortest(point.x) + ' ' + FormatShortest(point.y));
-    }
-  }
-}
-
-void ScriptRunner::TellPages() {
-  int number = 0;
-  for (const Page& page : host_.pages) {
-    print_("page " + std::to_string(++number) + (page.landscape ? " landscape" : " portrait"));
-    for (const PlacedText& text : page.texts) {
-      print_(std::to_string(text.x) + ' ' + std::to_string(text.y) + ' ' + text.font.name + ' ' +
-             std::to_string(text.font.size) + (text.font.bold ? " bold " : " plain ") +
-             EscapeText(text.text));
     }
   }
 }

@@ -14,8 +14,8 @@ namespace veldox {
 namespace {
 
 constexpr char32_t kBackspaceKey = 8;
-constexpr char32_t kTabKey = 9;
 constexpr char32_t kEnterKey = 13;
+constexpr char32_t kEscapeKey = 27;
 
 /// A typed text after the control's rule has gone over each of its characters.
 QString Filtered(TextControl& control, const QString& typed) {
@@ -58,15 +58,6 @@ void FieldEdit::Replace(const QString& text) {
   } else {
     insert(text);
   }
-}
-
-bool FieldEdit::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    // Tab never reaches keyPressEvent: the widget moves the focus here.
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) field_.FilterKey(kTabKey);
-  }
-  return QLineEdit::event(event);
 }
 
 void FieldEdit::keyPressEvent(QKeyEvent* event) {
@@ -183,6 +174,8 @@ void LinesEdit::keyPressEvent(QKeyEvent* event) {
     key = kEnterKey;
   } else if (event->key() == Qt::Key_Backspace) {
     key = kBackspaceKey;
+  } else if (event->key() == Qt::Key_Escape && isReadOnly()) {
+    key = kEscapeKey;
   }
   if (key != 0) {
     if (control_.FilterKey(key) != 0) QPlainTextEdit::keyPressEvent(event);

@@ -20,7 +20,6 @@ class FieldEdit : public QLineEdit {
   void Replace(const QString& text);
 
  protected:
-  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

@@ -4,10 +4,15 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/files.h"
+#include "core/report.h"
+#include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
 
@@ -50,26 +55,163 @@ void HelpFace::Follow() {
   label_->setAccessibleName(label_->text());
 }
 
+ReportHeads::ReportHeads(LinesEdit& rows) : QWidget(rows.viewport()), rows_(rows) {
+  hide();
+  connect(rows.verticalScrollBar(), &QScrollBar::valueChanged, this, &ReportHeads::Follow);
+  connect(rows.horizontalScrollBar(), &QScrollBar::valueChanged, this,
+          qOverload<>(&QWidget::update));
+}
+
+void ReportHeads::SetReport(const std::string& report) {
+  lines_.clear();
+  lastLine_ = -1;
+  int line = 0;
+  for (const MarkedLine& marked : ReportLines(report)) {
+    if (marked.mark == LineMark::Heading) {
+      lines_.append(ToQt(marked.text));
+      lastLine_ = line;
+    } else if (lastLine_ >= 0) {
+      break;
+    }
+    ++line;
+  }
+  Follow();
+}
+
+void ReportHeads::Follow() {
+  const bool scrolledPast = lastLine_ >= 0 && rows_.verticalScrollBar()->value() > lastLine_;
+  setVisible(scrolledPast);
+  if (!scrolledPast) return;
+  const int height = static_cast<int>(lines_.size()) * QFontMetrics(rows_.font()).lineSpacing();
+  setGeometry(0, 0, rows_.viewport()->width(), height + 5);
+  update();
+}
+
+void ReportHeads::paintEvent(QPaintEvent*) {
+  const ThemeColors colors(palette());
+  QPainter painter(this);
+  painter.fillRect(rect(), colors.card);
+  painter.setPen(colors.border);
+  painter.drawLine(0, height() - 1, width(), height() - 1);
+  QFont font = rows_.font();
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(palette().color(QPalette::Text));
+  const QFontMetrics metrics(rows_.font());
+  const int left =
+      static_cast<int>(rows_.document()->documentMargin()) - rows_.horizontalScrollBar()->value();
+  int baseline = metrics.ascent() + 1;
+  for (const QString& line : lines_) {
+    painter.drawText(left, baseline, line);
+    baseline += metrics.lineSpacing();
+  }
+}
+
+FindBar::FindBar(LinesEdit& text)
+    : text_(text), wanted_(new QLineEdit(this)), answer_(new QLabel(this)) {
+  setObjectName(QStringLiteral("FindBar"));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* label = new QLabel(QStringLiteral("&Find"), this);
+  label->setBuddy(wanted_);
+  wanted_->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+  row->addWidget(label);
+  row->addWidget(wanted_);
+  for (const bool backward : {true, false}) {
+    auto* button =
+        new QPushButton(backward ? QStringLiteral("Previous") : QStringLiteral("Next"), this);
+    connect(button, &QPushButton::clicked, this, [this, backward] { Find(backward); });
+    row->addWidget(button);
+  }
+  row->addWidget(answer_, 1);
+  connect(wanted_, &QLineEdit::returnPressed, this, [this] { Find(false); });
+  connect(wanted_, &QLineEdit::textChanged, this, [this] { answer_->clear(); });
+  hide();
+}
+
+void FindBar::Open() {
+  show();
+  wanted_->setFocus(Qt::ShortcutFocusReason);
+  wanted_->selectAll();
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
+  hide();
+  text_.setFocus(Qt::OtherFocusReason);
+}
+
+void FindBar::Find(bool backward) {
+  if (wanted_->text().isEmpty()) return;
+  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  if (text_.find(wanted_->text(), flags)) {
+    answer_->clear();
+    return;
+  }
+  // Round the end of the report to its other end, once.
+  const QTextCursor before = text_.textCursor();
+  text_.moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
+  if (text_.find(wanted_->text(), flags)) {
+    answer_->setText(QStringLiteral("Gone on from the other end."));
+  } else {
+    text_.setTextCursor(before);
+    answer_->setText(QStringLiteral("Not in this report."));
+  }
+}
+
 ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
-    : QWidget(parent), edit_(new LinesEdit(box, this)) {
+    : QWidget(parent), box_(box), edit_(new LinesEdit(box, this)) {
+  heads_ = new ReportHeads(*edit_);
+  find_ = new FindBar(*edit_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(4);
-  column->addWidget(edit_);
+  column->addWidget(edit_, 1);
+  column->addWidget(find_);
   auto* keys = new QHBoxLayout;
   keys->addStretch();
-  const struct {
-    const char* caption;
-    char32_t key;
-  } buttons[] = {{"Write to File  (.)", U'.'}, {"Print  (,)", U','}};
-  for (const auto& [caption, key] : buttons) {
-    auto* button = new QPushButton(QLatin1String(caption), this);
-    button->setMinimumWidth(button->sizeHint().width() + 24);
-    const char32_t code = key;
-    connect(button, &QPushButton::clicked, edit_, [&box, code] { box.FilterKey(code); });
-    keys->addWidget(button);
-  }
+  connect(AddButton(*keys, "Find  (Ctrl+F)", "Look for a text in this report."),
+          &QPushButton::clicked, this, [this] { find_->Open(); });
+  connect(AddButton(*keys, "Save as PDF", "Save the pages of this report as a PDF file."),
+          &QPushButton::clicked, this, [this] { SaveAsPdf(); });
+  connect(AddButton(*keys, "Preview", "Show the pages of this report as they would be printed."),
+          &QPushButton::clicked, this, [this] { PreviewReport(box_, window()); });
+  connect(AddButton(*keys, "Write to File  (.)", "Write this report to a disk file."),
+          &QPushButton::clicked, this, [this] { box_.FilterKey(U'.'); });
+  connect(AddButton(*keys, "Print  (,)", "Print this report."), &QPushButton::clicked, this,
+          [this] { box_.FilterKey(U','); });
+  connect(AddButton(*keys, "Close  (any key)", "Close this report."), &QPushButton::clicked, this,
+          [this] { box_.FilterKey(U' '); });
   column->addLayout(keys);
+  auto* shortcut = new QShortcut(QKeySequence::Find, this);
+  shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(shortcut, &QShortcut::activated, this, [this] { find_->Open(); });
+}
+
+QPushButton* ReportPanel::AddButton(QBoxLayout& row, const char* caption, const char* tip) {
+  auto* button = new QPushButton(QLatin1String(caption), this);
+  button->setToolTip(QLatin1String(tip));
+  button->setAccessibleDescription(QLatin1String(tip));
+  button->setMinimumWidth(button->sizeHint().width() + 16);
+  row.addWidget(button);
+  return button;
+}
+
+void ReportPanel::SaveAsPdf() {
+  box_.screen().Perform([this] {
+    Host& host = box_.screen().context().host;
+    const auto path =
+        host.AskFile({FileDialog::Kind::Save, "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*", 1,
+                      host.ProgramFolder()});
+    if (path) SaveFile(*path, ReportAsPdf(box_));
+  });
+}
+
+void ReportPanel::Follow() {
+  edit_->Show(ToQtLines(box_.text()));
+  heads_->SetReport(box_.report());
+  edit_->moveCursor(QTextCursor::Start);
+  find_->hide();
 }
 
 void ReportPanel::showEvent(QShowEvent* event) {
@@ -77,6 +219,11 @@ void ReportPanel::showEvent(QShowEvent* event) {
   edit_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   edit_->setMinimumHeight(QFontMetrics(edit_->font()).lineSpacing() * kReportLines);
   QWidget::showEvent(event);
+}
+
+void ReportPanel::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  heads_->Follow();
 }
 
 ReportFace::ReportFace(FaceSet& set, ReportBox& box, ReportPanel* panel, HelpBar* help)
@@ -88,8 +235,8 @@ void ReportFace::Follow() {
   if (help_ != nullptr) {
     help_->label()->setText(sentence && box_.visible() ? ToQtLines(text) : QString());
   }
-  panel_->edit()->Show(ToQtLines(text));
   panel_->setVisible(box_.visible() && !sentence && !text.empty());
+  panel_->Follow();
 }
 
 }  // namespace veldox

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStringList>
 #include <QWidget>
+#include <string>
 
 #include "ui/face.h"
 #include "ui/field_edit.h"
@@ -32,17 +37,62 @@ class HelpFace : public Face {
   QLabel* label_;
 };
 
+/// The column heads of a report, which stay in sight over its rows and move sideways
+/// with them.
+class ReportHeads : public QWidget {
+ public:
+  explicit ReportHeads(LinesEdit& rows);
+  /// Takes the heads from a report: its heading lines, up to the first row.
+  void SetReport(const std::string& report);
+  /// Shows the heads when the rows have been scrolled past them.
+  void Follow();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  LinesEdit& rows_;
+  QStringList lines_;
+  int lastLine_ = -1;  ///< line of the report that holds the last head
+};
+
+/// Looks for a text in a report.
+class FindBar : public QWidget {
+ public:
+  explicit FindBar(LinesEdit& text);
+  void Open();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Find(bool backward);
+
+  LinesEdit& text_;
+  QLineEdit* wanted_;
+  QLabel* answer_;
+};
+
 /// A report in a fixed-pitch font, with buttons that press the report's keys.
 class ReportPanel : public QWidget {
  public:
   ReportPanel(ReportBox& box, QWidget* parent);
   LinesEdit* edit() const { return edit_; }
+  /// Shows what the box holds.
+  void Follow();
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  QPushButton* AddButton(QBoxLayout& row, const char* caption, const char* tip);
+  void SaveAsPdf();
+
+  ReportBox& box_;
   LinesEdit* edit_;
+  ReportHeads* heads_;
+  FindBar* find_;
 };
 
 /// Stands for a report box. Where it is the help place as well, sentences go into the

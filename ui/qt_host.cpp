@@ -17,6 +17,7 @@
 #include <QStandardPaths>
 #include <vector>
 
+#include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 
 namespace veldox {
@@ -188,6 +189,10 @@ ScreenSize QtHost::MeasureScreen() {
   const double scale = screen->devicePixelRatio();
   return {qRound(screen->geometry().width() * scale), qRound(screen->geometry().height() * scale),
           qRound(screen->logicalDotsPerInch() * scale)};
+}
+
+std::unique_ptr<PageSurface> QtHost::OpenPrinter() {
+  return OpenPrinterByDialog(QApplication::activeWindow());
 }
 
 void QtHost::SetBusy(bool busy) {

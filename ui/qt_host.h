@@ -15,6 +15,7 @@ class QtHost : public Host {
   DecimalMark SystemDecimalMark() override;
   std::filesystem::path ProgramFolder() override;
   ScreenSize MeasureScreen() override;
+  std::unique_ptr<PageSurface> OpenPrinter() override;
   void SetBusy(bool busy) override;
 };
 

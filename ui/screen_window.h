@@ -24,10 +24,15 @@ class ScreenWindow : public QWidget {
   QWidget* BuildBody(const std::vector<const Control*>& placed);
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
+  /// A report opens: the window grows to the height of the screen while it is shown.
+  void MakeRoomForReport();
+  void GiveRoomBack();
 
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
+  QWidget* report_ = nullptr;
+  int heightWithoutReport_ = 0;
   std::vector<const QObject*> backgrounds_;
 };
 

@@ -1,0 +1,183 @@
+#include "core/report.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "core/error.h"
+#include "core/pages.h"
+#include "core/screen.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::StartsWith;
+
+TEST(Report, LinesLoseTheirMarksAndKeepThemBeside) {
+  EXPECT_THAT(
+      ReportLines("a\r\nhead_\r\nbold^\r\nend~\r\n_\r\nlast"),
+      ElementsAre(MarkedLine{"a", LineMark::None}, MarkedLine{"head", LineMark::Heading},
+                  MarkedLine{"bold", LineMark::Bold}, MarkedLine{"end", LineMark::HeadingsEnd},
+                  MarkedLine{"", LineMark::Heading}, MarkedLine{"last", LineMark::None}));
+}
+
+TEST(Report, ATextWithoutALineBreakIsOneLine) {
+  EXPECT_THAT(ReportLines("alone"), ElementsAre(MarkedLine{"alone", LineMark::None}));
+  EXPECT_THAT(ReportLines(""), ElementsAre(MarkedLine{"", LineMark::None}));
+  EXPECT_THAT(ReportLines("a\r\n"),
+              ElementsAre(MarkedLine{"a", LineMark::None}, MarkedLine{"", LineMark::None}));
+}
+
+TEST(Report, OnlyTheLastCharacterOfALineIsAMark) {
+  EXPECT_EQ(ReportBoxText("a_b^c~d\r\nx__\r\ny"), "a_b^c~d\r\nx_\r\ny");
+}
+
+TEST(Report, TheBoxShowsNoMarksAndTheFileEndsWithALineBreak) {
+  const std::string report = std::string(ReportPrompt) + "head_\r\nbold^\r\nend~\r\nrow";
+  const std::string shown =
+      "Press the . key to Write this Data to a Disk File Or , key to Print this Data\r\n\r\n"
+      "head\r\nbold\r\nend\r\nrow";
+  EXPECT_EQ(ReportBoxText(report), shown);
+  EXPECT_EQ(ReportFileText(report), shown + "\r\n");
+}
+
+TEST(Report, AMarkThatNoLineBreakFollowsStaysInTheFile) {
+  EXPECT_EQ(ReportFileText("a\r\nb_"), "a\r\nb_\r\n");
+}
+
+TEST(Report, TheWriterEndsWithoutALineBreak) {
+  ReportWriter writer(DecimalMark::Comma);
+  writer.Add("Bore = ").Add<"0.0#####">(4.125).EndLine(LineMark::Bold);
+  writer.AddLines({"one_", "two_"});
+  writer.Add<"0.00">(1.005, 8).Add(" mm").EndLine();
+  EXPECT_EQ(writer.Finish(),
+            std::string(ReportPrompt) + "Bore = 4,125^\r\none_\r\ntwo_\r\n    1,01 mm");
+}
+
+class ReportScreen : public Screen {
+ public:
+  explicit ReportScreen(ProgramContext& context) : Screen(context, "Form1", "Title", "Tag") {}
+  Control* HelpPlace() override { return &Text38; }
+  ReportBox* ReportPane() override { return &Text38; }
+  void Show(std::string report) { ShowReport(std::move(report)); }
+
+  Frame Frame1{*this, "Frame1", ""};
+  Command Command1{Frame1, "Command1", "Command", "A sentence.", &Screen::Quit};
+  ReportBox Text38{Frame1, "Text38"};
+};
+
+/// The box of a screen that shows its help sentences in the same place.
+class ReportBoxTest : public testing::Test {
+ protected:
+  ReportBoxTest() {
+    host_.folder = folder_.path();
+    screen_.Show("prompt\r\nhead_\r\nrow");
+  }
+  bool Closed() const { return !box_.visible() && box_.text().empty() && box_.report().empty(); }
+  bool Open() const { return box_.visible() && box_.text() == "prompt\r\nhead\r\nrow"; }
+
+  TemporaryFolder folder_;
+  TestHost host_;
+  ProgramContext context_{host_};
+  ReportScreen screen_{context_};
+  ReportBox& box_ = screen_.Text38;
+};
+
+TEST_F(ReportBoxTest, AnyKeyClosesTheReport) {
+  EXPECT_TRUE(Open());
+  EXPECT_EQ(box_.FilterKey(U'x'), 0U);
+  EXPECT_TRUE(Closed());
+  EXPECT_EQ(box_.FilterKey(U'.'), 0U) << "no report, nothing to write, and never a text";
+}
+
+TEST_F(ReportBoxTest, SentencesLeaveAReportAloneAndComeBackAfterIt) {
+  screen_.Hover(&screen_.Command1);
+  EXPECT_TRUE(Open());
+  screen_.Hover(nullptr);
+  EXPECT_TRUE(Open());
+  box_.FilterKey(U' ');
+  screen_.Hover(&screen_.Command1);
+  EXPECT_EQ(box_.text(), "A sentence.");
+  EXPECT_TRUE(box_.visible());
+}
+
+TEST_F(ReportBoxTest, QuitAndClearCloseTheReport) {
+  screen_.Quit();
+  EXPECT_TRUE(Closed());
+  screen_.Show("again");
+  screen_.ClearFields();
+  EXPECT_TRUE(Closed());
+}
+
+TEST_F(ReportBoxTest, ThePointWritesAFileAndCloses) {
+  host_.AnswerFile(folder_ / "table.prt");
+  box_.FilterKey(U'.');
+  EXPECT_TRUE(Closed());
+  std::ifstream file(folder_ / "table.prt", std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  EXPECT_EQ(bytes, "prompt\r\nhead\r\nrow\r\n");
+  ASSERT_EQ(host_.fileDialogs.size(), 1U);
+  EXPECT_EQ(host_.fileDialogs[0].kind, FileDialog::Kind::Save);
+  EXPECT_EQ(host_.fileDialogs[0].filter,
+            "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt");
+  EXPECT_EQ(host_.fileDialogs[0].filterIndex, 3);
+  EXPECT_EQ(host_.fileDialogs[0].folder, folder_.path());
+}
+
+TEST_F(ReportBoxTest, ACancelledDialogIsAKeyLikeAnyOther) {
+  host_.AnswerFile(std::nullopt);
+  box_.FilterKey(U'.');
+  EXPECT_TRUE(Closed());
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(ReportBoxTest, AFileThatCannotBeWrittenCostsNothing) {
+  host_.AnswerFile(folder_ / "none/table.prt");
+  host_.Answer(Button::OK);
+  box_.FilterKey(U'.');
+  EXPECT_TRUE(Open());
+}
+
+TEST_F(ReportBoxTest, TheCommaPrintsAndCloses) {
+  host_.printer = std::make_unique<PageRecorder>();
+  box_.FilterKey(U',');
+  EXPECT_TRUE(Closed());
+  EXPECT_EQ(host_.printer, nullptr);
+}
+
+TEST_F(ReportBoxTest, APrinterErrorCostsNothing) {
+  class Broken : public PageRecorder {
+    void EndJob() override { throw CommandError(ErrorKind::File, "Out of paper."); }
+  };
+  host_.printer = std::make_unique<Broken>();
+  host_.Answer(Button::OK);
+  box_.FilterKey(U',');
+  EXPECT_TRUE(Open());
+  EXPECT_EQ(host_.messages.back().text, "Out of paper.");
+}
+
+TEST_F(ReportBoxTest, TooManyHeadingsFailTheCommandAndKeepTheReport) {
+  std::string report = "prompt";
+  for (int i = 0; i < 12; ++i) report += "\r\nhead_";
+  screen_.Show(report);
+  host_.printer = std::make_unique<PageRecorder>();
+  host_.Answer(Button::OK);
+  box_.FilterKey(U',');
+  EXPECT_TRUE(box_.showsReport());
+  EXPECT_EQ(box_.report(), report);
+}
+
+TEST(ReportTexts, ArePrecise) {
+  EXPECT_THAT(std::string(PagePrompt),
+              "Pressing the . key will cause this Page to be Written to a Disk File.\r\n\r\n");
+  EXPECT_THAT(std::string(OverflowNote), StartsWith("You could be trying to Generate"));
+  EXPECT_THAT(std::string(OverflowNote), EndsWith("all of the Data should be There\r\n"));
+}
+
+}  // namespace
+}  // namespace veldox

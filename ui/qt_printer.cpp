@@ -1,0 +1,132 @@
+#include "ui/qt_printer.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFontMetricsF>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <algorithm>
+
+#include "core/pages.h"
+#include "ui/qt_text.h"
+
+namespace veldox {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr int kTwipsPerPoint = 20;
+
+QString FamilyOf(const std::string& name) {
+  return ToQt(name);
+}
+
+QFont::StyleHint HintOf(const std::string& name) {
+  return name == "Courier" ? QFont::TypeWriter : QFont::SansSerif;
+}
+
+bool IsLandscape(const QPagedPaintDevice& device) {
+  return device.pageLayout().orientation() == QPageLayout::Landscape;
+}
+
+/// The printer that the user has set up, kept as long as the application lives.
+QPrinter& ChosenPrinter() {
+  static std::unique_ptr<QPrinter> printer;
+  if (printer == nullptr) {
+    printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    qAddPostRoutine([] { printer.reset(); });
+  }
+  return *printer;
+}
+
+void PrintOn(QPagedPaintDevice& device, const ReportBox& box) {
+  PainterPageSurface surface(device);
+  ReportPrinter(surface, HeaderOf(box.screen().block(), box.screen().context().host.Now()))
+      .PrintReport(box.report(), box.fontSize());
+}
+
+}  // namespace
+
+PainterPageSurface::PainterPageSurface(QPagedPaintDevice& device)
+    : device_(device), landscape_(IsLandscape(device)) {
+  if (!painter_.begin(&device_)) {
+    throw CommandError(ErrorKind::File, "The printer could not be started. Nothing was printed.");
+  }
+  const SheetSize sheet = PageSheet(landscape_);
+  const double unitsPerTwip = device_.logicalDpiX() / kTwipsPerInch;
+  // Paper that holds less than the sheet gets it smaller, never cut off.
+  scale_ = std::min({unitsPerTwip, static_cast<double>(device_.width()) / sheet.width,
+                     static_cast<double>(device_.height()) / sheet.height});
+  painter_.scale(scale_, scale_);
+}
+
+void PainterPageSurface::PlaceText(int x, int y, const PageFont& font, std::string_view text) {
+  if (text.empty()) return;
+  QFont drawn(FamilyOf(font.name));
+  drawn.setStyleHint(HintOf(font.name));
+  drawn.setPixelSize(font.size * kTwipsPerPoint);
+  drawn.setBold(font.bold);
+  drawn.setHintingPreference(QFont::PreferNoHinting);
+  const QString line = ToQt(std::string(text));
+  const QFontMetricsF metrics(drawn);
+  const double natural = metrics.horizontalAdvance(line);
+  const double counted = TextWidth(font, text);
+  painter_.save();
+  painter_.setFont(drawn);
+  painter_.translate(x, y + metrics.ascent());
+  // Columns must stand where the layout put them, whatever font stands in for the named one.
+  if (natural > 0 && counted > 0) painter_.scale(counted / natural, 1);
+  painter_.drawText(QPointF(0, 0), line);
+  painter_.restore();
+}
+
+void PainterPageSurface::NewPage() {
+  if (!device_.newPage()) {
+    throw CommandError(ErrorKind::File, "The printer could not begin a new page.");
+  }
+}
+
+void PainterPageSurface::EndJob() {
+  if (!painter_.end()) {
+    throw CommandError(ErrorKind::File, "The printer could not finish the job.");
+  }
+}
+
+std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent) {
+  QPrintDialog dialog(&ChosenPrinter(), parent);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  if (dialog.exec() != QDialog::Accepted) throw CommandError(ErrorKind::Cancelled, "");
+  return std::make_unique<PainterPageSurface>(ChosenPrinter());
+}
+
+void SetUpPrinterByDialog(QWidget* parent) {
+  QPrintDialog dialog(&ChosenPrinter(), parent);
+  dialog.setWindowTitle(QStringLiteral("Printer Setup"));
+  if (dialog.exec() != QDialog::Accepted) throw CommandError(ErrorKind::Cancelled, "");
+}
+
+void PreviewReport(const ReportBox& box, QWidget* parent) {
+  QPrintPreviewDialog dialog(&ChosenPrinter(), parent);
+  dialog.setWindowTitle(QStringLiteral("Print Preview"));
+  QObject::connect(
+      &dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+      [&box](QPrinter* printer) { box.screen().Perform([&] { PrintOn(*printer, box); }); });
+  dialog.resize(dialog.sizeHint().expandedTo(QSize(900, 680)));
+  dialog.exec();
+}
+
+std::string ReportAsPdf(const ReportBox& box) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  {
+    QPdfWriter writer(&buffer);
+    writer.setResolution(static_cast<int>(kTwipsPerInch) / 2);
+    writer.setPageLayout(ChosenPrinter().pageLayout());
+    writer.setCreator(QStringLiteral("VELDOX"));
+    PrintOn(writer, box);
+  }
+  return buffer.data().toStdString();
+}
+
+}  // namespace veldox

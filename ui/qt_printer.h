@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPrinter>
+#include <memory>
+#include <string>
+
+#include "core/host.h"
+#include "core/page_surface.h"
+#include "core/screen.h"
+
+namespace veldox {
+
+/// Pages on a printer, a PDF or a preview. The sheet of the layout is fitted into what the
+/// device can print on; texts are set to the widths that the layout counted on.
+class PainterPageSurface : public PageSurface {
+ public:
+  /// @throws CommandError (File) when the device cannot be drawn on
+  explicit PainterPageSurface(QPagedPaintDevice& device);
+
+  bool landscape() const override { return landscape_; }
+  void PlaceText(int x, int y, const PageFont& font, std::string_view text) override;
+  void NewPage() override;
+  void EndJob() override;
+
+ private:
+  QPagedPaintDevice& device_;
+  QPainter painter_;
+  bool landscape_;
+  double scale_ = 1;  ///< device units a twip
+};
+
+/// Lets the user choose a printer and begins a job on it.
+/// @throws CommandError (Cancelled, File)
+std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent);
+
+/// The platform's dialog for printer, paper and orientation; what is chosen stays chosen.
+/// @throws CommandError (Cancelled)
+void SetUpPrinterByDialog(QWidget* parent);
+
+/// Shows the pages of a report as they would be printed.
+void PreviewReport(const ReportBox& box, QWidget* parent);
+
+/// The pages of a report as the bytes of a PDF file.
+/// @throws CommandError (File)
+std::string ReportAsPdf(const ReportBox& box);
+
+}  // namespace veldox
