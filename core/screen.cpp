@@ -139,11 +139,16 @@ void ReportBox::ShowReport(std::string report, int fontSize) {
   showsReport_ = true;
   SetText(ReportBoxText(report_));
   SetVisible(true);
+  if (screen().focus() != this) before_ = screen().focus();
+  // The report's keys work at once.
+  Focus();
 }
 
 void ReportBox::CloseReport() {
   report_.clear();
   showsReport_ = false;
+  Control* before = std::exchange(before_, nullptr);
+  if (screen().focus() == this && before != nullptr) before->Focus();
   SetText({});
   SetVisible(false);
 }

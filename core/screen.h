@@ -203,6 +203,7 @@ class ReportBox : public TextControl {
   void PrintReport() const;
 
   std::string report_;
+  Control* before_ = nullptr;  // what had the focus when the report opened
   int fontSize_ = 0;
   bool showsReport_ = false;
 };

@@ -10,6 +10,7 @@ namespace veldox {
 
 namespace {
 
+constexpr double kFastestGraphedRpm = 100000;
 constexpr double kSmallestStroke = 0.00001;
 constexpr double kCubicMillimetresPerCc = 1000;
 constexpr double kMillimetresPerCentimetre = 10;
@@ -20,8 +21,8 @@ constexpr double kBearingFormulaToMetres = 12.0 / 1000;
 
 }  // namespace
 
-Form1::Form1(ProgramContext& context)
-    : Screen(context, "Form1", "Engine Displacement Calculator", "CubicIn") {}
+Form1::Form1(ProgramContext& context, Grapher& grapher)
+    : Screen(context, "Form1", "Engine Displacement Calculator", "CubicIn"), grapher_(grapher) {}
 
 void Form1::CopyFromBlock() {
   const ParameterBlock& b = block();
@@ -412,6 +413,73 @@ void Form1::Command25_Click() {
     }
     throw;
   }
+}
+
+PistonGraphInput Form1::ReadGraphInput() {
+  ReadEngineFields();
+  ParameterBlock& b = block();
+  const int option = Option1.chosen();
+  if (option < 0 || option >= kPistonGraphCount) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "This graph is drawn from the port time area panel.");
+  }
+  PistonGraphInput input;
+  input.graph = static_cast<PistonGraph>(option);
+  input.axis = static_cast<CrankAxis>(Option2.chosen());
+  input.absolute = Check4.on();
+  Require(b.RPM > 0, Text5, "must be greater than 0 for a graph.");
+  Require(b.RPM <= kFastestGraphedRpm, Text5, "must not be above 100000 for a graph.");
+  switch (input.graph) {
+    case PistonGraph::SideForce:
+    case PistonGraph::ReciprocatingForce:
+    case PistonGraph::InertiaForce:
+    case PistonGraph::TangentForce:
+    case PistonGraph::Torque:
+      ReadWeights();
+      Require(b.RodWeight != 0, Text31, "must not be 0 for this command.");
+      break;
+    case PistonGraph::BearingSpeed: ReadInto(b.JournalDiameter, Text33); break;
+    case PistonGraph::PortVelocity:
+    case PistonGraph::PortDepression:
+      ReadInto(b.VolumetricEfficiency, Text21);
+      Require(b.PortDiameter != 0, Text20, "must not be 0 for this command.");
+      break;
+    case PistonGraph::TotalVolumeChange:
+    case PistonGraph::PressureDifferential:
+      ReadInto(b.CompressionRatio, Text22);
+      Require(b.CompressionRatio > 1, Text22, "must be greater than 1 for this command.");
+      break;
+    default: break;
+  }
+  input.table = Table();
+  input.journalDiameter = b.JournalDiameter;
+  input.portDiameter = b.PortDiameter;
+  input.volumetricEfficiency = b.VolumetricEfficiency;
+  input.compressionRatio = b.CompressionRatio;
+  return input;
+}
+
+void Form1::GraphPiston(bool first) {
+  const PistonGraphInput input = ReadGraphInput();
+  try {
+    const GraphCurve curve = PistonGraphCurve(input, mark());
+    if (first || !grapher_.HasGraph()) {
+      grapher_.DrawGraph(PistonGraphFrame(input), {&curve, 1});
+    } else {
+      grapher_.AddToGraph({&curve, 1});
+    }
+  } catch (const CommandError& error) {
+    FailForGeometry(error);
+  }
+  grapher_.ShowGraph();
+}
+
+void Form1::Command12_Click() {
+  GraphPiston(true);
+}
+
+void Form1::Command13_Click() {
+  GraphPiston(false);
 }
 
 void Form1::Check1_Click() {

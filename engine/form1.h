@@ -5,6 +5,7 @@
 
 #include "core/screen.h"
 #include "engine/displacement.h"
+#include "engine/piston_graphs.h"
 #include "engine/piston_reports.h"
 
 namespace veldox {
@@ -13,7 +14,8 @@ namespace veldox {
 /// deck stack for each other and derives the ratios.
 class Form1 : public Screen {
  public:
-  explicit Form1(ProgramContext& context);
+  /// @param grapher  where the graphs appear
+  Form1(ProgramContext& context, Grapher& grapher);
 
   void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
@@ -44,6 +46,8 @@ class Form1 : public Screen {
   void Command21_Click();
   void Command24_Click();
   void Command25_Click();
+  void Command12_Click();
+  void Command13_Click();
   void Check1_Click();
 
   void ReadEngineFields();
@@ -65,8 +69,13 @@ class Form1 : public Screen {
   /// Builds a table of the engine and shows it.
   void ShowTable(const std::function<std::string(const PistonTable&)>& build);
   void ShowVelocityTable(AngleOrigin origin);
+  /// Parses what the chosen graph is made of.
+  PistonGraphInput ReadGraphInput();
+  void GraphPiston(bool first);
   /// Ends a command that no engine of these sizes can do. @throws CommandError
   [[noreturn]] void FailForGeometry(const CommandError& error);
+
+  Grapher& grapher_;
 
  public:
   Frame Frame1{*this, "Frame1", "Engine", 0};
@@ -304,10 +313,12 @@ class Form1 : public Screen {
       Frame12, "Check4", "Graph Absolute Value",
       "When Checked and Graphing Piston Acceleration the low y-axis will be set to zero."};
   Command Command12{Frame12, "Command12", "Graph First",
-                    "Graph First based on selected option, this clears and starts a new Graph."};
+                    "Graph First based on selected option, this clears and starts a new Graph.",
+                    &Form1::Command12_Click};
   Command Command13{
       Frame12, "Command13", "Graph +1",
-      "Graph Second or more based on selected option, this adds to an existing Graph."};
+      "Graph Second or more based on selected option, this adds to an existing Graph.",
+      &Form1::Command13_Click};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   Label Label7{HelpFrame, "Label7", ""};

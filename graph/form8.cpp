@@ -116,6 +116,14 @@ void Form8::KeepFirstLimits() {
   firstYLow_ = plot_.YLow;
 }
 
+void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
+  if (curves.empty()) PlotEngine::RequireSeries({});
+  for (const GraphCurve& curve : curves) {
+    next.PlotSeries(curve.points, {}, curve.moves);
+    if (!curve.note.empty()) next.SetCurveNote(curve.note + "  " + next.series().back().name);
+  }
+}
+
 void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) {
   PlotEngine next(block());
   next.SetScale(frame.range);
@@ -129,8 +137,7 @@ void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curve
   if (frame.zeroLine && frame.range.yLow < 0 && frame.range.yHigh > 0) {
     next.PlotAdjustedLine({frame.range.xLow, 0}, {frame.range.xHigh, 0}, {}, true);
   }
-  if (curves.empty()) PlotEngine::RequireSeries({});
-  for (const GraphCurve& curve : curves) next.PlotSeries(curve.points, curve.note, curve.moves);
+  AddCurves(next, curves);
   underOverlay_.reset();
   Label1.SetCaption("");
   Commit(std::move(next), Shown::Other);
@@ -142,9 +149,8 @@ void Form8::AddToGraph(std::span<const GraphCurve> curves) {
     throw CommandError(ErrorKind::InvalidArgument,
                        "There is no graph yet that a curve can be added to.");
   }
-  if (curves.empty()) PlotEngine::RequireSeries({});
   PlotEngine next = plot_;
-  for (const GraphCurve& curve : curves) next.PlotSeries(curve.points, curve.note, curve.moves);
+  AddCurves(next, curves);
   Commit(std::move(next), Shown::Other);
 }
 

@@ -5,7 +5,7 @@
 namespace veldox {
 
 template <class S, class... Arguments>
-S& Program::AddScreen(Arguments&... arguments) {
+S& Program::AddScreen(Arguments&&... arguments) {
   auto screen = std::make_unique<S>(*context_, arguments...);
   S& added = *screen;
   screens_.push_back(std::move(screen));
@@ -16,7 +16,7 @@ S& Program::AddScreen(Arguments&... arguments) {
 Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
   grapher_ = &AddScreen<Form8>();
-  AddScreen<Form1>();
+  AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   about_ = &AddScreen<Form15>();
   shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->ShowGraphOptions(); });

@@ -24,7 +24,7 @@ class Program {
 
  private:
   template <class S, class... Arguments>
-  S& AddScreen(Arguments&... arguments);
+  S& AddScreen(Arguments&&... arguments);
 
   std::unique_ptr<ProgramContext> context_;
   std::unique_ptr<Shell> shell_;

@@ -304,6 +304,9 @@ void ScriptRunner::TellPlot() {
   const PlotEngine& plot = program_.grapher().plot();
   print_("plot");
   for (const std::string& title : plot.Titles()) print_("title " + EscapeText(title));
+  for (const PlotSeriesRecord& series : plot.series()) {
+    if (!series.note.empty()) print_("title " + EscapeText(plot.LegendText(series)));
+  }
   const auto caption = [&](const char* axis, int number) {
     if (const std::string& text = plot.Caption(number); !text.empty()) {
       print_(std::string("caption ") + axis + ' ' + EscapeText(text));

@@ -17,8 +17,8 @@
 namespace veldox {
 namespace {
 
-constexpr int kWindowMargin = 8;
-constexpr int kFrameGap = 8;
+constexpr int kWindowMargin = 6;
+constexpr int kFrameGap = 5;
 /// What a window manager puts around a window.
 constexpr QSize kDecoration(10, 40);
 
@@ -56,20 +56,11 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   scroll_->setWidget(BuildBody(placed));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
-  column->setSpacing(8);
+  column->setSpacing(kWindowMargin);
   if (ownFace_ == nullptr) {
     column->addWidget(scroll_, 1);
   } else {
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(0, 0, kWindowMargin, 0);
-    row->setSpacing(0);
-    row->addWidget(scroll_);
-    auto* face = new QVBoxLayout;
-    face->setContentsMargins(0, kWindowMargin, 0, 0);
-    face->addWidget(ownFace_);
-    row->addLayout(face, 1);
-    column->addLayout(row, 1);
-    NarrowColumns();
+    column->addLayout(BesideOwnFace(), 1);
   }
   column->addLayout(BuildFoot(quit));
   OrderTabs(faces_);
@@ -122,6 +113,8 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   auto* bar = helpPlace != nullptr ? new HelpBar(this) : nullptr;
   if (report != nullptr) {
     auto* panel = new ReportPanel(*report, this);
+    panel->installEventFilter(this);
+    report_ = panel;
     faces_.Make<ReportFace>(*report, panel, helpPlace == report ? bar : nullptr);
     foot->addWidget(panel);
   }
@@ -142,9 +135,18 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   return foot;
 }
 
-void ScreenWindow::NarrowColumns() {
+QLayout* ScreenWindow::BesideOwnFace() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, kWindowMargin, 0);
+  row->setSpacing(0);
   const int bar = scroll_->verticalScrollBar()->sizeHint().width();
   scroll_->setFixedWidth(scroll_->widget()->sizeHint().width() + bar);
+  row->addWidget(scroll_);
+  auto* face = new QVBoxLayout;
+  face->setContentsMargins(0, kWindowMargin, 0, 0);
+  face->addWidget(ownFace_);
+  row->addLayout(face, 1);
+  return row;
 }
 
 void ScreenWindow::SizeToScreen() {
@@ -163,10 +165,10 @@ void ScreenWindow::SizeToScreen() {
   const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
   int width = std::min(body.sizeHint().width(), room.width());
   int height = body.heightForWidth(width) + foot;
-  if (height > room.height()) {
-    // The bar for scrolling down takes its room beside the frames, not from them.
+  if (height > room.height() || report_ != nullptr) {
+    // The bar for scrolling down, which a report brings, takes its room beside the frames.
     width = std::min(width + bar, room.width());
-    height = room.height();
+    height = std::min(height, room.height());
   }
   resize(width, height);
 }
@@ -177,7 +179,26 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
   screen_.Quit();
 }
 
+void ScreenWindow::MakeRoomForReport() {
+  if (isMaximized() || isFullScreen() || heightWithoutReport_ > 0) return;
+  const QRect room = QWidget::screen()->availableGeometry();
+  heightWithoutReport_ = height();
+  resize(width(), std::max(height(), FittingSize(*this, QSize(0, room.height())).height()));
+  // The lower edge stays on the screen.
+  const int below = frameGeometry().bottom() - room.bottom();
+  if (below > 0) move(x(), std::max(room.top(), y() - below));
+}
+
+void ScreenWindow::GiveRoomBack() {
+  if (heightWithoutReport_ > 0 && !isMaximized()) resize(width(), heightWithoutReport_);
+  heightWithoutReport_ = 0;
+}
+
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == report_) {
+    if (event->type() == QEvent::ShowToParent) MakeRoomForReport();
+    if (event->type() == QEvent::HideToParent) GiveRoomBack();
+  }
   if (event->type() == QEvent::MouseMove &&
       std::find(backgrounds_.begin(), backgrounds_.end(), watched) != backgrounds_.end()) {
     screen_.Hover(nullptr);

@@ -28,13 +28,18 @@ class ScreenWindow : public QWidget {
   QWidget* BuildBody(const std::vector<const Control*>& placed);
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
-  /// The frames' columns stand at the left, as wide as they must be.
-  void NarrowColumns();
+  /// The frames' columns at the left, as wide as they must be, and the screen's own face.
+  QLayout* BesideOwnFace();
+  /// A report opens: the window grows to the height of the screen while it is shown.
+  void MakeRoomForReport();
+  void GiveRoomBack();
 
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
   QWidget* ownFace_;  ///< null for most screens
+  QWidget* report_ = nullptr;
+  int heightWithoutReport_ = 0;
   std::vector<const QObject*> backgrounds_;
 };
 

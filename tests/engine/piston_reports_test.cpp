@@ -8,6 +8,7 @@
 
 #include "core/report.h"
 #include "engine/form1.h"
+#include "graph/form8.h"
 #include "tests/support/test_host.h"
 
 namespace veldox {
@@ -131,7 +132,8 @@ class Form1Reports : public testing::Test {
 
   TestHost host_;
   ProgramContext context_{host_};
-  Form1 form_{context_};
+  Form8 grapher_{context_};
+  Form1 form_{context_, grapher_};
 };
 
 TEST_F(Form1Reports, PassTheLimitWith3602LinesAndNotWithMore) {

@@ -55,7 +55,7 @@ TEST_F(RunnerTest, TellsBoxesOptionsAndStates) {
                 "state Form1.Option1(100)\nstate Form1.Command12\nget Form1.Command1\n"),
             "Form1.Check3 = off\nForm1.Check3 = on\nForm1.Option1 = 0\nForm1.Option1 = 7\n"
             "Form1.Option1(7) = on\nForm1.Option1(0) = off\nCubicin Option = 7\n"
-            "Form1.Option1(100) = hidden enabled\nForm1.Command12 = visible disabled\n"
+            "Form1.Option1(100) = hidden enabled\nForm1.Command12 = visible enabled\n"
             "Form1.Command1 = &Engine Size\n");
 }
 

@@ -53,7 +53,7 @@ class Scripts : public testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {
     folder_ = fs::temp_directory_path() / ("veldox-test-" + std::to_string(std::random_device{}()));
-    fs::copy(fs::path(VELDOX_SOURCE_DIR) / "tests/scripts", folder_);
+    fs::copy(fs::path(VELDOX_SOURCE_DIR) / "tests/scripts", folder_, fs::copy_options::recursive);
     fs::copy(fs::path(VELDOX_SOURCE_DIR) / "samples", folder_ / "samples");
   }
   void TearDown() override { fs::remove_all(folder_); }
