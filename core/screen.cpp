@@ -336,6 +336,10 @@ void Screen::Quit() {
 }
 
 void Screen::Hover(Control* control) {
+  ShowHelp(control == nullptr ? std::string{} : control->help());
+}
+
+void Screen::ShowHelp(const std::string& sentence) {
   Control* place = HelpPlace();
   if (place == nullptr) return;
   // A report is not written over by what the pointer passes.
@@ -343,7 +347,6 @@ void Screen::Hover(Control* control) {
       box != nullptr && box->showsReport()) {
     return;
   }
-  const std::string sentence = control == nullptr ? std::string{} : control->help();
   if (place->kind() == ControlKind::Label) {
     place->SetCaption(sentence);
   } else {

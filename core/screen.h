@@ -361,6 +361,8 @@ class Screen {
   virtual Control* HelpPlace() { return nullptr; }
   /// Where reports go, null where the screen has none.
   virtual ReportBox* ReportPane() { return nullptr; }
+  /// The command that closes the screen, null where it has none.
+  virtual Control* QuitCommand() { return Find("subend"); }
   /// What belongs to closing beyond hiding the window.
   virtual void Closed() {}
   /// True while the fields show metric units.
@@ -376,6 +378,8 @@ class Screen {
 
   /// The pointer stands over a control (null: over the background).
   virtual void Hover(Control* control);
+  /// Shows a sentence in the help place, if there is one and no report stands there.
+  void ShowHelp(const std::string& sentence);
 
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.
