@@ -308,6 +308,22 @@ void Screen::SetVisible(bool visible) {
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }
 
+bool Screen::RunInInches(const std::function<void()>& something) {
+  CheckBox& box = *MetricBox();
+  const auto values = std::make_unique<ParameterBlock>(block());
+  std::vector<std::pair<TextControl*, std::string>> texts;
+  for (Control* control : controls_) {
+    if (auto* text = dynamic_cast<TextControl*>(control)) texts.emplace_back(text, text->text());
+  }
+  if (!box.Click()) return false;
+  something();
+  for (auto& [control, text] : texts) control->SetText(std::move(text));
+  SetMetricShown(true);
+  box.SetOn(true);
+  block() = *values;
+  return true;
+}
+
 void Screen::Quit() {
   // An unread number keeps the screen open: its box has told which field holds it.
   if (CheckBox* box = MetricBox(); box != nullptr && box->on() && !box->Click()) return;
@@ -341,7 +357,10 @@ void Screen::ShowHelp(const std::string& sentence) {
 
 bool Screen::Perform(const std::function<void()>& command) {
   for (Control* control : controls_) control->SetMark(Mark::None);
-  if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+  if (MetricBox() != nullptr) {
+    block().MetricSwitch = metricShown_ ? 1 : 0;
+    context_.blockOwner = this;
+  }
   std::feclearexcept(FE_ALL_EXCEPT);
   try {
     command();

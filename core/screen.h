@@ -34,6 +34,9 @@ struct ProgramContext {
   Host& host;
   ParameterBlock block;
   FieldRules rules;
+  /// The screen with a "Metric" box whose values the block holds: the one that ran a
+  /// command last. While it shows metric units, so does the block.
+  Screen* blockOwner = nullptr;
 };
 
 /// Told by a control that something of it has changed, so that a window can follow.
@@ -364,6 +367,11 @@ class Screen {
   virtual void Closed() {}
   /// True while the fields show metric units.
   bool metric() const { return metricShown_; }
+
+  /// Runs something while the shared values are in inches, although this screen, which owns
+  /// them, shows metric units; to the last digit, all is as it was afterwards. False, and
+  /// nothing is run, when the fields cannot be converted (a box has told why).
+  bool RunInInches(const std::function<void()>& something);
 
   /// Closes the screen as its "&Quit" button does.
   void Quit();

@@ -374,8 +374,26 @@ void Shell::Choose(const MenuItem& item) {
   }
 }
 
+void Shell::CopyShared(Screen& screen) {
+  Screen* owner = context().blockOwner;
+  const bool blockIsMetric = owner != nullptr && owner->metric();
+  if (blockIsMetric == screen.metric()) {
+    screen.CopyFromBlock();
+  } else if (blockIsMetric) {
+    // Another screen shows millimetres; this one opens in inches.
+    owner->RunInInches([&] { screen.CopyFromBlock(); });
+  } else {
+    // This screen shows millimetres and the values come from one in inches.
+    const auto values = std::make_unique<ParameterBlock>(block());
+    if (!screen.MetricBox()->Click()) return;
+    block() = *values;
+    screen.CopyFromBlock();
+    screen.MetricBox()->Click();
+  }
+}
+
 void Shell::Open(Screen& screen) {
-  if (block().FormsCleared != 1) screen.CopyFromBlock();
+  if (block().FormsCleared != 1) CopyShared(screen);
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {

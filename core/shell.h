@@ -136,6 +136,7 @@ class Shell : public Screen {
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
+  void CopyShared(Screen& screen);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
 
