@@ -97,7 +97,15 @@ void PainterSurface::DrawLine(SurfacePoint from, SurfacePoint to, const Pen& pen
 void PainterSurface::DrawPolyline(std::span<const SurfacePoint> points, const Pen& pen) {
   polyline_.clear();
   for (const SurfacePoint& point : points) polyline_.append(QPointF(point.x, point.y));
-  painter_.setPen(ToQtPen(pen, pen.width));
+  QPen drawn = ToQtPen(pen, pen.width);
+  if (polyline_.size() == 2 && polyline_.front() == polyline_.back()) {
+    drawn.setStyle(Qt::SolidLine);
+    drawn.setCapStyle(Qt::RoundCap);
+    painter_.setPen(drawn);
+    painter_.drawPoint(polyline_.front());
+    return;
+  }
+  painter_.setPen(drawn);
   // A wide line over many points is filled much faster in pieces. Dashes must run through,
   // and a drawing for a printer stays in one.
   const bool pieces = pixels_ && pen.style == LineStyle::Solid;

@@ -29,7 +29,7 @@ QSize FittingSize(const QWidget& window, QSize wanted) {
   return wanted.boundedTo(room);
 }
 
-QWidget* OrderTabs(const FaceSet& faces) {
+void OrderTabs(const FaceSet& faces) {
   QWidget* last = nullptr;
   for (const Control* control : faces.screen().controls()) {
     const Face* face = faces.Of(*control);
@@ -37,14 +37,10 @@ QWidget* OrderTabs(const FaceSet& faces) {
     if (last != nullptr) QWidget::setTabOrder(last, face->widget());
     last = face->widget();
   }
-  return last;
 }
 
 ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
-    : screen_(screen),
-      faces_(screen),
-      scroll_(new FlowScroll(this)),
-      ownFace_(makeOwnFace(screen, this)) {
+    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
   Control* quit = screen.QuitCommand();
@@ -58,14 +54,16 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);
+  QLayout* foot = BuildFoot(quit);
+  // Made after all controls: the tab key comes to it last.
+  ownFace_ = makeOwnFace(screen, this);
   if (ownFace_ == nullptr) {
     column->addWidget(scroll_, 1);
   } else {
     column->addLayout(BesideOwnFace(), 1);
   }
-  column->addLayout(BuildFoot(quit));
-  QWidget* last = OrderTabs(faces_);
-  if (ownFace_ != nullptr) setTabOrder(last, ownFace_);
+  column->addLayout(foot);
+  OrderTabs(faces_);
   AddPictureKeys(*this, screen);
   SizeToScreen();
 }

@@ -37,7 +37,7 @@ class ScreenWindow : public QWidget {
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
-  QWidget* ownFace_;  ///< null for most screens
+  QWidget* ownFace_ = nullptr;  ///< null for most screens
   QWidget* report_ = nullptr;
   int heightWithoutReport_ = 0;
   std::vector<const QObject*> backgrounds_;
@@ -48,7 +48,6 @@ class ScreenWindow : public QWidget {
 QSize FittingSize(const QWidget& window, QSize wanted);
 
 /// Walks the tab key through the controls in the screen's reading order.
-/// @return the last of them
-QWidget* OrderTabs(const FaceSet& faces);
+void OrderTabs(const FaceSet& faces);
 
 }  // namespace veldox
