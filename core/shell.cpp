@@ -242,7 +242,7 @@ Shell::Shell(ProgramContext& context)
   Frame12.SetVisible(false);
   Frame8.SetVisible(false);
   OptionFrame.SetVisible(false);
-  GraphFrame.SetVisible(false);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(false);
   for (Field* field : {&Text11, &Text12, &Text13, &Text15, &Text16, &Text17, &Text14, &Text18,
                        &Text19, &Text20, &Text21, &Text23}) {
     field->SetIsOption();
@@ -480,14 +480,22 @@ void Shell::DropNotes() {
 
 // ---------------------------------------------------------------- options of graphs
 
+std::vector<Frame*> Shell::GraphOptionFrames() {
+  return {&GraphFrame, &WidthFrame, &GridFrame, &CountFrame, &TextFrame, &SizeFrame, &DoneFrame};
+}
+
+std::vector<std::vector<Frame*>> Shell::Panels() {
+  return {{&Frame12}, {&Frame8}, GraphOptionFrames(), {&OptionFrame}};
+}
+
 void Shell::Graph() {
   ShowGraphOptions();
-  GraphFrame.SetVisible(true);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(true);
   DrawLn.Focus();
 }
 
 void Shell::CloseGraphOptions() {
-  GraphFrame.SetVisible(false);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(false);
   GraphOptionsChanged();
 }
 

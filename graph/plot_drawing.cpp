@@ -1,6 +1,7 @@
 // How a graph that was kept is drawn on a surface.
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -16,9 +17,11 @@ constexpr double kSwatchWidth = 1.6;  ///< length of the legend's sample line in
 constexpr double kLargeLineWidth = 2;
 constexpr double kSwatchLineWidth = 2.5;
 constexpr double kYPointerLines = 1.5;  ///< text lines that the Y caption takes over the frame
-constexpr double kTickLength = 0.4;     ///< of the semi grid, in text heights
-constexpr double kTickGap = 0.4;        ///< between the frame and the labels under it
-constexpr double kBoxSize = 0.25;       ///< half of a plotted box, in text heights
+constexpr double kFaintContrast = 2.2;
+constexpr double kEdgeWidth = 1.4;   ///< added to the width of a faint curve
+constexpr double kTickLength = 0.4;  ///< of the semi grid, in text heights
+constexpr double kTickGap = 0.4;     ///< between the frame and the labels under it
+constexpr double kBoxSize = 0.25;    ///< half of a plotted box, in text heights
 constexpr double kSmallestFrame = 20;
 constexpr double kTitleGrowth = 1.2;
 /// Drawing places beyond this many units say nothing and would only strain a toolkit.
@@ -213,6 +216,32 @@ std::size_t LegendRows(const PlotEngine& engine, double surfaceHeight, double li
 }
 
 /// The names of the curves: over the graph, under it, or in its middle.
+/// The light that a colour gives, 0 to 1.
+double Luminance(Color color) {
+  const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
+  return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+/// How well two colours can be told apart, from 1 for not at all to 21.
+double Contrast(Color a, Color b) {
+  const auto [dark, light] = std::minmax(Luminance(a), Luminance(b));
+  return (light + 0.05) / (dark + 0.05);
+}
+
+Color Halfway(Color a, Color b) {
+  const auto mix = [](int x, int y) { return static_cast<std::uint8_t>((x + y) / 2); };
+  return {mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)};
+}
+
+/// A curve's line. A colour that is hard to see on the background gets a thin edge.
+void CurveLine(const Drawing& d, std::span<const SurfacePoint> places, const Pen& pen) {
+  if (Contrast(pen.color, d.colors.background) < kFaintContrast) {
+    d.surface.DrawPolyline(places, {Halfway(d.colors.background, d.colors.text),
+                                    pen.width + kEdgeWidth, LineStyle::Solid});
+  }
+  d.surface.DrawPolyline(places, pen);
+}
+
 void Legend(const Drawing& d) {
   struct Entry {
     std::string text;
@@ -247,7 +276,7 @@ void Legend(const Drawing& d) {
   if (d.block.CaptionTop == 2) top = d.surface.Height() - height - gap;
   for (const Entry& entry : entries) {
     const double middle = top + d.lineHeight / 2;
-    d.surface.DrawLine({left, middle}, {left + swatch, middle}, entry.pen);
+    CurveLine(d, std::array<SurfacePoint, 2>{{{left, middle}, {left + swatch, middle}}}, entry.pen);
     d.surface.DrawText({left + swatch + gap, top}, entry.text, d.font, d.colors.text,
                        TextAlign::Left);
     top += d.lineHeight;
@@ -271,7 +300,7 @@ void Curves(const Drawing& d) {
                      series.points.begin() + static_cast<std::ptrdiff_t>(to),
                      std::back_inserter(places), map);
       if (places.size() == 1) places.push_back(places.front());  // a dot
-      d.surface.DrawPolyline(places, pen);
+      CurveLine(d, places, pen);
     }
   }
 }

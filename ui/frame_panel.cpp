@@ -1,5 +1,6 @@
 #include "ui/frame_panel.h"
 
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "ui/control_faces.h"
@@ -33,6 +34,34 @@ bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& place
   return std::any_of(frame.controls().begin(), frame.controls().end(), [&](Control* control) {
     return control->kind() != ControlKind::OptionButton && !Contains(placed, control);
   });
+}
+
+std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*>& frames,
+                                        const std::vector<const Control*>& placed, int gap,
+                                        QWidget* parent) {
+  int columns = 1;
+  for (const Frame* frame : frames) columns = std::max(columns, frame->column() + 1);
+  std::vector<QWidget*> built;
+  for (int i = 0; i < columns; ++i) {
+    auto* column = new QWidget(parent);
+    auto* pile = new QVBoxLayout(column);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(gap);
+    std::vector<FramePanel*> panels;
+    int labelWidth = 0;
+    int unitWidth = 0;
+    for (Frame* frame : frames) {
+      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
+      panels.push_back(new FramePanel(faces, *frame, placed, column));
+      faces.Make<FrameFace>(*frame, panels.back());
+      labelWidth = std::max(labelWidth, panels.back()->labelWidth());
+      unitWidth = std::max(unitWidth, panels.back()->unitWidth());
+      pile->addWidget(panels.back());
+    }
+    for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
+    built.push_back(column);
+  }
+  return built;
 }
 
 FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,

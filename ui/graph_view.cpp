@@ -25,6 +25,7 @@ constexpr double kMarkRadius = 4;
 constexpr double kCardGap = 14;  ///< from the pointer to the card
 constexpr double kCardPadding = 7;
 constexpr double kSwatch = 10;
+constexpr double kWidestName = 170;
 constexpr double kColumnGap = 10;
 constexpr int kFarStep = 10;
 
@@ -212,6 +213,7 @@ std::optional<GraphView::ReadOut> GraphView::readOut() const {
   if (!pointer_ || dragged_ >= 0 || !plot.hasAxes() || !frame.contains(*pointer_)) {
     return std::nullopt;
   }
+  const QFontMetricsF metrics(font());
   ReadOut read;
   read.pointer = *pointer_;
   const double x = grapher_.ValueAt({pointer_->x(), pointer_->y()}).x;
@@ -219,12 +221,15 @@ std::optional<GraphView::ReadOut> GraphView::readOut() const {
     const PlotSeriesRecord& series = plot.series()[nearest.series];
     const QPointF mark = PlaceOf(nearest.point, series.range);
     if (frame.contains(mark)) read.marks.push_back(mark);
-    read.rows.push_back({ToQtColor(plot.ShownColor(series)), ToQt(plot.LegendText(series)),
+    const QString legend = ToQt(plot.LegendText(series));
+    // The legend tells the rest; the card must not cover the graph.
+    const bool isLong = metrics.horizontalAdvance(legend) > kWidestName && !series.name.empty();
+    read.rows.push_back({ToQtColor(plot.ShownColor(series)), isLong ? ToQt(series.name) : legend,
                          ToQt(FormatAxisValue(nearest.point.x, grapher_.mark())),
                          ToQt(FormatAxisValue(nearest.point.y, grapher_.mark()))});
   }
   if (read.rows.empty()) return std::nullopt;
-  const CardLayout layout = LayOutCard(read.rows, QFontMetricsF(font()));
+  const CardLayout layout = LayOutCard(read.rows, metrics);
   const auto fitting = static_cast<std::size_t>(
       std::max(2.0, std::floor((height() - 2 * kCardPadding) / layout.line)));
   std::size_t lines = read.rows.size();

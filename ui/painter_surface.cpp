@@ -13,6 +13,9 @@ namespace veldox {
 
 namespace {
 
+/// Lines of a curve that are drawn at once.
+constexpr qsizetype kPiece = 32;
+
 QRectF ToQtRect(const SurfaceRect& rect) {
   return {rect.left, rect.top, rect.width, rect.height};
 }
@@ -95,7 +98,14 @@ void PainterSurface::DrawPolyline(std::span<const SurfacePoint> points, const Pe
   polyline_.clear();
   for (const SurfacePoint& point : points) polyline_.append(QPointF(point.x, point.y));
   painter_.setPen(ToQtPen(pen, pen.width));
-  painter_.drawPolyline(polyline_);
+  // A wide line over many points is filled much faster in pieces. Dashes must run through,
+  // and a drawing for a printer stays in one.
+  const bool pieces = pixels_ && pen.style == LineStyle::Solid;
+  const qsizetype step = pieces ? kPiece : polyline_.size();
+  for (qsizetype i = 0; i == 0 || i + 1 < polyline_.size(); i += step) {
+    const qsizetype count = std::min(step + 1, polyline_.size() - i);
+    painter_.drawPolyline(polyline_.constData() + i, static_cast<int>(count));
+  }
 }
 
 const QFont& PainterSurface::FontOf(double size) const {

@@ -29,7 +29,7 @@ QSize FittingSize(const QWidget& window, QSize wanted) {
   return wanted.boundedTo(room);
 }
 
-void OrderTabs(const FaceSet& faces) {
+QWidget* OrderTabs(const FaceSet& faces) {
   QWidget* last = nullptr;
   for (const Control* control : faces.screen().controls()) {
     const Face* face = faces.Of(*control);
@@ -37,6 +37,7 @@ void OrderTabs(const FaceSet& faces) {
     if (last != nullptr) QWidget::setTabOrder(last, face->widget());
     last = face->widget();
   }
+  return last;
 }
 
 ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
@@ -63,7 +64,8 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
     column->addLayout(BesideOwnFace(), 1);
   }
   column->addLayout(BuildFoot(quit));
-  OrderTabs(faces_);
+  QWidget* last = OrderTabs(faces_);
+  if (ownFace_ != nullptr) setTabOrder(last, ownFace_);
   AddPictureKeys(*this, screen);
   SizeToScreen();
 }
@@ -75,27 +77,9 @@ QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
   setMouseTracking(true);
   installEventFilter(this);
 
-  int columns = 1;
-  for (const Frame* frame : screen_.frames()) columns = std::max(columns, frame->column() + 1);
-  for (int i = 0; i < columns; ++i) {
-    auto* column = new QWidget(body);
+  for (QWidget* column : BuildFrameColumns(faces_, screen_.frames(), placed, kFrameGap, body)) {
     column->setMouseTracking(true);
     column->installEventFilter(this);
-    auto* frames = new QVBoxLayout(column);
-    frames->setContentsMargins(0, 0, 0, 0);
-    frames->setSpacing(kFrameGap);
-    std::vector<FramePanel*> panels;
-    int labelWidth = 0;
-    int unitWidth = 0;
-    for (Frame* frame : screen_.frames()) {
-      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
-      panels.push_back(new FramePanel(faces_, *frame, placed, column));
-      faces_.Make<FrameFace>(*frame, panels.back());
-      labelWidth = std::max(labelWidth, panels.back()->labelWidth());
-      unitWidth = std::max(unitWidth, panels.back()->unitWidth());
-      frames->addWidget(panels.back());
-    }
-    for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
     body->Add(column);
     backgrounds_.push_back(column);
   }

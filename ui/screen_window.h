@@ -48,6 +48,7 @@ class ScreenWindow : public QWidget {
 QSize FittingSize(const QWidget& window, QSize wanted);
 
 /// Walks the tab key through the controls in the screen's reading order.
-void OrderTabs(const FaceSet& faces);
+/// @return the last of them
+QWidget* OrderTabs(const FaceSet& faces);
 
 }  // namespace veldox

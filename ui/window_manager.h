@@ -18,6 +18,7 @@ class WindowManager : public ScreenFace {
   ~WindowManager() override;
 
   MainWindow& main() { return main_; }
+  QtPictures& pictures() { return pictures_; }
   /// The window of a screen, the main form among them; null while it was never opened.
   QWidget* WindowOf(const Screen& screen);
   /// The same; a window that was never opened is built, and stays hidden.
