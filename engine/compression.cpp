@@ -65,13 +65,13 @@ Dish WithFittingRadius(Dish dish) {
   return dish;
 }
 
-double DishCorner(const Dish& dish) {
+double DishBottomCorner(const Dish& dish) {
   const double square = dish.radius * dish.radius;
   return (square - square * kPi / 4) * dish.bore * kPi;
 }
 
 double DishVolume(const Dish& dish) {
-  return DiscVolume(dish.bore, dish.depth) - DishCorner(dish);
+  return DiscVolume(dish.bore, dish.depth) - DishBottomCorner(dish);
 }
 
 Dish DishWithDepthFor(double volume, Dish dish) {
@@ -81,7 +81,7 @@ Dish DishWithDepthFor(double volume, Dish dish) {
   if (dish.depth < dish.radius) dish.depth = dish.radius;
   for (int round = 0; round < kDishRounds; ++round) {
     dish = WithFittingRadius(dish);
-    dish.depth = (volume + DishCorner(dish)) / area;
+    dish.depth = (volume + DishBottomCorner(dish)) / area;
   }
   return dish;
 }
@@ -91,7 +91,7 @@ Dish DishWithBoreFor(double volume, Dish dish) {
   if (dish.radius == 0) return dish;
   dish = WithFittingRadius(dish);
   for (int round = 0; round < kDishRounds; ++round) {
-    dish.bore = DishBoreFor(volume + DishCorner(dish), dish.depth);
+    dish.bore = DishBoreFor(volume + DishBottomCorner(dish), dish.depth);
   }
   return dish;
 }

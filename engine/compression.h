@@ -57,7 +57,7 @@ struct Dish {
 Dish WithFittingRadius(Dish dish);
 
 /// What the fillet takes from the dish with a flat bottom.
-double DishCorner(const Dish& dish);
+double DishBottomCorner(const Dish& dish);
 
 double DishVolume(const Dish& dish);
 

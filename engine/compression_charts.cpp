@@ -19,7 +19,9 @@ void WriteEngine(ReportWriter& report, const CompressionInput& in) {
   report.Add("   Swept / Cylinder Volume = ").Add<"0.0#####">(in.sweptCc).EndLine(LineMark::Bold);
 }
 
-void WriteClearance(ReportWriter& report, const CompressionInput& in) {
+/// The lines over a chart around the calculated ratio.
+void ChartHeader(ReportWriter& report, const CompressionInput& in, double base) {
+  WriteEngine(report, in);
   report.Add("  Combustion Chamber Volume = ").Add<"0.0#####">(in.volumes.chamber);
   report.Add("   Piston Dome (+) / Dish (-) Volume = ").Add<"0.0#####">(in.volumes.dome);
   report.EndLine(LineMark::Bold);
@@ -29,6 +31,8 @@ void WriteClearance(ReportWriter& report, const CompressionInput& in) {
   report.Add("   Head Gasket Bore Size = ").Add<"0.0#####">(in.gasketBore).EndLine(LineMark::Bold);
   report.Add("  Head Gasket cc = ").Add<"0.0#####">(in.volumes.gasket);
   report.Add("   Top Ring Land cc = ").Add<"0.0#####">(in.volumes.ring).EndLine(LineMark::Bold);
+  report.Add("  Using Calculated Base Compression Ratio of ");
+  report.Add<"0.0#####">(base).Add(":1").EndLine(LineMark::Bold);
 }
 
 void WriteHeads(ReportWriter& report, std::initializer_list<std::string_view> heads) {
@@ -104,10 +108,7 @@ std::string NeededChart(RatioChart chart, const CompressionInput& input, Decimal
       FirstChartedRatio(RatioOfVolumes(input.sweptCc, input.volumes.Total())), kLowestChartedRatio);
 
   ReportWriter report(mark);
-  WriteEngine(report, input);
-  WriteClearance(report, input);
-  report.Add("  Using Calculated Base Compression Ratio of ");
-  report.Add<"0.0#####">(first + kBelowBase).Add(":1").EndLine(LineMark::Bold);
+  ChartHeader(report, input, first + kBelowBase);
   switch (chart) {
     case RatioChart::TotalVolume:
       WriteHeads(report, {"                         CR and Total Volume Needed Chart_", "_",

@@ -58,13 +58,14 @@ GraphFrame RatioGraphFrame(RatioGraph graph, const CompressionInput& input,
     frame.range.yLow = RatioOfVolumes(input.sweptCc, sweep.high);
     frame.range.yHigh = RatioOfVolumes(input.sweptCc, sweep.low) + 1;
     frame.xName = "Total Volume";
+    frame.xPointer = "<--- Total Volume";
   } else {
     const double ratio = RatioOfVolumes(input.sweptCc, input.volumes.Total());
     frame.range.yLow = ratio - 6;
     frame.range.yHigh = ratio + 7;
     frame.xName = "Chamber Volume";
+    frame.xPointer = "<--- Chamber Volume";
   }
-  frame.xPointer = "<--- " + frame.xName;
   frame.title = "CR";
   frame.yPointer = "<--- CR";
   return frame;
