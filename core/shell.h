@@ -16,7 +16,7 @@ namespace veldox {
 
 class Shell;
 
-enum class MenuKind { Submenu, Separator, Screen, Action };
+enum class MenuKind { Submenu, Separator, Screen, Action, PrintScreen };
 
 /// One item of the menu tree. The table lists the items in the order of the menus.
 struct MenuItem {
@@ -24,7 +24,7 @@ struct MenuItem {
   std::string_view caption;
   std::string_view parent{};  ///< the submenu it stands in, empty for the bar
   MenuKind kind = MenuKind::Action;
-  std::string_view screen{};  ///< the screen it opens
+  std::string_view screen{};  ///< the screen it opens or prints
   void (Shell::*action)() = nullptr;
 };
 
@@ -114,6 +114,7 @@ class Shell : public Screen {
   void Notes();
   void Clear();
   void Metric();
+  void Printer();
   void Print_CI();
   void ScrRes();
   void Exit();
@@ -132,6 +133,7 @@ class Shell : public Screen {
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
+  void CopyShared(Screen& screen);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
 

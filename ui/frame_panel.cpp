@@ -11,6 +11,9 @@ namespace {
 /// Room beside a command's caption beyond what the style gives.
 constexpr int kCaptionAir = 4;
 constexpr int kMostCommandsInRow = 3;
+/// Proportions of a button that holds a single sign.
+constexpr int kSignWidth = 5;
+constexpr int kSignHeight = 4;
 /// Commands of a frame that holds nothing else may make it this wide.
 constexpr int kCommandFrameWidth = 300;
 
@@ -100,21 +103,45 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   if (commands.empty()) return;
   auto* cells = new QGridLayout;
   cells->setSpacing(6);
-  std::vector<QWidget*> buttons;
-  buttons.reserve(commands.size());
+  // A cell holds a command and, small behind it, those whose caption is a single sign.
+  struct Cell {
+    QPushButton* button;
+    std::vector<QPushButton*> signs;
+  };
+  std::vector<Cell> filled;
+  int width = 0;
   for (Command* command : commands) {
-    buttons.push_back(faces.Make<CommandFace>(*command, this).widget());
+    QPushButton* button = faces.Make<CommandFace>(*command, this).button();
+    if (command->PlainCaption().size() == 1 && !filled.empty()) {
+      button->setFixedWidth(button->sizeHint().height() * kSignWidth / kSignHeight);
+      filled.back().signs.push_back(button);
+    } else {
+      filled.push_back({button, {}});
+    }
+  }
+  for (const Cell& cell : filled) {
+    int wide = cell.button->sizeHint().width() + kCaptionAir;
+    for (const QPushButton* sign : cell.signs) wide += sign->minimumWidth() + cells->spacing();
+    width = std::max(width, wide);
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
-  const int width = Widest(buttons) + kCaptionAir;
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
   const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
-  for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
-    QWidget* button = buttons[static_cast<std::size_t>(i)];
+  for (int i = 0; i < static_cast<int>(filled.size()); ++i) {
+    const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    button->setMinimumWidth(width);
-    cells->addWidget(button, i / columns, i % columns);
+    cell.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    if (cell.signs.empty()) {
+      cell.button->setMinimumWidth(width);
+      cells->addWidget(cell.button, i / columns, i % columns);
+      continue;
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(cells->spacing());
+    row->addWidget(cell.button, 1);
+    for (QPushButton* sign : cell.signs) row->addWidget(sign);
+    cells->addLayout(row, i / columns, i % columns);
+    cells->setColumnMinimumWidth(i % columns, width);
   }
   for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
   const int row = grid_->rowCount();

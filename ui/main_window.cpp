@@ -15,6 +15,7 @@
 #include "ui/qt_text.h"
 #include "ui/screen_window.h"
 #include "ui/title_area.h"
+#include "ui/window_picture.h"
 
 namespace veldox {
 namespace {
@@ -71,6 +72,7 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new M
   column->addWidget(menu_);
   column->addLayout(body);
 
+  AddPictureKeys(*this, shell);
   setMinimumWidth(kNarrowest);
   resize(FittingSize(*this, kPreferredSize));
   const QRect room = screen()->availableGeometry();

@@ -12,6 +12,7 @@
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/qt_text.h"
+#include "ui/window_picture.h"
 
 namespace veldox {
 namespace {
@@ -38,11 +39,14 @@ void OrderTabs(const FaceSet& faces) {
   }
 }
 
-ScreenWindow::ScreenWindow(Screen& screen)
-    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
+ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
+    : screen_(screen),
+      faces_(screen),
+      scroll_(new FlowScroll(this)),
+      ownFace_(makeOwnFace(screen, this)) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
-  Control* quit = screen.Find("subend");
+  Control* quit = screen.QuitCommand();
   std::vector<const Control*> placed;
   for (const Control* control :
        {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()), quit}) {
@@ -53,9 +57,14 @@ ScreenWindow::ScreenWindow(Screen& screen)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);
-  column->addWidget(scroll_, 1);
+  if (ownFace_ == nullptr) {
+    column->addWidget(scroll_, 1);
+  } else {
+    column->addLayout(BesideOwnFace(), 1);
+  }
   column->addLayout(BuildFoot(quit));
   OrderTabs(faces_);
+  AddPictureKeys(*this, screen);
   SizeToScreen();
 }
 
@@ -126,8 +135,31 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   return foot;
 }
 
+QLayout* ScreenWindow::BesideOwnFace() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, kWindowMargin, 0);
+  row->setSpacing(0);
+  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  scroll_->setFixedWidth(scroll_->widget()->sizeHint().width() + bar);
+  row->addWidget(scroll_);
+  auto* face = new QVBoxLayout;
+  face->setContentsMargins(0, kWindowMargin, 0, 0);
+  face->addWidget(ownFace_);
+  row->addLayout(face, 1);
+  return row;
+}
+
 void ScreenWindow::SizeToScreen() {
   const QWidget& body = *scroll_->widget();
+  if (ownFace_ != nullptr) {
+    const QSize face = ownFace_->sizeHint();
+    const int foot = layout()->minimumSize().height() -
+                     std::max(scroll_->minimumSizeHint().height(),
+                              ownFace_->minimumSizeHint().height() + kWindowMargin);
+    const int height = std::max(body.sizeHint().height(), face.height() + kWindowMargin) + foot;
+    resize(FittingSize(*this, {scroll_->width() + face.width() + kWindowMargin, height}));
+    return;
+  }
   const int foot = layout()->minimumSize().height() - scroll_->minimumSizeHint().height();
   const int bar = scroll_->verticalScrollBar()->sizeHint().width();
   const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
