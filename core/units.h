@@ -26,6 +26,12 @@ enum class Unit {
   Degrees,
   Grams,
   RevolutionsPerMinute,
+  CubicCentimetres,
+  CubicInches,
+  Barometer,
+  GaugePressure,
+  Temperature,
+  Percent,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -42,6 +48,12 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Degrees: return "deg";
     case Unit::Grams: return "g";
     case Unit::RevolutionsPerMinute: return "RPM";
+    case Unit::CubicCentimetres: return "cc";
+    case Unit::CubicInches: return "cu in";
+    case Unit::Barometer: return metric ? "mbar" : "in Hg";
+    case Unit::GaugePressure: return metric ? "cm Hg" : "psi";
+    case Unit::Temperature: return metric ? "deg C" : "deg F";
+    case Unit::Percent: return "%";
   }
   return "";
 }

@@ -224,8 +224,9 @@ double Luminance(Color color) {
 
 /// How well two colours can be told apart, from 1 for not at all to 21.
 double Contrast(Color a, Color b) {
-  const auto [dark, light] = std::minmax(Luminance(a), Luminance(b));
-  return (light + 0.05) / (dark + 0.05);
+  const double first = Luminance(a) + 0.05;
+  const double second = Luminance(b) + 0.05;
+  return std::max(first, second) / std::min(first, second);
 }
 
 Color Halfway(Color a, Color b) {

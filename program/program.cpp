@@ -2,6 +2,7 @@
 
 #include "engine/form1.h"
 #include "engine/form1cr.h"
+#include "engine/form12.h"
 
 namespace veldox {
 
@@ -19,6 +20,7 @@ Program::Program(Host& host)
   grapher_ = &AddScreen<Form8>();
   AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
+  AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   about_ = &AddScreen<Form15>();
   shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->ShowGraphOptions(); });
