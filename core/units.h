@@ -19,12 +19,19 @@ enum class Unit {
   Length,
   Area,
   Volume,
+  Cc,  ///< cc in both modes
   PistonSpeed,
   SurfaceSpeed,
   Power,
   Degrees,
   Grams,
   RevolutionsPerMinute,
+  CubicCentimetres,
+  CubicInches,
+  Barometer,
+  GaugePressure,
+  Temperature,
+  Percent,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -34,12 +41,19 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Length: return metric ? "mm" : "in";
     case Unit::Area: return metric ? "sq mm" : "sq in";
     case Unit::Volume: return metric ? "cc" : "cu in";
+    case Unit::Cc: return "cc";
     case Unit::PistonSpeed: return metric ? "m/min" : "ft/min";
     case Unit::SurfaceSpeed: return metric ? "m/s" : "ft/s";
     case Unit::Power: return metric ? "kW" : "HP";
     case Unit::Degrees: return "deg";
     case Unit::Grams: return "g";
     case Unit::RevolutionsPerMinute: return "RPM";
+    case Unit::CubicCentimetres: return "cc";
+    case Unit::CubicInches: return "cu in";
+    case Unit::Barometer: return metric ? "mbar" : "in Hg";
+    case Unit::GaugePressure: return metric ? "cm Hg" : "psi";
+    case Unit::Temperature: return metric ? "deg C" : "deg F";
+    case Unit::Percent: return "%";
   }
   return "";
 }

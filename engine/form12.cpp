@@ -1,0 +1,410 @@
+#include "engine/form12.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace veldox {
+
+namespace {
+
+constexpr double kSmallestStroke = 0.00001;
+constexpr double kCubicMillimetresPerCc = 1000;
+/// Of the exponents, the one nearest to that of cranking.
+constexpr int kUsualExponent = 6;
+
+}  // namespace
+
+Form12::Form12(ProgramContext& context, Grapher& grapher)
+    : Screen(context, "Form12", "Compression Gauge / Octane Requirements", "CompGauge"),
+      grapher_(grapher) {
+  Combo1.SetRows({"1.00", "1.05", "1.10", "1.15", "1.20", "1.25", "1.30", "1.35", "1.40", "1.45",
+                  "1.48", "1.50"});
+  Combo1.Choose(kUsualExponent);
+}
+
+void Form12::CopyFromBlock() {
+  const ParameterBlock& b = block();
+  Text1.SetText(FormatField(b.Bore, mark()));
+  Text3.SetText(FormatField(b.Stroke, mark()));
+  Text4.SetText(FormatField(b.RodLength, mark()));
+  Text17.SetText(FormatField(b.CompressionRatio, mark()));
+  Text36.SetText(FormatField(b.IntakeClose, mark()));
+  Text31.SetText(FormatField(b.Temperature, mark()));
+  Text32.SetText(FormatField(b.Humidity, mark()));
+  Text30.SetText(FormatField(b.BarometricPressure, mark()));
+  Text45.SetText(FormatField(b.DynamicCompressionRatio, mark()));
+  Text22.SetText(FormatField(b.WristPinOffset, mark()));
+  // These two are 0 until this screen or a file has given them.
+  if (b.CrankAngleCG != 0) Text10.SetText(FormatField(b.CrankAngleCG, mark()));
+  const auto& rows = Combo1.rows();
+  const auto row = std::find_if(rows.begin(), rows.end(), [&](const std::string& text) {
+    return ParseNumber(text, DecimalMark::Point) == b.BaseExponent;
+  });
+  if (row != rows.end()) Combo1.Choose(static_cast<int>(row - rows.begin()));
+}
+
+void Form12::ReadCompFields() {
+  ParameterBlock& b = block();
+  ReadInto(b.Bore, Text1);
+  ReadInto(b.Stroke, Text3);
+  ReadInto(b.RodLength, Text4);
+  ReadInto(b.WristPinOffset, Text22);
+  ReadInto(b.CompressionRatio, Text17);
+  ReadInto(b.IntakeClose, Text36);
+  ReadInto(b.DynamicCompressionRatio, Text45);
+  ReadInto(b.CompressionGauge, Text35);
+  ReadInto(b.BarometricPressure, Text30);
+  ReadInto(b.Temperature, Text31);
+  ReadInto(b.Humidity, Text32);
+  ReadInto(dewPoint_, Text34);
+  ReadInto(inletAir_, Text6);
+  ReadInto(water_, Text2);
+  ReadInto(b.CrankAngleCG, Text10);
+  b.BaseExponent =
+      ParseNumber(Combo1.rows().at(static_cast<std::size_t>(Combo1.chosen())), DecimalMark::Point);
+  if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
+}
+
+CylinderSize Form12::Size() const {
+  const ParameterBlock& b = block();
+  return {b.Bore, b.Stroke, b.RodLength, b.WristPinOffset};
+}
+
+void Form12::FailAt(Field& field, std::string message) {
+  // The sentence stands alone in the box, so the field is pointed at here.
+  field.SetMark(Mark::Error);
+  field.Focus();
+  throw CommandError(ErrorKind::InvalidArgument, std::move(message));
+}
+
+void Form12::RequireRod() {
+  const ParameterBlock& b = block();
+  const double reach = b.Stroke / 2 + std::abs(b.WristPinOffset);
+  Field& field = b.WristPinOffset != 0 ? Text22 : Text4;
+  Require(reach < b.RodLength, field,
+          "does not fit this Stroke and Rod Length: the rod cannot follow the crank all the way "
+          "round.");
+}
+
+ClosedCylinder Form12::CylinderGeometry() {
+  const ClosedCylinder cylinder = ClosedCylinderAt(Size(), block().IntakeClose);
+  if (!std::isfinite(cylinder.dynamicStroke) || !std::isfinite(cylinder.actualStroke)) {
+    RequireRod();
+  }
+  RequireResult(Text8, cylinder.dynamicStroke, {&Text4});
+  RequireResult(Text9, cylinder.actualStroke);
+  RequireResult(Text12, cylinder.sweptCc);
+  return cylinder;
+}
+
+ClosedCylinder Form12::ShowCylinderGeometry() {
+  const ClosedCylinder cylinder = CylinderGeometry();
+  Show(Text8, cylinder.dynamicStroke);
+  Show(Text9, cylinder.actualStroke);
+  Show(Text12, CcOf(cylinder.sweptCc));
+  return cylinder;
+}
+
+double Form12::CcOf(double volume) const {
+  return block().MetricSwitch == 1 ? volume * kCubicInchesPerCc / kCubicMillimetresPerCc : volume;
+}
+
+double Form12::FahrenheitShown(double temperature) const {
+  return block().MetricSwitch == 1 ? FahrenheitOf(temperature) : temperature;
+}
+
+VaporPressures Form12::WeatherVapor() const {
+  const ParameterBlock& b = block();
+  const bool metric = b.MetricSwitch == 1;
+  VaporPressures vapor =
+      VaporPressuresAt(metric ? b.Temperature : CelsiusOf(b.Temperature), b.Humidity);
+  if (metric) {
+    vapor.saturated *= kMillibarsPerInchMercury;
+    vapor.actual *= kMillibarsPerInchMercury;
+  }
+  return vapor;
+}
+
+double Form12::GaugeBase(GaugeRule rule) const {
+  const ParameterBlock& b = block();
+  double pressure = b.BarometricPressure;
+  if (rule == GaugeRule::Atmospheric) pressure -= WeatherVapor().actual;
+  if (b.MetricSwitch == 1) {
+    return (pressure / kMillibarsPerInchMercury) * kPsiPerInchMercury * kGaugeUnitsPerPsi;
+  }
+  return pressure * kPsiPerInchMercury;
+}
+
+double Form12::AtmosphereBase(GaugeRule rule) {
+  if (rule == GaugeRule::Atmospheric) {
+    const VaporPressures vapor = WeatherVapor();
+    Show(Text33, vapor.actual);
+    Show(Text37, vapor.saturated);
+  }
+  return GaugeBase(rule);
+}
+
+void Form12::EstimateGauge(GaugeRule rule) {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
+  const double base = AtmosphereBase(rule);
+  const ClosedCylinder cylinder = ShowCylinderGeometry();
+  const double clearance = cylinder.sweptCc / (b.CompressionRatio - 1);
+  const double ratio = (clearance + cylinder.closedCc) / clearance;
+  Store(b.CompressionGauge, Text35, CrankingPressure(ratio, base, rule), {&Text1});
+  Store(b.DynamicCompressionRatio, Text45, ratio);
+  Show(Text46, cylinder.closedCc / cylinder.sweptCc * 100);
+  const double closed = CcOf(cylinder.closedCc);
+  Show(Text7, closed);
+  Show(Text11, closed * kCubicInchesPerCc);
+  EstimateOctane();
+}
+
+void Form12::EstimateOctane() {
+  const ParameterBlock& b = block();
+  const double gauge =
+      b.MetricSwitch == 1 ? b.CompressionGauge / kGaugeUnitsPerPsi : b.CompressionGauge;
+  Show(Text5, EstimatedOctane(gauge, FahrenheitShown(inletAir_), FahrenheitShown(water_)));
+}
+
+void Form12::EstimateRatio(GaugeRule rule) {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  const double base = AtmosphereBase(rule);
+  Require(base > 0, Text30, "must be greater than the Vapor Pressure, and than 0.");
+  const ClosedCylinder cylinder = ShowCylinderGeometry();
+  Store(b.CompressionRatio, Text17,
+        CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
+  EstimateOctane();
+}
+
+void Form12::Command18_Click() {
+  EstimateGauge(GaugeRule::Absolute);
+}
+
+void Form12::Command8_Click() {
+  EstimateGauge(GaugeRule::Atmospheric);
+}
+
+void Form12::Command19_Click() {
+  EstimateRatio(GaugeRule::Absolute);
+}
+
+void Form12::Command9_Click() {
+  EstimateRatio(GaugeRule::Atmospheric);
+}
+
+void Form12::Command7_Click() {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  ClosedCylinder cylinder = CylinderGeometry();
+  if (b.WristPinOffset == 0) cylinder.actualStroke = b.Stroke;
+  Show(Text8, cylinder.dynamicStroke);
+  Store(b.CompressionRatio, Text17,
+        CompressionRatioForDynamicRatio(b.DynamicCompressionRatio, cylinder));
+}
+
+void Form12::Command10_Click() {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  const double offset = OffsetForTopAngle(b.CrankAngleCG, b.Stroke, b.RodLength);
+  RequireResult(Text22, offset);
+  b.WristPinOffset = offset;
+  ShowText(Text22, FormatField11(offset, mark()));
+}
+
+void Form12::ShowIntakeClose(double degrees) {
+  if (degrees >= 1) {
+    ShowAs<"0.0000000">(Text36, degrees);
+  } else {
+    ShowAs<"0.0##">(Text36, degrees);
+  }
+}
+
+void Form12::Command1_Click() {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  if (b.CompressionRatio <= b.DynamicCompressionRatio) {
+    FailAt(Text45, "Comp Ratio is Less Than or Equal to Dynamic CR");
+  }
+  Require(b.DynamicCompressionRatio >= 1, Text45, "must be at least 1 for this command.");
+  Require(b.Bore != 0, Text1, "must not be 0 for this command.");
+  RequireRod();
+  CylinderSize size = Size();
+  // The offset counts in inches here whatever the other lengths are in.
+  if (b.MetricSwitch == 1) size.offset /= kMillimetresPerInch;
+  const double degrees =
+      IntakeCloseForDynamicRatio(size, b.CompressionRatio, b.DynamicCompressionRatio);
+  ShowIntakeClose(degrees);
+  b.IntakeClose = degrees;
+}
+
+void Form12::Command2_Click() {
+  ReadCompFields();
+  ParameterBlock& b = block();
+  const GaugeRule rule = Check2.on() ? GaugeRule::Atmospheric : GaugeRule::Absolute;
+  const double base = GaugeBase(rule);
+  Require(b.Bore != 0, Text1, "must not be 0 for this command.");
+  Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
+  Require(base > 0, Text30, "must be greater than the Vapor Pressure, and than 0.");
+  RequireRod();
+  const std::string shown = Text35.text();
+  const double reading = b.CompressionGauge;
+  double travel = 0;
+  try {
+    travel = TravelForCrankingPressure(Size(), b.CompressionRatio, reading, base, rule);
+  } catch (const CommandError& error) {
+    FailAt(Text35, error.message());
+  }
+  ShowIntakeClose(IntakeCloseForTravel(b.Stroke, b.RodLength, travel));
+  EstimateGauge(rule);
+  ShowText(Text35, shown);
+  Text35.SetMark(Mark::None);
+  b.CompressionGauge = reading;
+}
+
+CrankingGraphInput Form12::ReadGraphInput() {
+  ReadCompFields();
+  const ParameterBlock& b = block();
+  CrankingGraphInput input;
+  input.graph = static_cast<CrankingGraph>(Option1.chosen());
+  Require(b.Bore > 0, Text1, "must be greater than 0 for a graph.");
+  if (input.graph != CrankingGraph::CompressionRatio &&
+      input.graph != CrankingGraph::RatioOverClosing) {
+    Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for a graph.");
+  }
+  RequireRod();
+  input.metric = b.MetricSwitch == 1;
+  input.size = Size();
+  input.compressionRatio = b.CompressionRatio;
+  input.intakeClose = b.IntakeClose;
+  input.dynamicRatio = b.DynamicCompressionRatio;
+  input.gauge = b.CompressionGauge;
+  const double millibars = input.metric ? kMillibarsPerInchMercury : 1;
+  input.barometer = b.BarometricPressure / millibars;
+  input.vapor = WeatherVapor().actual / millibars;
+  input.temperature = b.Temperature;
+  input.humidity = b.Humidity;
+  input.inletAir = FahrenheitShown(inletAir_);
+  input.water = FahrenheitShown(water_);
+  input.startDegrees = b.CrankAngleCG;
+  input.exponent = b.BaseExponent;
+  if (Check2.on()) input.rule = GaugeRule::Atmospheric;
+  if (IsOverClosing(input.graph)) {
+    Require(b.IntakeClose >= kEarliestGraphedClosing && b.IntakeClose <= kLatestGraphedClosing,
+            Text36, "must be from 0 to 170 for this graph.");
+  }
+  if (IsOverCrankAngle(input.graph)) {
+    Require(b.CompressionGauge > 0, Text35, "must be greater than 0 for this graph.");
+    Require(b.CrankAngleCG >= 0 && b.CrankAngleCG < 180, Text10,
+            "must be from 0 up to below 180 for this graph.");
+    Require(b.CrankAngleCG > 0 || input.graph != CrankingGraph::ConstantTurningForce, Text10,
+            "must be greater than 0 for this graph: at the top no pressure turns the crank.");
+  } else if (input.graph != CrankingGraph::DynamicRatio &&
+             input.graph != CrankingGraph::CompressionRatio) {
+    Require(GaugeBase(input.rule) > 0, Text30,
+            "must be greater than the Vapor Pressure, and than 0.");
+  }
+  if (Check3.on() && HasHighValue(input.graph)) {
+    const double high = Read(Text13);
+    Require(high > 0, Text13, "must be greater than 0 for this graph.");
+    input.highValue = high;
+  }
+  return input;
+}
+
+void Form12::GraphCranking(bool first) {
+  const CrankingGraphInput input = ReadGraphInput();
+  const bool adds = !first && grapher_.HasGraph();
+  std::optional<AxisRange> range;
+  if (adds && input.graph == graphed_ && grapher_.plot().Caption(kTitleCaption) == graphedTitle_) {
+    range = grapher_.plot().scale();
+  }
+  const std::optional<CrankingPlot> plot = PlotCranking(input, mark(), range);
+  if (!plot) {
+    if (input.graph == CrankingGraph::ClosingOverInchesMercury) {
+      FailAt(Text35,
+             "No closing angle of the intake valve gives this Compression Gauge reading "
+             "at the pressures of this graph.");
+    }
+    Require(!input.highValue, Text13, "leaves no point of this graph on its axes.");
+    Require(false, Text10, "leaves no point of this graph on its axes.");
+  }
+  if (adds) {
+    grapher_.AddToGraph({&plot->curve, 1});
+  } else {
+    grapher_.DrawGraph(plot->frame, {&plot->curve, 1});
+    graphed_ = input.graph;
+    graphedTitle_ = plot->frame.title;
+  }
+  grapher_.ShowGraph();
+}
+
+void Form12::Command6_Click() {
+  GraphCranking(true);
+}
+
+void Form12::Command5_Click() {
+  GraphCranking(false);
+}
+
+void Form12::Check1_Click() {
+  ReadCompFields();
+  const bool toMetric = block().MetricSwitch != 1;
+  ConvertCompFields(toMetric);
+  SetMetricShown(toMetric);
+}
+
+void Form12::ConvertCompFields(bool toMetric) {
+  ParameterBlock& b = block();
+  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
+  // A conversion that fails half way would leave both units side by side, so every new value
+  // is worked out before the first is stored.
+  struct Converted {
+    Field* field;
+    double* slot;
+    double value;
+    bool eleven;
+  };
+  std::vector<Converted> converted;
+  const auto convert = [&](Field& field, double* slot, double value, bool eleven = false) {
+    RequireResult(field, value);
+    converted.push_back({&field, slot, value, eleven});
+  };
+  const auto result = [&](Field& field, double by) {
+    if (IsNumber(field.text(), mark())) convert(field, nullptr, Read(field) * by);
+  };
+  convert(Text1, &b.Bore, b.Bore * factor);
+  convert(Text3, &b.Stroke, b.Stroke * factor);
+  convert(Text4, &b.RodLength, b.RodLength * factor);
+  convert(Text22, &b.WristPinOffset, b.WristPinOffset * factor, true);
+  result(Text8, factor);
+  result(Text9, factor);
+  const double barometer = toMetric ? kMillibarsPerInchMercury : 1 / kMillibarsPerInchMercury;
+  convert(Text30, &b.BarometricPressure, b.BarometricPressure * barometer);
+  result(Text33, barometer);
+  result(Text37, barometer);
+  const double gauge = toMetric ? kGaugeUnitsPerPsi : 1 / kGaugeUnitsPerPsi;
+  convert(Text35, &b.CompressionGauge, b.CompressionGauge * gauge);
+  const auto temperature = [&](Field& field, double& slot) {
+    convert(field, &slot, toMetric ? CelsiusOf(slot) : FahrenheitOf(slot));
+  };
+  temperature(Text31, b.Temperature);
+  temperature(Text34, dewPoint_);
+  temperature(Text6, inletAir_);
+  temperature(Text2, water_);
+
+  b.MetricSwitch = toMetric ? 1 : 0;
+  b.MetricFactor = factor;
+  for (const Converted& c : converted) {
+    if (c.slot != nullptr) *c.slot = c.value;
+    ShowText(*c.field, c.eleven ? FormatField11(c.value, mark()) : FormatField(c.value, mark()));
+  }
+}
+
+}  // namespace veldox

@@ -1,0 +1,256 @@
+#pragma once
+
+#include <string>
+
+#include "core/screen.h"
+#include "engine/cranking_graphs.h"
+#include "engine/cranking_pressure.h"
+#include "graph/grapher.h"
+
+namespace veldox {
+
+/// Compression gauge and octane: what a gauge, the intake valve's closing angle and the weather
+/// tell of the compression ratio, and graphs of the pressure in the cylinder.
+class Form12 : public Screen {
+ public:
+  /// @param grapher  where the graphs appear
+  Form12(ProgramContext& context, Grapher& grapher);
+
+  void CopyFromBlock() override;
+  CheckBox* MetricBox() override { return &Check1; }
+  Control* HelpPlace() override { return &Text38; }
+  ReportBox* ReportPane() override { return &Text38; }
+
+ private:
+  void Command18_Click();
+  void Command8_Click();
+  void Command19_Click();
+  void Command9_Click();
+  void Command7_Click();
+  void Command10_Click();
+  void Command1_Click();
+  void Command2_Click();
+  void Command6_Click();
+  void Command5_Click();
+  void Check1_Click();
+
+  void ReadCompFields();
+  void ConvertCompFields(bool toMetric);
+  void EstimateGauge(GaugeRule rule);
+  void EstimateRatio(GaugeRule rule);
+  void EstimateOctane();
+  CylinderSize Size() const;
+  /// The cylinder at closing, with a finite answer. @throws CommandError that names the field
+  ClosedCylinder CylinderGeometry();
+  /// The same with its strokes and swept volume shown.
+  ClosedCylinder ShowCylinderGeometry();
+  VaporPressures WeatherVapor() const;
+  /// Shows the vapor pressures where the rule needs them. @return GaugeBase
+  double AtmosphereBase(GaugeRule rule);
+  double GaugeBase(GaugeRule rule) const;
+  /// Ends a command for a rod that cannot follow the crank. @throws CommandError
+  void RequireRod();
+  /// A volume in the unit of the formulas in cc.
+  double CcOf(double volume) const;
+  double FahrenheitShown(double temperature) const;
+  void ShowIntakeClose(double degrees);
+  /// Ends a command with a sentence of its own that points at a field. @throws CommandError
+  [[noreturn]] static void FailAt(Field& field, std::string message);
+
+  CrankingGraphInput ReadGraphInput();
+  void GraphCranking(bool first);
+
+  Grapher& grapher_;
+  // What the grapher was last given, so that a further curve can keep to its axis.
+  CrankingGraph graphed_ = CrankingGraph::DynamicRatio;
+  std::string graphedTitle_;
+  // Temperatures that no other screen shares, as shown.
+  double dewPoint_ = 0;
+  double inletAir_ = 0;
+  double water_ = 0;
+
+ public:
+  Frame Frame1{*this, "Frame1", "Engine", 0};
+  Field Text1{Frame1, "Text1", "Bore", "4.000", KeyRule::UnsignedReal, Unit::Length};
+  Field Text3{Frame1, "Text3", "Stroke", "3.25", KeyRule::UnsignedReal, Unit::Length};
+  Field Text4{Frame1, "Text4", "Rod Length", "5.7", KeyRule::UnsignedReal, Unit::Length};
+  Field Text22{Frame1, "Text22", "Wrist Pin Offset", "0.0", KeyRule::SignedReal, Unit::Length};
+  Field Text17{Frame1, "Text17", "Comp Ratio", "13.5", KeyRule::UnsignedReal};
+  CheckBox Check1{Frame1, "Check1", "Metric",
+                  "Show and enter lengths in millimetres, the barometer in millibars, the "
+                  "compression gauge in centimetres of mercury and temperatures in Celsius.",
+                  &Form12::Check1_Click};
+
+  Frame Frame2{*this, "Frame2", "Intake Closing", 0};
+  Field Text36{Frame2, "Text36", "Intake Closes ABDC", "95.5", KeyRule::SignedReal, Unit::Degrees};
+  Field Text45{Frame2, "Text45", "Dynamic CR", "7.432", KeyRule::UnsignedReal};
+  Field Text46{
+      Frame2,       "Text46", "% Cylinder Vol @ Intake Closing", "52.123", KeyRule::OutputOnly,
+      Unit::Percent};
+  CheckBox Check2{Frame2, "Check2", "IC PSI - DOS",
+                  "Intake Close PSI reads the Compression Gauge as the DOS version does."};
+  Command Command7{Frame2, "Command7", "DCR -> Comp &Ratio",
+                   "Calculate Compression Ratio from Dynamic Compression Ratio, Stroke, Rod "
+                   "Length, Wrist Pin Offset, and Intake Valve Closing Degrees.",
+                   &Form12::Command7_Click};
+  Command Command1{Frame2, "Command1", "Intake Close DCR",
+                   "Calculate Intake Valve Close ABDC using Bore, Stroke, Rod Length, Comp Ratio, "
+                   "Dynamic CR and Wrist Pin Offset.",
+                   &Form12::Command1_Click};
+  Command Command2{Frame2, "Command2", "Intake Close PSI",
+                   "Calculate Intake Valve Close ABDC using Bore, Stroke, Rod Length, Comp Ratio, "
+                   "Barometric Pressure, Temperature, Humidity and Compression Gauge Reading.",
+                   &Form12::Command2_Click};
+
+  Frame Frame3{*this, "Frame3", "Compression Gauge", 1};
+  Field Text35{
+      Frame3, "Text35", "Compression Gauge", "165.5", KeyRule::UnsignedReal, Unit::GaugePressure};
+  Command Command18{Frame3, "Command18", "Compress &Gauge",
+                    "Estimate the Compression Gauge from the Compression Ratio, Cylinder Size, Rod "
+                    "Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin Offset, and "
+                    "Temperature.",
+                    &Form12::Command18_Click};
+  Command Command8{Frame3, "Command8", "Comp G&auge DOS",
+                   "Estimate the Compression Gauge (Same as DOS Version) from the Compression "
+                   "Ratio, Cylinder Size, Rod Length, Intake Closing Cam Timing, Barometric "
+                   "Pressure, Temperature, Wrist Pin Offset, and Humidity.",
+                   &Form12::Command8_Click};
+  Command Command19{Frame3, "Command19", "CR Comp Ga&uge",
+                    "Estimate the Compression Ratio from the Compression Gauge Reading, Cylinder "
+                    "Size, Rod Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin "
+                    "Offset, and Temperature.",
+                    &Form12::Command19_Click};
+  Command Command9{Frame3, "Command9", "&CR Comp Ga DOS",
+                   "Estimate the Compression Ratio (Same as DOS Version) from the Compression "
+                   "Gauge Reading, Cylinder Size, Rod Length, Intake Closing Cam Timing, "
+                   "Barometric Pressure, Temperature, Wrist Pin Offset, and Humidity.",
+                   &Form12::Command9_Click};
+
+  Frame Frame4{*this, "Frame4", "Weather", 1};
+  Field Text30{Frame4,         "Text30", "Barometric Pressure", "29.92", KeyRule::UnsignedReal,
+               Unit::Barometer};
+  Field Text31{Frame4, "Text31", "Temperature", "80", KeyRule::SignedReal, Unit::Temperature};
+  Field Text32{Frame4, "Text32", "Humidity", "5.0", KeyRule::UnsignedReal, Unit::Percent};
+  Field Text34{Frame4, "Text34", "Dew Point", "55.0", KeyRule::SignedReal, Unit::Temperature};
+  Field Text33{Frame4, "Text33", "Vapor Pressure", "0.563", KeyRule::OutputOnly, Unit::Barometer};
+  Field Text37{Frame4,         "Text37", "Sat Vapor Pressure", "1.03028", KeyRule::OutputOnly,
+               Unit::Barometer};
+
+  Frame Frame5{*this, "Frame5", "Octane", 1};
+  Field Text6{
+      Frame5,           "Text6", "Running Inlet Air Temperature", "120", KeyRule::SignedReal,
+      Unit::Temperature};
+  Field Text2{Frame5, "Text2", "Water Temperature", "170", KeyRule::SignedReal, Unit::Temperature};
+  Field Text5{Frame5, "Text5", "Est. Octane Needed Iron Heads", "96.16", KeyRule::OutputOnly};
+
+  Frame Frame6{*this, "Frame6", "Strokes and Volumes", 2};
+  Field Text8{Frame6, "Text8", "Dynamic Stroke", "1.7036", KeyRule::OutputOnly, Unit::Length};
+  Field Text9{Frame6, "Text9", "Actual Piston Stroke", "3.25", KeyRule::OutputOnly, Unit::Length};
+  Field Text12{Frame6,
+               "Text12",
+               "Swept / Cylinder Volume",
+               "669.259",
+               KeyRule::OutputOnly,
+               Unit::CubicCentimetres};
+  Field Text7{Frame6,
+              "Text7",
+              "Cylinder Vol @ Intake Close cc's",
+              "350.8098",
+              KeyRule::OutputOnly,
+              Unit::CubicCentimetres};
+  Field Text11{
+      Frame6,           "Text11", "Cylinder Vol @ Intake Close ci", "21.40772", KeyRule::OutputOnly,
+      Unit::CubicInches};
+
+  Frame Frame7{*this, "Frame7", "Crank Angle", 2};
+  Field Text10{Frame7, "Text10", "Crank Angle", "10", KeyRule::SignedReal, Unit::Degrees};
+  ComboList Combo1{Frame7, "Combo1", "k Exponent"};
+  Command Command10{Frame7, "Command10", "Offset Needed",
+                    "Calculate amount of offset required for crank angle, to have the piston to be "
+                    "at TDC. Using Crank Angle, Rod Length, and Stroke.",
+                    &Form12::Command10_Click};
+
+  Frame Frame8{*this, "Frame8", "Graphs", 3};
+  OptionGroup Option1{
+      Frame8,
+      "Option1",
+      "Graph",
+      {{0, "DCR",
+        "Graph change in DCR (Dynamic Compression Ratio) for change in Intake Valve Closing. Using "
+        "Bore, Rod Length, Stroke, Compression Ratio and Wrist Pin Offset."},
+       {1, "CR",
+        "Graph change in CR (Compression Ratio) for change in Intake Valve Closing. Using Bore, "
+        "Rod Length, Stroke, Dynamic Compression Ratio and Wrist Pin Offset."},
+       {2, "CGP/Cam",
+        "Graph change in Cranking Compression Pressure for change in Intake Valve Closing. Using "
+        "Barometric Pressure, Bore, Rod Length, Stroke, Compression Ratio and Wrist Pin Offset."},
+       {3, "CGP/BP (PSI)",
+        "Graph change in Cranking Compression Pressure for change in Barometric Pressure (PSI) "
+        "with a fixed Intake Valve Closing. Using Bore, Rod Length, Stroke, Compression Ratio and "
+        "Wrist Pin Offset."},
+       {4, "CGP/BP (In Hg)",
+        "Graph change in Cranking Compression Pressure for change in Barometric Pressure (In Hg) "
+        "with a fixed Intake Valve Closing. Using Bore, Rod Length, Stroke, Compression Ratio and "
+        "Wrist Pin Offset."},
+       {5, "IVC/BP (In Hg)",
+        "Graph change in Intake Valve Closing for change in Barometric Pressure (In Hg) with a "
+        "fixed Cranking Compression Pressure. Using Bore, Rod Length, Stroke, Compression Ratio "
+        "and Wrist Pin Offset."},
+       {6, "IVC/CR CGP",
+        "Graph Intake Valve Closing and CR for with a fixed Cranking Compression Pressure. Using "
+        "Bore, Rod Length, Stroke, Barometric Pressure (In Hg), Wrist Pin Offset, and Cranking "
+        "Compression Compression."},
+       {7, "CGP",
+        "Graph change in Cranking Compression Pressure against change in Intake Valve Closing with "
+        "a fixed Compression Ratio. Using Bore, Rod Length, Stroke, Barometric Pressure (In Hg), "
+        "Compression Ratio, and Wrist Pin Offset."},
+       {8, "Cylinder Pressure",
+        "Graph change in Cylinder Pressure against Crank Rotational Angle Using Bore, Rod Length, "
+        "Stroke, Compression Ratio, Crank Angle (Degrees ATDC of Max Cylinder Pressure), "
+        "Compression Gauge (Max Cylinder Pressure), Wrist Pin Offset and k exponent."},
+       {9, "Piston Pressure",
+        "Graph change in Piston Pressure against Crank Rotational Angle Using Bore, Rod Length, "
+        "Stroke, Compression Ratio, Crank Angle (Degrees ATDC of Max Cylinder Pressure), "
+        "Compression Gauge (Max Cylinder Pressure) and Wrist Pin Offset."},
+       {10, "Turning Force",
+        "Graph Turning Force against Crank Rotational Angle Using Bore, Rod Length, Stroke, "
+        "Compression Ratio, Crank Angle (Degrees ATDC of Max Cylinder Pressure), Compression Gauge "
+        "(Max Cylinder Pressure) and Wrist Pin Offset."},
+       {11, "CGP VE",
+        "Graph change in Cylinder Pressure against change in Volumetric Efficiency. Using Bore, "
+        "Rod Length, Stroke, Compression Ratio, Barometric Pressure (In Hg)."},
+       {12, "Turning Force 4.3.1",
+        "Graph Turning Force against Crank Rotational Angle Using Bore, Rod Length, Stroke, "
+        "Compression Ratio, Crank Angle (Degrees ATDC of Max Cylinder Pressure), Compression Gauge "
+        "(Max Cylinder Pressure) and Wrist Pin Offset."},
+       {13, "Constant T Force",
+        "Graph Cylinder Pressure Needed against Crank Rotational Angle to Produce the USER Entered "
+        "Turning Force. Using Bore, Rod Length, Stroke, Compression Ratio, Crank Angle (Degrees "
+        "ATDC of Max Cylinder Pressure), Compression Gauge (Max Cylinder Pressure), Wrist Pin "
+        "Offset and k exponent."},
+       {14, "Octane Req.",
+        "NOTE: This is only an approximation and not an absolute, as there are too many other "
+        "factors not include.\r\nGraph change in Octane Requirement for change in Intake Valve "
+        "Closing. Using Barometric Pressure, Bore, Rod Length, Stroke, Compression Ratio, Wrist "
+        "Pin Offset, Running Inlet Air Temp, and Water Temp."}},
+      0,
+      2};
+  Field Text13{Frame8, "Text13", "High Axis Value", "74.32", KeyRule::UnsignedReal};
+  CheckBox Check3{
+      Frame8, "Check3", "Use PSI / Hg Limit [CR]",
+      "4.7.2 - The Program will use the User Entered CR As the Y-Axis High Value for the IVC/CR "
+      "CGP Graph.\r\nIf Checked the Program will use the User Entered BP In Hg As X-Axis High "
+      "Value."};
+  Command Command6{Frame8, "Command6", "Graph First",
+                   "Graph First based on selected option, this clears and starts a new Graph.",
+                   &Form12::Command6_Click};
+  Command Command5{Frame8, "Command5", "Graph +1",
+                   "Graph Second or more based on selected option, this adds to an existing Graph.",
+                   &Form12::Command5_Click};
+
+  Frame HelpFrame{*this, "HelpFrame", ""};
+  ReportBox Text38{HelpFrame, "Text38"};
+  Command subend{HelpFrame, "subend", "&Quit", "Close this screen.", &Screen::Quit};
+};
+
+}  // namespace veldox
