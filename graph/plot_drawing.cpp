@@ -1,7 +1,6 @@
 // How a graph that was kept is drawn on a surface.
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -17,11 +16,11 @@ constexpr double kSwatchWidth = 1.6;  ///< length of the legend's sample line in
 constexpr double kLargeLineWidth = 2;
 constexpr double kSwatchLineWidth = 2.5;
 constexpr double kYPointerLines = 1.5;  ///< text lines that the Y caption takes over the frame
-constexpr double kFaintContrast = 2.2;
-constexpr double kEdgeWidth = 1.4;   ///< added to the width of a faint curve
-constexpr double kTickLength = 0.4;  ///< of the semi grid, in text heights
-constexpr double kTickGap = 0.4;     ///< between the frame and the labels under it
-constexpr double kBoxSize = 0.25;    ///< half of a plotted box, in text heights
+constexpr double kFaintContrast = 2.6;  ///< below it a curve gets an edge
+constexpr double kEdgeWidth = 1.4;      ///< added to the width of a faint curve
+constexpr double kTickLength = 0.4;     ///< of the semi grid, in text heights
+constexpr double kTickGap = 0.4;        ///< between the frame and the labels under it
+constexpr double kBoxSize = 0.25;       ///< half of a plotted box, in text heights
 constexpr double kSmallestFrame = 20;
 constexpr double kTitleGrowth = 1.2;
 /// Drawing places beyond this many units say nothing and would only strain a toolkit.
@@ -234,13 +233,10 @@ Color Halfway(Color a, Color b) {
   return {mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)};
 }
 
-/// A curve's line. A colour that is hard to see on the background gets a thin edge.
-void CurveLine(const Drawing& d, std::span<const SurfacePoint> places, const Pen& pen) {
-  if (Contrast(pen.color, d.colors.background) < kFaintContrast) {
-    d.surface.DrawPolyline(places, {Halfway(d.colors.background, d.colors.text),
-                                    pen.width + kEdgeWidth, LineStyle::Solid});
-  }
-  d.surface.DrawPolyline(places, pen);
+/// The edge of a curve whose colour is hard to see on the background.
+std::optional<Pen> EdgeOf(const Drawing& d, const Pen& pen) {
+  if (Contrast(pen.color, d.colors.background) >= kFaintContrast) return std::nullopt;
+  return Pen{Halfway(d.colors.background, d.colors.text), pen.width + kEdgeWidth, LineStyle::Solid};
 }
 
 void Legend(const Drawing& d) {
@@ -277,7 +273,10 @@ void Legend(const Drawing& d) {
   if (d.block.CaptionTop == 2) top = d.surface.Height() - height - gap;
   for (const Entry& entry : entries) {
     const double middle = top + d.lineHeight / 2;
-    CurveLine(d, std::array<SurfacePoint, 2>{{{left, middle}, {left + swatch, middle}}}, entry.pen);
+    const SurfacePoint from{left, middle};
+    const SurfacePoint to{left + swatch, middle};
+    if (const auto edge = EdgeOf(d, entry.pen)) d.surface.DrawLine(from, to, *edge);
+    d.surface.DrawLine(from, to, entry.pen);
     d.surface.DrawText({left + swatch + gap, top}, entry.text, d.font, d.colors.text,
                        TextAlign::Left);
     top += d.lineHeight;
@@ -291,6 +290,7 @@ void Curves(const Drawing& d) {
     const FrameMapping map(d.frame, series.range);
     Pen pen = series.pen;
     pen.color = d.engine.ShownColor(series);
+    const std::optional<Pen> edge = EdgeOf(d, pen);
     for (std::size_t i = 0; i < series.starts.size(); ++i) {
       const std::size_t from = series.starts[i];
       const std::size_t to =
@@ -301,7 +301,8 @@ void Curves(const Drawing& d) {
                      series.points.begin() + static_cast<std::ptrdiff_t>(to),
                      std::back_inserter(places), map);
       if (places.size() == 1) places.push_back(places.front());  // a dot
-      CurveLine(d, places, pen);
+      if (edge) d.surface.DrawPolyline(places, *edge);
+      d.surface.DrawPolyline(places, pen);
     }
   }
 }

@@ -1,7 +1,7 @@
 #include "ui/graph_view.h"
 
-#include <QFontDatabase>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -73,7 +73,7 @@ QRectF PlaceCard(QSizeF card, const QRectF& room, QPointF pointer,
                  const std::vector<QPointF>& marks) {
   const QSizeF size = card.boundedTo(room.size());
   const double lefts[] = {pointer.x() + kCardGap, pointer.x() - kCardGap - size.width(),
-                          room.right() - size.width(), room.left(), pointer.x() - size.width() / 2};
+                          room.right() - size.width(), room.left()};
   const double tops[] = {pointer.y() + kCardGap, pointer.y() - kCardGap - size.height(),
                          pointer.y() - size.height() / 2, room.top(),
                          room.bottom() - size.height()};
@@ -139,6 +139,7 @@ void GraphView::GraphChanged() {
     askedSize_ = asked;
     updateGeometry();
     QWidget* top = window();
+    if (QLayout* rows = top->layout()) rows->activate();
     if (!top->isMaximized()) top->resize(FittingSize(*top, top->size() + sizeHint() - size()));
   }
   update();

@@ -323,6 +323,29 @@ TEST_F(PlotEngineTest, ARedrawAtAnotherSizeIsTheSameGraph) {
   }
 }
 
+TEST_F(PlotEngineTest, AFaintCurveGetsAnEdgeAndKeepsItsColor) {
+  plot_.SetScale({0, 10, 0, 10});
+  const std::vector<GraphPoint> points{{0, 0}, {10, 10}};
+  PlotTheme dark;
+  dark.background = {20, 24, 28};
+  dark.text = {230, 230, 230};
+  for (const auto& [word, onWhite, onDark] : {std::tuple{"cyan", 2U, 1U}, {"blue", 1U, 2U}}) {
+    plot_.ClearDrawing();
+    plot_.CurveInColor(*ColorByName(word));
+    for (const GraphPoint& point : points) plot_.PlotLine(point.x, point.y);
+    RecordingSurface white(400, 400);
+    plot_.DrawOn(white, {});
+    EXPECT_EQ(white.polylines.size(), onWhite) << word;
+    RecordingSurface black(400, 400);
+    plot_.DrawOn(black, dark);
+    ASSERT_EQ(black.polylines.size(), onDark) << word;
+    EXPECT_EQ(black.polylines.back().pen.color, ColorByName(word)->color);
+    if (onDark == 2) {
+      EXPECT_GT(black.polylines.front().pen.width, black.polylines.back().pen.width);
+    }
+  }
+}
+
 TEST_F(PlotEngineTest, ManyNamesLeaveTheGraphItsRoom) {
   plot_.SetScale({0, 10, 0, 10});
   plot_.DrawAxes();
