@@ -67,6 +67,26 @@ struct PictureResult {
   int error = 0;  ///< the encoder's number of what failed, 0 for nothing
 };
 
+/// Makes pictures of windows and of the graph. There is one while windows are shown.
+class PictureMaker {
+ public:
+  PictureMaker() = default;
+  PictureMaker(const PictureMaker&) = delete;
+  PictureMaker& operator=(const PictureMaker&) = delete;
+  virtual ~PictureMaker() = default;
+
+  /// A picture as the bytes of its file.
+  virtual PictureResult EncodePicture(const PictureRequest& request) = 0;
+  /// The size of a picture from the bytes of its file.
+  /// @throws CommandError (File) when they are no picture
+  virtual ScreenSize MeasurePicture(const std::string& bytes) = 0;
+  /// Puts a picture on the clipboard. @throws CommandError (File)
+  virtual void CopyPicture(const PictureRequest& request) = 0;
+  /// Prints a picture on a page of the printer that the user chooses.
+  /// @throws CommandError (File, Cancelled)
+  virtual void PrintPicture(const PictureRequest& request) = 0;
+};
+
 /// A moment of the local clock.
 struct ClockTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
@@ -103,33 +123,59 @@ class Host {
   /// Shows or ends the hourglass.
   virtual void SetBusy(bool busy) = 0;
 
-  // Pictures need a toolkit. A host without one refuses them.
+  // Pictures need windows. Without them they are refused.
 
+  /// Who makes the pictures; null when the windows have gone.
+  void SetPictureMaker(PictureMaker* maker) { pictures_ = maker; }
   /// A picture as the bytes of its file. @throws CommandError (File)
   virtual PictureResult EncodePicture(const PictureRequest& request);
   /// The size of a picture from the bytes of its file.
   /// @throws CommandError (File) when they are no picture
   virtual ScreenSize MeasurePicture(const std::string& bytes);
-  /// Prints the grapher's surface. @throws CommandError (File, Cancelled)
-  virtual void PrintGraph();
   /// Puts the picture on the clipboard. @throws CommandError (File)
   virtual void CopyPicture(const PictureRequest& request);
+  /// Prints the grapher's surface. @throws CommandError (File, Cancelled)
+  virtual void PrintGraph();
+  /// Prints a screen's window as it shows. @param screen  its form name
+  /// @throws CommandError (File, Cancelled)
+  virtual void PrintWindow(const std::string& screen);
+  /// Lets the user choose printer, paper and orientation.
+  /// @throws CommandError (File, Cancelled)
+  virtual void SetUpPrinter();
+
+ protected:
+  /// @throws CommandError (File) with the message where no pictures can be made
+  PictureMaker& Pictures(const char* message) const {
+    if (pictures_ == nullptr) throw CommandError(ErrorKind::File, message);
+    return *pictures_;
+  }
+
+ private:
+  PictureMaker* pictures_ = nullptr;
 };
 
-inline PictureResult Host::EncodePicture(const PictureRequest& /*request*/) {
-  throw CommandError(ErrorKind::File, "Pictures can be made only while windows are shown.");
+inline PictureResult Host::EncodePicture(const PictureRequest& request) {
+  return Pictures("Pictures can be made only while windows are shown.").EncodePicture(request);
 }
 
-inline ScreenSize Host::MeasurePicture(const std::string& /*bytes*/) {
-  throw CommandError(ErrorKind::File, "Pictures can be read only while windows are shown.");
+inline ScreenSize Host::MeasurePicture(const std::string& bytes) {
+  return Pictures("Pictures can be read only while windows are shown.").MeasurePicture(bytes);
+}
+
+inline void Host::CopyPicture(const PictureRequest& request) {
+  Pictures("There is no clipboard without windows.").CopyPicture(request);
 }
 
 inline void Host::PrintGraph() {
-  throw CommandError(ErrorKind::File, "A graph can be printed only while windows are shown.");
+  throw CommandError(ErrorKind::File, "There is no printer here that a graph can be printed on.");
 }
 
-inline void Host::CopyPicture(const PictureRequest& /*request*/) {
-  throw CommandError(ErrorKind::File, "There is no clipboard without windows.");
+inline void Host::PrintWindow(const std::string& /*screen*/) {
+  throw CommandError(ErrorKind::File, "There is no printer here that a screen can be printed on.");
+}
+
+inline void Host::SetUpPrinter() {
+  throw CommandError(ErrorKind::File, "There is no printer here that can be set up.");
 }
 
 /// Keeps the hourglass on while it lives.

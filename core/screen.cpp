@@ -308,6 +308,22 @@ void Screen::SetVisible(bool visible) {
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }
 
+bool Screen::RunInInches(const std::function<void()>& something) {
+  CheckBox& box = *MetricBox();
+  const auto values = std::make_unique<ParameterBlock>(block());
+  std::vector<std::pair<TextControl*, std::string>> texts;
+  for (Control* control : controls_) {
+    if (auto* text = dynamic_cast<TextControl*>(control)) texts.emplace_back(text, text->text());
+  }
+  if (!box.Click()) return false;
+  something();
+  for (auto& [control, text] : texts) control->SetText(std::move(text));
+  SetMetricShown(true);
+  box.SetOn(true);
+  block() = *values;
+  return true;
+}
+
 void Screen::Quit() {
   // An unread number keeps the screen open: its box has told which field holds it.
   if (CheckBox* box = MetricBox(); box != nullptr && box->on() && !box->Click()) return;
@@ -320,6 +336,10 @@ void Screen::Quit() {
 }
 
 void Screen::Hover(Control* control) {
+  ShowHelp(control == nullptr ? std::string{} : control->help());
+}
+
+void Screen::ShowHelp(const std::string& sentence) {
   Control* place = HelpPlace();
   if (place == nullptr) return;
   // A report is not written over by what the pointer passes.
@@ -327,7 +347,6 @@ void Screen::Hover(Control* control) {
       box != nullptr && box->showsReport()) {
     return;
   }
-  const std::string sentence = control == nullptr ? std::string{} : control->help();
   if (place->kind() == ControlKind::Label) {
     place->SetCaption(sentence);
   } else {
@@ -338,7 +357,10 @@ void Screen::Hover(Control* control) {
 
 bool Screen::Perform(const std::function<void()>& command) {
   for (Control* control : controls_) control->SetMark(Mark::None);
-  if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+  if (MetricBox() != nullptr) {
+    block().MetricSwitch = metricShown_ ? 1 : 0;
+    context_.blockOwner = this;
+  }
   std::feclearexcept(FE_ALL_EXCEPT);
   try {
     command();

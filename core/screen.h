@@ -34,6 +34,9 @@ struct ProgramContext {
   Host& host;
   ParameterBlock block;
   FieldRules rules;
+  /// The screen with a "Metric" box whose values the block holds: the one that ran a
+  /// command last. While it shows metric units, so does the block.
+  Screen* blockOwner = nullptr;
 };
 
 /// Told by a control that something of it has changed, so that a window can follow.
@@ -358,16 +361,25 @@ class Screen {
   virtual Control* HelpPlace() { return nullptr; }
   /// Where reports go, null where the screen has none.
   virtual ReportBox* ReportPane() { return nullptr; }
+  /// The command that closes the screen, null where it has none.
+  virtual Control* QuitCommand() { return Find("subend"); }
   /// What belongs to closing beyond hiding the window.
   virtual void Closed() {}
   /// True while the fields show metric units.
   bool metric() const { return metricShown_; }
+
+  /// Runs something while the shared values are in inches, although this screen, which owns
+  /// them, shows metric units; to the last digit, all is as it was afterwards. False, and
+  /// nothing is run, when the fields cannot be converted (a box has told why).
+  bool RunInInches(const std::function<void()>& something);
 
   /// Closes the screen as its "&Quit" button does.
   void Quit();
 
   /// The pointer stands over a control (null: over the background).
   virtual void Hover(Control* control);
+  /// Shows a sentence in the help place, if there is one and no report stands there.
+  void ShowHelp(const std::string& sentence);
 
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.

@@ -56,27 +56,27 @@ constexpr MenuItem kMenu[] = {
     {"QuitColor", "Select Background Color of Quit / Done Buttons", "User_GUI", MenuKind::Action},
     {"SepBar1", "-", "File", MenuKind::Separator},
     {"Print", "&Print Forms", "File", MenuKind::Submenu},
-    {"Print1", "&CI", "Print", MenuKind::Action},
-    {"Print1CR", "C&R", "Print", MenuKind::Action},
-    {"Print3", "&ET / MPH / HP", "Print", MenuKind::Action},
-    {"Print2", "Cam &Info", "Print", MenuKind::Action},
-    {"Print12", "C&ompression Gauge", "Print", MenuKind::Action},
-    {"Print14", "&Blowers", "Print", MenuKind::Action},
-    {"Print4", "Air Fue&l", "Print", MenuKind::Action},
-    {"Print11", "2 Stroke E&xhaust", "Print", MenuKind::Action},
-    {"Print5", "&Gear", "Print", MenuKind::Action},
-    {"Print13", "&Acceleration", "Print", MenuKind::Action},
-    {"Print6", "Cha&ssis", "Print", MenuKind::Action},
-    {"Print16", "S&prings", "Print", MenuKind::Action},
-    {"Print7", "&Weather", "Print", MenuKind::Action},
-    {"Print18", "2 Stroke Port &Timing", "Print", MenuKind::Action},
-    {"Print9", "&Unit Conversion", "Print", MenuKind::Action},
-    {"Print10", "E&quivalence Charts", "Print", MenuKind::Action},
-    {"Print17", "&Nitrous", "Print", MenuKind::Action},
-    {"Print33", "Generate Cam File", "Print", MenuKind::Action},
-    {"Print15", "About", "Print", MenuKind::Action},
-    {"Print8", "Graph", "Print", MenuKind::Action},
-    {"Printer", "Printer &Setup", "File", MenuKind::Action},
+    {"Print1", "&CI", "Print", MenuKind::PrintScreen, "Form1"},
+    {"Print1CR", "C&R", "Print", MenuKind::PrintScreen, "Form1CR"},
+    {"Print3", "&ET / MPH / HP", "Print", MenuKind::PrintScreen, "Form3"},
+    {"Print2", "Cam &Info", "Print", MenuKind::PrintScreen, "Form2"},
+    {"Print12", "C&ompression Gauge", "Print", MenuKind::PrintScreen, "Form12"},
+    {"Print14", "&Blowers", "Print", MenuKind::PrintScreen, "Form14"},
+    {"Print4", "Air Fue&l", "Print", MenuKind::PrintScreen, "Form4"},
+    {"Print11", "2 Stroke E&xhaust", "Print", MenuKind::PrintScreen, "Form11"},
+    {"Print5", "&Gear", "Print", MenuKind::PrintScreen, "Form5"},
+    {"Print13", "&Acceleration", "Print", MenuKind::PrintScreen, "Form13"},
+    {"Print6", "Cha&ssis", "Print", MenuKind::PrintScreen, "Form6"},
+    {"Print16", "S&prings", "Print", MenuKind::PrintScreen, "Form16"},
+    {"Print7", "&Weather", "Print", MenuKind::PrintScreen, "Form7"},
+    {"Print18", "2 Stroke Port &Timing", "Print", MenuKind::PrintScreen, "Form18"},
+    {"Print9", "&Unit Conversion", "Print", MenuKind::PrintScreen, "Form9"},
+    {"Print10", "E&quivalence Charts", "Print", MenuKind::PrintScreen, "Form10"},
+    {"Print17", "&Nitrous", "Print", MenuKind::PrintScreen, "Form17"},
+    {"Print33", "Generate Cam File", "Print", MenuKind::PrintScreen, "Form33"},
+    {"Print15", "About", "Print", MenuKind::PrintScreen, "Form15"},
+    {"Print8", "Graph", "Print", MenuKind::PrintScreen, "Form8"},
+    {"Printer", "Printer &Setup", "File", MenuKind::Action, "", &Shell::Printer},
     {"Print_CI", "Print Company Info Multi Page -- Is OFF", "File", MenuKind::Action, "", &Shell::Print_CI},
     {"Print_Head_Location", "Print Company Info - Select Location", "File", MenuKind::Action},
     {"SepBar2", "-", "File", MenuKind::Separator},
@@ -242,7 +242,7 @@ Shell::Shell(ProgramContext& context)
   Frame12.SetVisible(false);
   Frame8.SetVisible(false);
   OptionFrame.SetVisible(false);
-  GraphFrame.SetVisible(false);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(false);
   for (Field* field : {&Text11, &Text12, &Text13, &Text15, &Text16, &Text17, &Text14, &Text18,
                        &Text19, &Text20, &Text21, &Text23}) {
     field->SetIsOption();
@@ -352,7 +352,8 @@ std::string Shell::MenuCaption(const MenuItem& item) const {
 bool Shell::MenuEnabled(const MenuItem& item) {
   switch (item.kind) {
     case MenuKind::Separator: return false;
-    case MenuKind::Screen: return FindScreen(item.screen) != nullptr;
+    case MenuKind::Screen:
+    case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
     case MenuKind::Action: return item.action != nullptr;
     case MenuKind::Submenu:
       return std::any_of(std::begin(kMenu), std::end(kMenu), [&](const MenuItem& child) {
@@ -366,13 +367,33 @@ void Shell::Choose(const MenuItem& item) {
   if (!MenuEnabled(item) || item.kind == MenuKind::Submenu) return;
   if (item.kind == MenuKind::Screen) {
     Open(*FindScreen(item.screen));
+  } else if (item.kind == MenuKind::PrintScreen) {
+    Perform([&] { context().host.PrintWindow(std::string(item.screen)); });
   } else {
     Perform([&] { (this->*item.action)(); });
   }
 }
 
+void Shell::CopyShared(Screen& screen) {
+  Screen* owner = context().blockOwner;
+  const bool blockIsMetric = owner != nullptr && owner->metric();
+  if (blockIsMetric == screen.metric()) {
+    screen.CopyFromBlock();
+  } else if (blockIsMetric) {
+    // Another screen shows millimetres; this one opens in inches.
+    owner->RunInInches([&] { screen.CopyFromBlock(); });
+  } else {
+    // This screen shows millimetres and the values come from one in inches.
+    const auto values = std::make_unique<ParameterBlock>(block());
+    if (!screen.MetricBox()->Click()) return;
+    block() = *values;
+    screen.CopyFromBlock();
+    screen.MetricBox()->Click();
+  }
+}
+
 void Shell::Open(Screen& screen) {
-  if (block().FormsCleared != 1) screen.CopyFromBlock();
+  if (block().FormsCleared != 1) CopyShared(screen);
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
@@ -459,14 +480,22 @@ void Shell::DropNotes() {
 
 // ---------------------------------------------------------------- options of graphs
 
+std::vector<Frame*> Shell::GraphOptionFrames() {
+  return {&GraphFrame, &WidthFrame, &GridFrame, &CountFrame, &TextFrame, &SizeFrame, &DoneFrame};
+}
+
+std::vector<std::vector<Frame*>> Shell::Panels() {
+  return {{&Frame12}, {&Frame8}, GraphOptionFrames(), {&OptionFrame}};
+}
+
 void Shell::Graph() {
   ShowGraphOptions();
-  GraphFrame.SetVisible(true);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(true);
   DrawLn.Focus();
 }
 
 void Shell::CloseGraphOptions() {
-  GraphFrame.SetVisible(false);
+  for (Frame* frame : GraphOptionFrames()) frame->SetVisible(false);
   GraphOptionsChanged();
 }
 
@@ -591,6 +620,10 @@ void Shell::Clear() {
 void Shell::Metric() {
   block().MetricMenuOn = block().MetricMenuOn != 0 ? 0 : -1;
   TellMenuChanged();
+}
+
+void Shell::Printer() {
+  context().host.SetUpPrinter();
 }
 
 void Shell::Print_CI() {

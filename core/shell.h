@@ -16,7 +16,7 @@ namespace veldox {
 
 class Shell;
 
-enum class MenuKind { Submenu, Separator, Screen, Action };
+enum class MenuKind { Submenu, Separator, Screen, Action, PrintScreen };
 
 /// One item of the menu tree. The table lists the items in the order of the menus.
 struct MenuItem {
@@ -24,7 +24,7 @@ struct MenuItem {
   std::string_view caption;
   std::string_view parent{};  ///< the submenu it stands in, empty for the bar
   MenuKind kind = MenuKind::Action;
-  std::string_view screen{};  ///< the screen it opens
+  std::string_view screen{};  ///< the screen it opens or prints
   void (Shell::*action)() = nullptr;
 };
 
@@ -104,6 +104,9 @@ class Shell : public Screen {
   void SetGraphOptionListener(std::function<void()> listener) {
     graphOptionsChanged_ = std::move(listener);
   }
+  /// The panels that take the launcher's place while they are shown: the frames of each,
+  /// which show and go with the first.
+  std::vector<std::vector<Frame*>> Panels();
   /// Puts the graph options of the shared values on their panel.
   void ShowGraphOptions();
 
@@ -114,6 +117,7 @@ class Shell : public Screen {
   void Notes();
   void Clear();
   void Metric();
+  void Printer();
   void Print_CI();
   void ScrRes();
   void Exit();
@@ -132,6 +136,7 @@ class Shell : public Screen {
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
+  void CopyShared(Screen& screen);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
 
@@ -156,6 +161,8 @@ class Shell : public Screen {
   void Graph_Move_Grid_Click() { Toggle(block().MoveGridLines); }
   void Solid_Line_Click();
   void GraphOptionsChanged();
+  /// The frames of the graph options, which show and go together.
+  std::vector<Frame*> GraphOptionFrames();
   void SetGraphSize();
   void SetGridLineCounts();
   void SetLineWidths();
@@ -229,7 +236,16 @@ class Shell : public Screen {
                           "Show Lines on the Graph that can be moved with the Mouse to read off "
                           "Values.",
                           &Shell::Graph_Move_Grid_Click};
-  OptionGroup Option4{GraphFrame,
+
+  Frame WidthFrame{*this, "WidthFrame", "Line Width", 0};
+  Field Text21{WidthFrame, "Text21", "Draw Line Width", "1", KeyRule::Digits};
+  Field Text23{WidthFrame, "Text23", "Graph Line Width", "1", KeyRule::Digits};
+  Command Command4{WidthFrame, "Command4", "Enter",
+                   "Click Enter Button to Confirm Changing the Line Widths.",
+                   &Shell::SetLineWidths};
+
+  Frame GridFrame{*this, "GridFrame", "Grid Lines", 1};
+  OptionGroup Option4{GridFrame,
                       "Option4",
                       "Grid",
                       {{0, "No Grid", "Draw Graphs without a Grid."},
@@ -237,16 +253,23 @@ class Shell : public Screen {
                        {2, "Semi Grid", "Draw Graphs with Ticks or Crosses for a Grid."}},
                       1,
                       3};
-  Command Solid_Line{GraphFrame, "Solid_Line", "Solid Line",
+  Command Solid_Line{GridFrame, "Solid_Line", "Solid Line",
                      "Draw the Grid with solid Lines or with Dashes.", &Shell::Solid_Line_Click};
-  CheckBox Check1{GraphFrame, "Check1", "Large Lines", "Draw the Grid with wider Lines.",
+  CheckBox Check1{GridFrame, "Check1", "Large Lines", "Draw the Grid with wider Lines.",
                   &Shell::GraphOptionsChanged};
-  CheckBox Check3{GraphFrame, "Check3", "Semi Grid Cross Lines",
+  CheckBox Check3{GridFrame, "Check3", "Semi Grid Cross Lines",
                   "Show small Crosses where the Lines of a Semi Grid would cross.",
                   &Shell::GraphOptionsChanged};
-  CheckBox Check4{GraphFrame, "Check4", "Semi Grid Box Lines",
+  CheckBox Check4{GridFrame, "Check4", "Semi Grid Box Lines",
                   "Show short Ticks at the Edges of a Semi Grid.", &Shell::GraphOptionsChanged};
-  OptionGroup Option1{GraphFrame,
+
+  Frame CountFrame{*this, "CountFrame", "Grid Line Count", 1};
+  Field Text19{CountFrame, "Text19", "X-Axis Grid Line Count", "10", KeyRule::Digits};
+  Field Text20{CountFrame, "Text20", "Y-Axis Grid Line Count", "10", KeyRule::Digits};
+  Command Command3{CountFrame, "Command3", "Enter", "", &Shell::SetGridLineCounts};
+
+  Frame TextFrame{*this, "TextFrame", "Texts", 2};
+  OptionGroup Option1{TextFrame,
                       "Option1",
                       "Caption Top",
                       {{0, "Top", "Show the Names of the Curves at the Top of the Graph."},
@@ -254,7 +277,7 @@ class Shell : public Screen {
                        {2, "Bottom", "Show the Names of the Curves at the Bottom of the Graph."}},
                       0,
                       3};
-  OptionGroup Option2{GraphFrame,
+  OptionGroup Option2{TextFrame,
                       "Option2",
                       "Caption Side",
                       {{0, "Left", "Show the Names of the Curves at the Left of the Graph."},
@@ -262,7 +285,7 @@ class Shell : public Screen {
                        {2, "Right", "Show the Names of the Curves at the Right of the Graph."}},
                       0,
                       3};
-  OptionGroup Option3{GraphFrame,
+  OptionGroup Option3{TextFrame,
                       "Option3",
                       "Graph Font Size",
                       {{0, "100%", "Texts of Graphs in full Size."},
@@ -275,18 +298,14 @@ class Shell : public Screen {
                        {7, "14 Pt", "Texts of Graphs in 14 Points."}},
                       0,
                       4};
-  Field Text14{GraphFrame, "Text14", "Graph Size Width", "6", KeyRule::Digits};
-  Field Text18{GraphFrame, "Text18", "Graph Size Height", "6", KeyRule::Digits};
-  Command Command5{GraphFrame, "Command5", "Enter", "", &Shell::SetGraphSize};
-  Field Text19{GraphFrame, "Text19", "X-Axis Grid Line Count", "10", KeyRule::Digits};
-  Field Text20{GraphFrame, "Text20", "Y-Axis Grid Line Count", "10", KeyRule::Digits};
-  Command Command3{GraphFrame, "Command3", "Enter", "", &Shell::SetGridLineCounts};
-  Field Text21{GraphFrame, "Text21", "Draw Line Width", "1", KeyRule::Digits};
-  Field Text23{GraphFrame, "Text23", "Graph Line Width", "1", KeyRule::Digits};
-  Command Command4{GraphFrame, "Command4", "Enter",
-                   "Click Enter Button to Confirm Changing the Line Widths.",
-                   &Shell::SetLineWidths};
-  Command Command2{GraphFrame, "Command2", "Done Graph Options",
+
+  Frame SizeFrame{*this, "SizeFrame", "Graph Size", 2};
+  Field Text14{SizeFrame, "Text14", "Graph Size Width", "6", KeyRule::Digits};
+  Field Text18{SizeFrame, "Text18", "Graph Size Height", "6", KeyRule::Digits};
+  Command Command5{SizeFrame, "Command5", "Enter", "", &Shell::SetGraphSize};
+
+  Frame DoneFrame{*this, "DoneFrame", "", 2};
+  Command Command2{DoneFrame, "Command2", "Done Graph Options",
                    "Close the Graphic Options Selection Screen.", &Shell::CloseGraphOptions};
 
   // Lists of the appearance options

@@ -19,6 +19,7 @@ enum class Unit {
   Length,
   Area,
   Volume,
+  Cc,  ///< cc in both modes
   PistonSpeed,
   SurfaceSpeed,
   Power,
@@ -40,6 +41,7 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Length: return metric ? "mm" : "in";
     case Unit::Area: return metric ? "sq mm" : "sq in";
     case Unit::Volume: return metric ? "cc" : "cu in";
+    case Unit::Cc: return "cc";
     case Unit::PistonSpeed: return metric ? "m/min" : "ft/min";
     case Unit::SurfaceSpeed: return metric ? "m/s" : "ft/s";
     case Unit::Power: return metric ? "kW" : "HP";

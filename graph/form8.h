@@ -35,6 +35,7 @@ class Form8 : public Screen, public Grapher {
 
   void CopyFromBlock() override { OptionsChanged(); }
   Control* HelpPlace() override { return &Label7; }
+  Control* QuitCommand() override { return &Command1; }
   void Closed() override;
 
   // Grapher
@@ -54,6 +55,9 @@ class Form8 : public Screen, public Grapher {
   void DrawOn(Surface& surface, const PlotTheme& theme);
   /// Draws it on a page or a picture.
   void DrawPicture(Surface& surface, const PlotTheme& theme);
+
+  /// The frame of the window's last drawing.
+  const SurfaceRect& frame() const { return frame_; }
 
   // The mouse. Places are in drawing units of the window's surface.
   void MouseMove(SurfacePoint place);

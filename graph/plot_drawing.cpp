@@ -1,6 +1,7 @@
 // How a graph that was kept is drawn on a surface.
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 
@@ -14,7 +15,12 @@ constexpr double kLabelLine = 1.15;   ///< height of a line of tick labels in te
 constexpr double kLegendLeft = 10;    ///< drawing units from the frame's left edge
 constexpr double kSwatchWidth = 1.6;  ///< length of the legend's sample line in text heights
 constexpr double kLargeLineWidth = 2;
+constexpr double kSwatchLineWidth = 2.5;
+constexpr double kYPointerLines = 1.5;  ///< text lines that the Y caption takes over the frame
+constexpr double kFaintContrast = 2.2;
+constexpr double kEdgeWidth = 1.4;   ///< added to the width of a faint curve
 constexpr double kTickLength = 0.4;  ///< of the semi grid, in text heights
+constexpr double kTickGap = 0.4;     ///< between the frame and the labels under it
 constexpr double kBoxSize = 0.25;    ///< half of a plotted box, in text heights
 constexpr double kSmallestFrame = 20;
 constexpr double kTitleGrowth = 1.2;
@@ -135,7 +141,7 @@ void XLabels(const Drawing& d, const AxisRange& range, DecimalMark mark) {
   const FrameMapping map(d.frame, range);
   // Beside the tick where the grid is of ticks only.
   const double shift = d.block.GridSwitch == 2 ? d.surface.TextWidth("M", d.font) / 2 : 0;
-  LabelRow row(d, d.frame.bottom() + (kLabelLine - 1) * d.lineHeight);
+  LabelRow row(d, d.frame.bottom() + kTickGap * d.lineHeight);
   if (d.engine.crankAngleAxis) {
     for (const auto& [angle, text] :
          {std::pair{-360.0, "TDC"}, std::pair{-180.0, "BDC"}, std::pair{0.0, "TDC"},
@@ -199,6 +205,44 @@ void Captions(const Drawing& d) {
   }
 }
 
+/// How many names of curves are shown: the graph itself keeps the larger part of a surface.
+std::size_t LegendRows(const PlotEngine& engine, double surfaceHeight, double lineHeight) {
+  constexpr double kMostOfHeight = 0.4;
+  const auto& series = engine.series();
+  const auto named = static_cast<std::size_t>(std::count_if(
+      series.begin(), series.end(),
+      [&](const PlotSeriesRecord& record) { return !engine.LegendText(record).empty(); }));
+  return std::min(named, static_cast<std::size_t>(kMostOfHeight * surfaceHeight / lineHeight));
+}
+
+/// The names of the curves: over the graph, under it, or in its middle.
+/// The light that a colour gives, 0 to 1.
+double Luminance(Color color) {
+  const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
+  return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+/// How well two colours can be told apart, from 1 for not at all to 21.
+double Contrast(Color a, Color b) {
+  const double first = Luminance(a) + 0.05;
+  const double second = Luminance(b) + 0.05;
+  return std::max(first, second) / std::min(first, second);
+}
+
+Color Halfway(Color a, Color b) {
+  const auto mix = [](int x, int y) { return static_cast<std::uint8_t>((x + y) / 2); };
+  return {mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)};
+}
+
+/// A curve's line. A colour that is hard to see on the background gets a thin edge.
+void CurveLine(const Drawing& d, std::span<const SurfacePoint> places, const Pen& pen) {
+  if (Contrast(pen.color, d.colors.background) < kFaintContrast) {
+    d.surface.DrawPolyline(places, {Halfway(d.colors.background, d.colors.text),
+                                    pen.width + kEdgeWidth, LineStyle::Solid});
+  }
+  d.surface.DrawPolyline(places, pen);
+}
+
 void Legend(const Drawing& d) {
   struct Entry {
     std::string text;
@@ -210,27 +254,30 @@ void Legend(const Drawing& d) {
     Entry entry{d.engine.LegendText(series), series.pen};
     if (entry.text.empty()) continue;
     entry.pen.color = d.engine.ShownColor(series);
-    entry.pen.width = std::max(entry.pen.width, kLargeLineWidth);
+    entry.pen.width = std::max(entry.pen.width, kSwatchLineWidth);
     widest = std::max(widest, d.surface.TextWidth(entry.text, d.font));
     entries.push_back(std::move(entry));
   }
-  if (entries.empty()) return;
+  const std::size_t rows = LegendRows(d.engine, d.surface.Height(), d.lineHeight);
+  if (rows < entries.size()) {
+    entries.resize(rows);
+    if (rows > 0) entries.back().text = "...";
+  }
+  const double height = static_cast<double>(rows) * d.lineHeight;
   const double swatch = kSwatchWidth * d.lineHeight;
   const double gap = 0.4 * d.lineHeight;
   const double width = swatch + gap + widest;
-  const double height = static_cast<double>(entries.size()) * d.lineHeight;
   double left = d.frame.left + kLegendLeft;
   if (d.block.CaptionSide == 1) left = d.frame.left + (d.frame.width - width) / 2;
   if (d.block.CaptionSide == 2) left = d.frame.right() - width - kLegendLeft;
-  left = std::max(left, d.frame.left + gap);
-  double top = d.frame.top + gap;
+  left = std::max(left, gap);
+  double top = d.frame.top - kYPointerLines * d.lineHeight - height;
+  if (!d.engine.hasAxes()) top = d.frame.top + gap;
   if (d.block.CaptionTop == 1) top = d.frame.top + (d.frame.height - height) / 2;
-  if (d.block.CaptionTop == 2) top = d.frame.bottom() - height - gap;
-  // The legend stands over the grid, not between its lines.
-  d.surface.Fill({left - gap / 2, top, width + gap, height}, d.colors.background);
+  if (d.block.CaptionTop == 2) top = d.surface.Height() - height - gap;
   for (const Entry& entry : entries) {
     const double middle = top + d.lineHeight / 2;
-    d.surface.DrawLine({left, middle}, {left + swatch, middle}, entry.pen);
+    CurveLine(d, std::array<SurfacePoint, 2>{{{left, middle}, {left + swatch, middle}}}, entry.pen);
     d.surface.DrawText({left + swatch + gap, top}, entry.text, d.font, d.colors.text,
                        TextAlign::Left);
     top += d.lineHeight;
@@ -254,7 +301,7 @@ void Curves(const Drawing& d) {
                      series.points.begin() + static_cast<std::ptrdiff_t>(to),
                      std::back_inserter(places), map);
       if (places.size() == 1) places.push_back(places.front());  // a dot
-      d.surface.DrawPolyline(places, pen);
+      CurveLine(d, places, pen);
     }
   }
 }
@@ -317,12 +364,16 @@ PlotLayout PlotEngine::LayOut(const Surface& surface, const PlotTheme& theme) co
     left = widest + 2 * letter;
     right =
         std::max(2 * letter, surface.TextWidth(FormatAxisValue(XHigh, mark()), font) / 2 + letter);
-    top = 1.5 * kLabelLine * lineHeight;
+    top = (kYPointerLines + kTickGap) * lineHeight;
     if (block_->GraphHeads != 0) {
       top +=
           static_cast<double>(Titles().size()) * kLabelLine * surface.TextHeight(TitleFont(font));
     }
-    bottom = (block_->GraphLogo != 0 ? 4.2 : 3.2) * kLabelLine * lineHeight;
+    const double legend =
+        lineHeight * static_cast<double>(LegendRows(*this, surface.Height(), lineHeight));
+    if (block_->CaptionTop == 0) top += legend;
+    bottom = (block_->CaptionTop == 2 ? legend : 0) +
+             (block_->GraphLogo != 0 ? 4.2 : 3.2) * kLabelLine * lineHeight;
   }
   return {{left, top, std::max(kSmallestFrame, surface.Width() - left - right),
            std::max(kSmallestFrame, surface.Height() - top - bottom)}};
@@ -348,8 +399,8 @@ PlotLayout PlotEngine::DrawOn(Surface& surface, const PlotTheme& theme) {
   Shapes(drawing);
   Curves(drawing);
   Lines(drawing, freeLines_);
-  Legend(drawing);
   surface.ClearClip();
+  Legend(drawing);
   return layout;
 }
 

@@ -16,6 +16,7 @@ constexpr double kShortLabelsFrom = 100;
 constexpr int kFewestGridLines = 2;
 constexpr int kMostGridLines = 400;
 constexpr int kWidestLine = 50;
+constexpr double kUsualCurveWidth = 1.5;  ///< where no width is chosen
 
 void RequireFinite(double x, double y) {
   if (std::isfinite(x) && std::isfinite(y)) return;
@@ -221,7 +222,9 @@ void PlotEngine::BeginSeries(const CurveColorEntry& color) {
   series.name = color.name;
   series.color = color.color;
   series.pen.color = color.color;
-  series.pen.width = std::clamp<int>(block_->GraphLineWidth, 1, kWidestLine);
+  series.pen.width = block_->GraphLineWidth > 0
+                         ? std::min<double>(block_->GraphLineWidth, kWidestLine)
+                         : kUsualCurveWidth;
   series.range = scale();
   series_.push_back(std::move(series));
 }

@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "engine/form1.h"
+#include "engine/form1cr.h"
 #include "engine/form12.h"
 
 namespace veldox {
@@ -18,6 +19,7 @@ Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
   grapher_ = &AddScreen<Form8>();
   AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
+  AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   about_ = &AddScreen<Form15>();
   shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });

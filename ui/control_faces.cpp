@@ -20,6 +20,17 @@ int DigitsWidth(const QWidget& widget, int digits) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits;
 }
 
+/// A caption for a label. A file's name, which is one long word, may break behind its signs.
+QString LabelText(const Control& control) {
+  QString text = ToQtLines(control.caption());
+  constexpr QChar kBreakHere(0x200b);
+  constexpr qsizetype kLongWord = 24;
+  if (text.size() > kLongWord && !text.contains(QLatin1Char(' '))) {
+    text.replace(QLatin1Char('_'), QLatin1String("_") + QString(kBreakHere));
+  }
+  return text;
+}
+
 QLabel* MakeLabel(const Control& control, QWidget* parent) {
   auto* label = new QLabel(ToQtLines(control.caption()), parent);
   label->setTextFormat(Qt::PlainText);
@@ -85,8 +96,13 @@ LabelFace::LabelFace(FaceSet& set, Label& label, QWidget* parent)
 
 void LabelFace::Follow() {
   Face::Follow();
-  label_->setText(ToQtLines(control().caption()));
-  label_->setAccessibleName(label_->text());
+  const QString text = LabelText(control());
+  if (text != label_->text()) {
+    label_->setText(text);
+    label_->setAccessibleName(ToQtLines(control().caption()));
+    label_->setWordWrap(label_->wordWrap() || label_->fontMetrics().horizontalAdvance(text) >
+                                                  DigitsWidth(*label_, kLabelDigits));
+  }
 }
 
 CheckBoxFace::CheckBoxFace(FaceSet& set, CheckBox& box, QWidget* parent)

@@ -1,5 +1,6 @@
 #include "ui/frame_panel.h"
 
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "ui/control_faces.h"
@@ -11,6 +12,9 @@ namespace {
 /// Room beside a command's caption beyond what the style gives.
 constexpr int kCaptionAir = 4;
 constexpr int kMostCommandsInRow = 3;
+/// Proportions of a button that holds a single sign.
+constexpr int kSignWidth = 5;
+constexpr int kSignHeight = 4;
 /// Commands of a frame that holds nothing else may make it this wide.
 constexpr int kCommandFrameWidth = 300;
 
@@ -30,6 +34,34 @@ bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& place
   return std::any_of(frame.controls().begin(), frame.controls().end(), [&](Control* control) {
     return control->kind() != ControlKind::OptionButton && !Contains(placed, control);
   });
+}
+
+std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*>& frames,
+                                        const std::vector<const Control*>& placed, int gap,
+                                        QWidget* parent) {
+  int columns = 1;
+  for (const Frame* frame : frames) columns = std::max(columns, frame->column() + 1);
+  std::vector<QWidget*> built;
+  for (int i = 0; i < columns; ++i) {
+    auto* column = new QWidget(parent);
+    auto* pile = new QVBoxLayout(column);
+    pile->setContentsMargins(0, 0, 0, 0);
+    pile->setSpacing(gap);
+    std::vector<FramePanel*> panels;
+    int labelWidth = 0;
+    int unitWidth = 0;
+    for (Frame* frame : frames) {
+      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
+      panels.push_back(new FramePanel(faces, *frame, placed, column));
+      faces.Make<FrameFace>(*frame, panels.back());
+      labelWidth = std::max(labelWidth, panels.back()->labelWidth());
+      unitWidth = std::max(unitWidth, panels.back()->unitWidth());
+      pile->addWidget(panels.back());
+    }
+    for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
+    built.push_back(column);
+  }
+  return built;
 }
 
 FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,
@@ -100,21 +132,45 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   if (commands.empty()) return;
   auto* cells = new QGridLayout;
   cells->setSpacing(6);
-  std::vector<QWidget*> buttons;
-  buttons.reserve(commands.size());
+  // A cell holds a command and, small behind it, those whose caption is a single sign.
+  struct Cell {
+    QPushButton* button;
+    std::vector<QPushButton*> signs;
+  };
+  std::vector<Cell> filled;
+  int width = 0;
   for (Command* command : commands) {
-    buttons.push_back(faces.Make<CommandFace>(*command, this).widget());
+    QPushButton* button = faces.Make<CommandFace>(*command, this).button();
+    if (command->PlainCaption().size() == 1 && !filled.empty()) {
+      button->setFixedWidth(button->sizeHint().height() * kSignWidth / kSignHeight);
+      filled.back().signs.push_back(button);
+    } else {
+      filled.push_back({button, {}});
+    }
+  }
+  for (const Cell& cell : filled) {
+    int wide = cell.button->sizeHint().width() + kCaptionAir;
+    for (const QPushButton* sign : cell.signs) wide += sign->minimumWidth() + cells->spacing();
+    width = std::max(width, wide);
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
-  const int width = Widest(buttons) + kCaptionAir;
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
   const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
-  for (int i = 0; i < static_cast<int>(buttons.size()); ++i) {
-    QWidget* button = buttons[static_cast<std::size_t>(i)];
+  for (int i = 0; i < static_cast<int>(filled.size()); ++i) {
+    const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    button->setMinimumWidth(width);
-    cells->addWidget(button, i / columns, i % columns);
+    cell.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    if (cell.signs.empty()) {
+      cell.button->setMinimumWidth(width);
+      cells->addWidget(cell.button, i / columns, i % columns);
+      continue;
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(cells->spacing());
+    row->addWidget(cell.button, 1);
+    for (QPushButton* sign : cell.signs) row->addWidget(sign);
+    cells->addLayout(row, i / columns, i % columns);
+    cells->setColumnMinimumWidth(i % columns, width);
   }
   for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
   const int row = grid_->rowCount();

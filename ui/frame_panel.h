@@ -40,4 +40,11 @@ class FrameFace : public Face {
 /// True when a frame has something to show besides the controls placed elsewhere.
 bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed);
 
+/// Frames in their columns, under each other in the order of declaration and lined up. A
+/// column is a widget; frames with nothing to show are left out.
+/// @param gap  pixels between the frames of a column
+std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*>& frames,
+                                        const std::vector<const Control*>& placed, int gap,
+                                        QWidget* parent);
+
 }  // namespace veldox

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ui/column_flow.h"
 #include "ui/control_faces.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
@@ -15,6 +16,7 @@
 #include "ui/qt_text.h"
 #include "ui/screen_window.h"
 #include "ui/title_area.h"
+#include "ui/window_picture.h"
 
 namespace veldox {
 namespace {
@@ -29,12 +31,16 @@ constexpr int kMargin = 10;
 /// first shown.
 class MainWindow::PanelFace : public ControlFace {
  public:
-  PanelFace(MainWindow& window, Frame& frame) : window_(window), frame_(frame) {
-    frame_.SetFace(this);
+  PanelFace(MainWindow& window, std::vector<Frame*> frames)
+      : window_(window), frames_(std::move(frames)) {
+    Watch();
   }
-  ~PanelFace() override { frame_.SetFace(nullptr); }
+  ~PanelFace() override { frame().SetFace(nullptr); }
 
-  Frame& frame() const { return frame_; }
+  /// The frame that shows and goes with the panel.
+  Frame& frame() const { return *frames_.front(); }
+  const std::vector<Frame*>& frames() const { return frames_; }
+  void Watch() { frame().SetFace(this); }
   QWidget* page = nullptr;
 
   void ControlChanged(Control&) override { window_.ShowPanel(*this); }
@@ -42,7 +48,7 @@ class MainWindow::PanelFace : public ControlFace {
 
  private:
   MainWindow& window_;
-  Frame& frame_;
+  std::vector<Frame*> frames_;
 };
 
 MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new MenuRows(this)) {
@@ -71,6 +77,7 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new M
   column->addWidget(menu_);
   column->addLayout(body);
 
+  AddPictureKeys(*this, shell);
   setMinimumWidth(kNarrowest);
   resize(FittingSize(*this, kPreferredSize));
   const QRect room = screen()->availableGeometry();
@@ -91,10 +98,21 @@ void MainWindow::BuildPages() {
   scroll->setWidget(new Launcher(
       shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
   pages_->addWidget(scroll);
-  for (Frame* frame : shell_.frames()) {
-    if (frame->visible()) continue;
-    panels_.push_back(std::make_unique<PanelFace>(*this, *frame));
+  for (std::vector<Frame*>& frames : shell_.Panels()) {
+    panels_.push_back(std::make_unique<PanelFace>(*this, std::move(frames)));
   }
+}
+
+QWidget* MainWindow::BuildPanel(PanelFace& panel) {
+  if (panel.frames().size() == 1) return new FramePanel(faces_, panel.frame(), {}, pages_);
+  auto* scroll = new FlowScroll(pages_);
+  auto* body = new ColumnFlow(0, kMargin, scroll);
+  for (QWidget* column : BuildFrameColumns(faces_, panel.frames(), {}, kMargin, body)) {
+    body->Add(column);
+  }
+  scroll->setWidget(body);
+  panel.Watch();
+  return scroll;
 }
 
 void MainWindow::ShowPanel(PanelFace& panel) {
@@ -103,7 +121,7 @@ void MainWindow::ShowPanel(PanelFace& panel) {
     return;
   }
   if (panel.page == nullptr) {
-    panel.page = new FramePanel(faces_, panel.frame(), {}, pages_);
+    panel.page = BuildPanel(panel);
     panel.page->setObjectName(ToQt(panel.frame().name()));
     pages_->addWidget(panel.page);
     OrderTabs(faces_);

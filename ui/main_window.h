@@ -42,6 +42,7 @@ class MainWindow : public QWidget, public ShellFace {
   void Fill(QMenu& menu, std::string_view name);
   void UpdateAction(QAction& action, const MenuItem& item);
   void BuildPages();
+  QWidget* BuildPanel(PanelFace& panel);
   void ShowPanel(PanelFace& panel);
 
   Shell& shell_;

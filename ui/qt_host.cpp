@@ -195,6 +195,23 @@ std::unique_ptr<PageSurface> QtHost::OpenPrinter() {
   return OpenPrinterByDialog(QApplication::activeWindow());
 }
 
+void QtHost::PrintGraph() {
+  PictureRequest request;
+  request.screen = "Form8";
+  Pictures("The graph cannot be printed: its window has gone.").PrintPicture(request);
+}
+
+void QtHost::PrintWindow(const std::string& screen) {
+  PictureRequest request;
+  request.of = PictureRequest::Of::Window;
+  request.screen = screen;
+  Pictures("The screen cannot be printed: its window has gone.").PrintPicture(request);
+}
+
+void QtHost::SetUpPrinter() {
+  SetUpPrinterByDialog(QApplication::activeWindow());
+}
+
 void QtHost::SetBusy(bool busy) {
   if (busy) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);

@@ -16,6 +16,9 @@ class QtHost : public Host {
   std::filesystem::path ProgramFolder() override;
   ScreenSize MeasureScreen() override;
   std::unique_ptr<PageSurface> OpenPrinter() override;
+  void PrintGraph() override;
+  void PrintWindow(const std::string& screen) override;
+  void SetUpPrinter() override;
   void SetBusy(bool busy) override;
 };
 

@@ -93,11 +93,15 @@ void PainterPageSurface::EndJob() {
   }
 }
 
-std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent) {
+QPrinter& ChoosePrinterByDialog(QWidget* parent) {
   QPrintDialog dialog(&ChosenPrinter(), parent);
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) throw CommandError(ErrorKind::Cancelled, "");
-  return std::make_unique<PainterPageSurface>(ChosenPrinter());
+  return ChosenPrinter();
+}
+
+std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent) {
+  return std::make_unique<PainterPageSurface>(ChoosePrinterByDialog(parent));
 }
 
 void SetUpPrinterByDialog(QWidget* parent) {

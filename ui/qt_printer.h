@@ -31,6 +31,9 @@ class PainterPageSurface : public PageSurface {
   double scale_ = 1;  ///< device units a twip
 };
 
+/// Lets the user choose a printer; it stays chosen. @throws CommandError (Cancelled)
+QPrinter& ChoosePrinterByDialog(QWidget* parent);
+
 /// Lets the user choose a printer and begins a job on it.
 /// @throws CommandError (Cancelled, File)
 std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent);

@@ -12,6 +12,7 @@
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/qt_text.h"
+#include "ui/window_picture.h"
 
 namespace veldox {
 namespace {
@@ -28,7 +29,7 @@ QSize FittingSize(const QWidget& window, QSize wanted) {
   return wanted.boundedTo(room);
 }
 
-void OrderTabs(const FaceSet& faces) {
+QWidget* OrderTabs(const FaceSet& faces) {
   QWidget* last = nullptr;
   for (const Control* control : faces.screen().controls()) {
     const Face* face = faces.Of(*control);
@@ -36,13 +37,17 @@ void OrderTabs(const FaceSet& faces) {
     if (last != nullptr) QWidget::setTabOrder(last, face->widget());
     last = face->widget();
   }
+  return last;
 }
 
-ScreenWindow::ScreenWindow(Screen& screen)
-    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
+ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
+    : screen_(screen),
+      faces_(screen),
+      scroll_(new FlowScroll(this)),
+      ownFace_(makeOwnFace(screen, this)) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
-  Control* quit = screen.Find("subend");
+  Control* quit = screen.QuitCommand();
   std::vector<const Control*> placed;
   for (const Control* control :
        {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()), quit}) {
@@ -53,9 +58,15 @@ ScreenWindow::ScreenWindow(Screen& screen)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);
-  column->addWidget(scroll_, 1);
+  if (ownFace_ == nullptr) {
+    column->addWidget(scroll_, 1);
+  } else {
+    column->addLayout(BesideOwnFace(), 1);
+  }
   column->addLayout(BuildFoot(quit));
-  OrderTabs(faces_);
+  QWidget* last = OrderTabs(faces_);
+  if (ownFace_ != nullptr) setTabOrder(last, ownFace_);
+  AddPictureKeys(*this, screen);
   SizeToScreen();
 }
 
@@ -66,27 +77,9 @@ QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
   setMouseTracking(true);
   installEventFilter(this);
 
-  int columns = 1;
-  for (const Frame* frame : screen_.frames()) columns = std::max(columns, frame->column() + 1);
-  for (int i = 0; i < columns; ++i) {
-    auto* column = new QWidget(body);
+  for (QWidget* column : BuildFrameColumns(faces_, screen_.frames(), placed, kFrameGap, body)) {
     column->setMouseTracking(true);
     column->installEventFilter(this);
-    auto* frames = new QVBoxLayout(column);
-    frames->setContentsMargins(0, 0, 0, 0);
-    frames->setSpacing(kFrameGap);
-    std::vector<FramePanel*> panels;
-    int labelWidth = 0;
-    int unitWidth = 0;
-    for (Frame* frame : screen_.frames()) {
-      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
-      panels.push_back(new FramePanel(faces_, *frame, placed, column));
-      faces_.Make<FrameFace>(*frame, panels.back());
-      labelWidth = std::max(labelWidth, panels.back()->labelWidth());
-      unitWidth = std::max(unitWidth, panels.back()->unitWidth());
-      frames->addWidget(panels.back());
-    }
-    for (FramePanel* panel : panels) panel->Align(labelWidth, unitWidth);
     body->Add(column);
     backgrounds_.push_back(column);
   }
@@ -126,8 +119,31 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   return foot;
 }
 
+QLayout* ScreenWindow::BesideOwnFace() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, kWindowMargin, 0);
+  row->setSpacing(0);
+  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  scroll_->setFixedWidth(scroll_->widget()->sizeHint().width() + bar);
+  row->addWidget(scroll_);
+  auto* face = new QVBoxLayout;
+  face->setContentsMargins(0, kWindowMargin, 0, 0);
+  face->addWidget(ownFace_);
+  row->addLayout(face, 1);
+  return row;
+}
+
 void ScreenWindow::SizeToScreen() {
   const QWidget& body = *scroll_->widget();
+  if (ownFace_ != nullptr) {
+    const QSize face = ownFace_->sizeHint();
+    const int foot = layout()->minimumSize().height() -
+                     std::max(scroll_->minimumSizeHint().height(),
+                              ownFace_->minimumSizeHint().height() + kWindowMargin);
+    const int height = std::max(body.sizeHint().height(), face.height() + kWindowMargin) + foot;
+    resize(FittingSize(*this, {scroll_->width() + face.width() + kWindowMargin, height}));
+    return;
+  }
   const int foot = layout()->minimumSize().height() - scroll_->minimumSizeHint().height();
   const int bar = scroll_->verticalScrollBar()->sizeHint().width();
   const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));

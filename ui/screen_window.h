@@ -7,11 +7,15 @@
 
 namespace veldox {
 
+/// Makes the widget that a screen shows beside its frames, or null.
+using OwnFaceMaker = QWidget* (*)(Screen& screen, QWidget* parent);
+
 /// The window of any screen: its frames in columns, which scroll where they must, and at
-/// the foot the report, the help strip and the "&Quit" button.
+/// the foot the report, the help strip and the "&Quit" button. The face that a screen has
+/// of its own takes all the room at the right of the frames.
 class ScreenWindow : public QWidget {
  public:
-  explicit ScreenWindow(Screen& screen);
+  ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace);
 
   Screen& screen() const { return screen_; }
   FaceSet& faces() { return faces_; }
@@ -24,6 +28,8 @@ class ScreenWindow : public QWidget {
   QWidget* BuildBody(const std::vector<const Control*>& placed);
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
+  /// The frames' columns at the left, as wide as they must be, and the screen's own face.
+  QLayout* BesideOwnFace();
   /// A report opens: the window grows to the height of the screen while it is shown.
   void MakeRoomForReport();
   void GiveRoomBack();
@@ -31,6 +37,7 @@ class ScreenWindow : public QWidget {
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
+  QWidget* ownFace_;  ///< null for most screens
   QWidget* report_ = nullptr;
   int heightWithoutReport_ = 0;
   std::vector<const QObject*> backgrounds_;
@@ -41,6 +48,7 @@ class ScreenWindow : public QWidget {
 QSize FittingSize(const QWidget& window, QSize wanted);
 
 /// Walks the tab key through the controls in the screen's reading order.
-void OrderTabs(const FaceSet& faces);
+/// @return the last of them
+QWidget* OrderTabs(const FaceSet& faces);
 
 }  // namespace veldox

@@ -1,13 +1,17 @@
 #include "ui/window_manager.h"
 
+#include "ui/own_faces.h"
+
 namespace veldox {
 
-WindowManager::WindowManager(Shell& shell) : shell_(shell), main_(shell) {
+WindowManager::WindowManager(Shell& shell) : shell_(shell), pictures_(shell, *this), main_(shell) {
+  shell_.context().host.SetPictureMaker(&pictures_);
   shell_.SetFace(this);
   for (Screen* screen : shell_.screens()) screen->SetFace(this);
 }
 
 WindowManager::~WindowManager() {
+  shell_.context().host.SetPictureMaker(nullptr);
   shell_.SetFace(nullptr);
   for (Screen* screen : shell_.screens()) screen->SetFace(nullptr);
 }
@@ -24,6 +28,12 @@ QWidget* WindowManager::WindowOf(const Screen& screen) {
   return Find(screen);
 }
 
+QWidget& WindowManager::Window(Screen& screen) {
+  if (QWidget* window = WindowOf(screen)) return *window;
+  windows_.push_back(std::make_unique<ScreenWindow>(screen, &MakeOwnFace));
+  return *windows_.back();
+}
+
 Face* WindowManager::FaceOf(const Control& control) {
   if (&control.screen() == &shell_) return main_.faces().Of(control);
   ScreenWindow* window = Find(control.screen());
@@ -31,22 +41,19 @@ Face* WindowManager::FaceOf(const Control& control) {
 }
 
 void WindowManager::ScreenVisibilityChanged(Screen& screen) {
-  QWidget* window = WindowOf(screen);
   if (!screen.visible()) {
+    QWidget* window = WindowOf(screen);
     if (window != nullptr && window != &main_) window->hide();
     return;
   }
-  if (window == nullptr) {
-    windows_.push_back(std::make_unique<ScreenWindow>(screen));
-    window = windows_.back().get();
-  }
-  if (window->isMinimized()) {
-    window->showNormal();
+  QWidget& window = Window(screen);
+  if (window.isMinimized()) {
+    window.showNormal();
   } else {
-    window->show();
+    window.show();
   }
-  window->raise();
-  window->activateWindow();
+  window.raise();
+  window.activateWindow();
 }
 
 }  // namespace veldox

@@ -5,6 +5,7 @@
 
 #include "core/shell.h"
 #include "ui/main_window.h"
+#include "ui/qt_pictures.h"
 #include "ui/screen_window.h"
 
 namespace veldox {
@@ -17,8 +18,11 @@ class WindowManager : public ScreenFace {
   ~WindowManager() override;
 
   MainWindow& main() { return main_; }
+  QtPictures& pictures() { return pictures_; }
   /// The window of a screen, the main form among them; null while it was never opened.
   QWidget* WindowOf(const Screen& screen);
+  /// The same; a window that was never opened is built, and stays hidden.
+  QWidget& Window(Screen& screen);
   /// What stands for a control; null where its window is not built.
   Face* FaceOf(const Control& control);
 
@@ -28,6 +32,7 @@ class WindowManager : public ScreenFace {
   ScreenWindow* Find(const Screen& screen) const;
 
   Shell& shell_;
+  QtPictures pictures_;
   MainWindow main_;
   std::vector<std::unique_ptr<ScreenWindow>> windows_;
 };

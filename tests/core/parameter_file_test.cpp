@@ -955,7 +955,7 @@ TEST(ParameterFileOwners, IntegersFallBackOnlyOnWhatTheirMemberCanHold) {
 TEST(ParameterFileOwners, FieldTextIsWrittenFromItsFieldAndNeverFromTheBlock) {
   Program program;
   OwnerScreen screen(program.context);
-  Field& ratio = screen.AddField("Form1CR", "11.50");
+  Field& ratio = screen.AddField("Form1CR.Text29", "11.50");
   program.file.BindOwners(screen.Finder());
   program.block.NewCompressionRatio = 12.5;
   EXPECT_EQ(Value(program.Bytes(), "New Compression Ratio"), "11.50");
@@ -976,7 +976,7 @@ TEST(ParameterFileOwners, ReadingPutsFallbackValuesIntoTheirFields) {
   OwnerScreen screen(program.context);
   Field& bore = screen.AddField("Form1.Text1", "4.0");
   Field& height = screen.AddField("Form1.Text8", "9.0");
-  Field& ratio = screen.AddField("Form1CR", "0");
+  Field& ratio = screen.AddField("Form1CR.Text29", "0");
   Field& teeth = screen.AddField("Form5", "0");
   program.file.BindOwners(screen.Finder());
   program.Read(
@@ -1043,7 +1043,7 @@ TEST(ParameterFileOwners, FallbackTextsAreStableAfterTheFirstWriteAndRead) {
     OwnerScreen screen(program.context);
     screen.AddField("Form1.Text8", comma ? "9,0250" : "9.0250");
     screen.AddField("Form1.Text12", "");
-    screen.AddField("Form1CR", "1234567.25");
+    screen.AddField("Form1CR.Text29", "1234567.25");
     program.file.BindOwners(screen.Finder());
     program.Read(program.Bytes());
     const std::string second = program.Bytes();

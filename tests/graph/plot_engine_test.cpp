@@ -320,6 +320,22 @@ TEST_F(PlotEngineTest, ARedrawAtAnotherSizeIsTheSameGraph) {
   }
 }
 
+TEST_F(PlotEngineTest, ManyNamesLeaveTheGraphItsRoom) {
+  plot_.SetScale({0, 10, 0, 10});
+  plot_.DrawAxes();
+  const std::vector<GraphPoint> points{{0, 0}, {10, 10}};
+  plot_.PlotSeries(points, "Engine A");
+  RecordingSurface one(600, 600);
+  const SurfaceRect frame = plot_.DrawOn(one, {}).frame;
+  ASSERT_NE(one.Find("Engine A"), nullptr);
+  EXPECT_LT(one.Find("Engine A")->at.y + 10, frame.top) << "the names hide no curve";
+  EXPECT_EQ(one.Find("..."), nullptr);
+  for (int i = 0; i < 300; ++i) plot_.PlotSeries(points);
+  RecordingSurface many(600, 600);
+  EXPECT_GT(plot_.DrawOn(many, {}).frame.height, 200);
+  EXPECT_NE(many.Find("..."), nullptr);
+}
+
 TEST_F(PlotEngineTest, ACurveOfAnEarlierScaleStaysWhereItWasDrawn) {
   plot_.SetScale({0, 10, 0, 10});
   plot_.DrawAxes();

@@ -111,6 +111,12 @@ TEST_F(RunnerTest, AFileDialogWithoutAPreparedNameIsCancelled) {
   EXPECT_EQ(Run("menu Write\nmessages\nget Main.Label8\n"), "Main.Label8 = \n");
 }
 
+TEST_F(RunnerTest, PicturesNeedWindows) {
+  EXPECT_EQ(Run("menu GRAPHER\nclick Form8.Save_Form_JPG\nmessages\n"),
+            "message [VELDOX-Math-Formula-Calculator] warning: Pictures can be made only while "
+            "windows are shown. -> OK\n");
+}
+
 TEST_F(RunnerTest, NamesAreRelativeToTheScriptsFolder) {
   EXPECT_EQ(Run("file here.prm\nmenu Write\nget Main.Label8\n"),
             "Main.Label8 = Parameter File -- here.prm\n");

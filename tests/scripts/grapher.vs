@@ -38,9 +38,6 @@ set Form8.Text6 9
 click Form8.Command2
 messages
 get Form8.Label1
-pause pictures need windows
-click Form8.Save_Form_JPG
-messages
 pause other screens take the surface
 menu CubicInch
 state Form8.Command2

@@ -1,0 +1,443 @@
+#include "engine/form1cr.h"
+
+#include <cfenv>
+#include <vector>
+
+#include "core/report.h"
+
+namespace veldox {
+
+namespace {
+
+constexpr double kSmallestStroke = 0.00001;
+constexpr double kThousandth = 0.001;
+
+}  // namespace
+
+Form1CR::Form1CR(ProgramContext& context, Grapher& grapher)
+    : Screen(context, "Form1CR", "Compression Ratio", "CompRatio"), grapher_(grapher) {}
+
+void Form1CR::CopyFromBlock() {
+  const ParameterBlock& b = block();
+  Text1.SetText(FormatField(b.Bore, mark()));
+  Text3.SetText(FormatField(b.Stroke, mark()));
+  Text17.SetText(FormatField(b.CompressionRatio, mark()));
+  Text10.SetText(FormatField(b.DeckClearance, mark()));
+  Text27.SetText(FormatField(b.HorsePower, mark()));
+  Text28.SetText(FormatField(b.HorsePowerIncrease, mark()));
+}
+
+void Form1CR::ReadRatioFields() {
+  ParameterBlock& b = block();
+  ReadInto(b.Bore, Text1);
+  ReadInto(b.Stroke, Text3);
+  ReadInto(b.DeckClearance, Text10);
+  ReadInto(b.HeadGasket, Text14);
+  ReadInto(b.HeadGasketBore, Text18);
+  ReadInto(b.HeadGasketCC, Text42);
+  ReadInto(b.DepthFirstRing, Text19);
+  ReadInto(b.TopLandDiameter, Text20);
+  ReadInto(b.PistonDepth, Text22);
+  ReadInto(b.CCsPoured, Text23);
+  ReadInto(b.HorsePower, Text27);
+  ReadInto(b.HorsePowerIncrease, Text28);
+  ReadInto(b.DishDepth, Text6);
+  ReadInto(b.DishBore, Text5);
+  ReadInto(b.DishCC, Text7);
+  ReadInto(b.DishRadius, Text8);
+  if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
+}
+
+void Form1CR::UpdateSweptVolume() {
+  const ParameterBlock& b = block();
+  const double swept = DiscVolume(b.Bore, b.Stroke);
+  sweptCc_ = ToCc(swept, metric());
+  Show(Text4, metric() ? sweptCc_ : swept);
+  Show(Text2, b.HeadGasket + b.DeckClearance);
+}
+
+void Form1CR::Warn(const std::string& text) {
+  context().host.Ask({Icon::Warning, context().rules.messages().MessageTitle, text, {Button::OK}});
+}
+
+double Form1CR::InchesForThousandth(double bore) const {
+  return metric() ? bore / kMillimetresPerInch : bore;
+}
+
+void Form1CR::UpdateClearanceVolumes() {
+  ParameterBlock& b = block();
+  if (!Check3.on()) {
+    if (b.TopLandDiameter > b.Bore) {
+      Store(b.TopLandDiameter, Text20, b.Bore * 0.99);
+      Warn("Top Ring Land Diameter Greater Than Bore -- 0.99 * Bore Size Used");
+    }
+    if (b.Bore * 0.97 > b.TopLandDiameter) Warn("Is Top Ring Land Diameter Correct?");
+  }
+  if (!Check2.on() && (b.HeadGasketBore > b.Bore * 1.025 || b.HeadGasketBore < b.Bore)) {
+    Warn("Is Head Gasket Bore Size Correct?");
+  }
+  deckCc_ = ToCc(DiscVolume(b.Bore, b.DeckClearance), metric());
+  if (!Check2.on()) {
+    Store(b.HeadGasketCC, Text42, ToCc(DiscVolume(b.HeadGasketBore, b.HeadGasket), metric()));
+  }
+  if (Check3.on()) {
+    ReadInto(b.RingCC, Text43);
+  } else {
+    Store(b.RingCC, Text43,
+          ToCc(RingLandVolume(b.Bore, b.TopLandDiameter, b.DepthFirstRing), metric()));
+  }
+  Show(Text45, ToCc(DiscVolume(InchesForThousandth(b.HeadGasketBore), kThousandth), metric()));
+  const double ccPerThousandth =
+      ToCc(DiscVolume(InchesForThousandth(b.Bore), kThousandth), metric());
+  Show(Text46, ccPerThousandth);
+  Show(Text9, deckCc_);
+  Show(Text11, kThousandth / ccPerThousandth, {&Text1});
+}
+
+void Form1CR::ReadRatio() {
+  ReadInto(block().CompressionRatio, Text17);
+}
+
+void Form1CR::ReadChamberAndDome() {
+  ReadInto(block().CombChamberVol, Text15);
+  ReadInto(block().DomeVol, Text16);
+}
+
+ClearanceVolumes Form1CR::Volumes() const {
+  const ParameterBlock& b = block();
+  return {b.CombChamberVol, b.DomeVol, b.HeadGasketCC, deckCc_, b.RingCC};
+}
+
+void Form1CR::SumVolumes() {
+  ParameterBlock& b = block();
+  ReadChamberAndDome();
+  Store(b.TotalVol, Text21, Volumes().Total());
+  Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
+  Show(Text44, sweptCc_);
+}
+
+void Form1CR::StoreTotalForRatio() {
+  ParameterBlock& b = block();
+  Require(b.CompressionRatio != 1, Text17,
+          "must not be 1 for this command: at 1 there is no compression.");
+  Store(b.TotalVol, Text21, ClearanceForRatio(sweptCc_, b.CompressionRatio));
+}
+
+// ---------------------------------------------------------------- ratio and volumes
+
+void Form1CR::Command10_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  UpdateClearanceVolumes();
+  SumVolumes();
+}
+
+void Form1CR::Command11_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  UpdateClearanceVolumes();
+  ParameterBlock& b = block();
+  ReadRatio();
+  ReadInto(b.DomeVol, Text16);
+  StoreTotalForRatio();
+  Store(b.CombChamberVol, Text15, b.TotalVol - Volumes().WithoutChamber());
+}
+
+void Form1CR::Command14_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  UpdateClearanceVolumes();
+  ParameterBlock& b = block();
+  ReadRatio();
+  ReadInto(b.CombChamberVol, Text15);
+  StoreTotalForRatio();
+  Store(b.DomeVol, Text16, Volumes().WithoutDome() - b.TotalVol);
+}
+
+void Form1CR::Command12_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ReadRatio();
+  StoreTotalForRatio();
+}
+
+void Form1CR::Command13_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ParameterBlock& b = block();
+  ReadInto(b.TotalVol, Text21);
+  Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
+}
+
+void Form1CR::Command15_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ParameterBlock& b = block();
+  Store(b.DomeVol, Text16, ToCc(DiscVolume(b.Bore, b.PistonDepth), metric()) - b.CCsPoured);
+}
+
+void Form1CR::Command20_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ParameterBlock& b = block();
+  const double thickness = GasketThickness(FromCc(b.HeadGasketCC, metric()), b.HeadGasketBore);
+  RequireResult(Text14, thickness, {&Text18});
+  // Rounded by its own pattern, then cut as every field is.
+  ShowText(Text14,
+           FormatField(ParseNumber(FormatValue<"0.0####">(thickness, mark()), mark()), mark()));
+  b.HeadGasket = thickness;
+}
+
+void Form1CR::Command17_Click() {
+  ReadRatioFields();
+  ParameterBlock& b = block();
+  ReadRatio();
+  ReadInto(b.NewCompressionRatio, Text29);
+  Require(b.CompressionRatio > 0, Text17, "must be greater than 0 for this command.");
+  Require(b.NewCompressionRatio > 0, Text29, "must be greater than 0 for this command.");
+  Store(b.HorsePowerIncrease, Text28,
+        HorsepowerGainOfRatio(b.HorsePower, b.CompressionRatio, b.NewCompressionRatio));
+}
+
+// ---------------------------------------------------------------- dish
+
+Dish Form1CR::ReadDish() {
+  ReadRatioFields();
+  const ParameterBlock& b = block();
+  return {b.DishBore, b.DishDepth, b.DishRadius};
+}
+
+void Form1CR::ShowLimitedRadius(const Dish& dish) {
+  ParameterBlock& b = block();
+  if (dish.radius == b.DishRadius) return;
+  Warn(
+      "Dish Bore Bottom Radius is Greater Than Dish Depth\r\n"
+      "Dish Bore Bottom Radius is Set to Dish Depth");
+  Store(b.DishRadius, Text8, dish.radius);
+}
+
+void Form1CR::Command2_Click() {
+  const Dish dish = WithFittingRadius(ReadDish());
+  ShowLimitedRadius(dish);
+  Store(block().DishCC, Text7, ToCc(DishVolume(dish), metric()));
+}
+
+void Form1CR::Command3_Click() {
+  const Dish entered = ReadDish();
+  ParameterBlock& b = block();
+  Require(b.DishBore != 0, Text5, "must not be 0 for this command.");
+  const Dish dish = DishWithDepthFor(FromCc(b.DishCC, metric()), entered);
+  RequireResult(Text6, dish.depth);
+  ShowLimitedRadius(dish);
+  Store(b.DishDepth, Text6, dish.depth);
+}
+
+void Form1CR::Command5_Click() {
+  const Dish entered = ReadDish();
+  ParameterBlock& b = block();
+  Require(b.DishDepth > 0, Text6, "must be greater than 0 for this command.");
+  Require(b.DishCC >= 0, Text7, "must not be negative for this command.");
+  const Dish dish = DishWithBoreFor(FromCc(b.DishCC, metric()), entered);
+  RequireResult(Text5, dish.bore);
+  ShowLimitedRadius(dish);
+  Store(b.DishBore, Text5, dish.bore);
+}
+
+// ---------------------------------------------------------------- charts
+
+CompressionInput Form1CR::Input() const {
+  const ParameterBlock& b = block();
+  CompressionInput input;
+  input.bore = b.Bore;
+  input.stroke = b.Stroke;
+  input.deckClearance = b.DeckClearance;
+  input.gasketThickness = b.HeadGasket;
+  input.gasketBore = b.HeadGasketBore;
+  input.sweptCc = sweptCc_;
+  input.volumes = Volumes();
+  input.metric = metric();
+  return input;
+}
+
+void Form1CR::CalculateChartBase() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  UpdateClearanceVolumes();
+  SumVolumes();
+  if (FirstChartedRatio(block().CompressionRatio) < kLowestChartedRatio) {
+    Warn("Warning Calculated CR is to LOW for Program");
+  }
+}
+
+void Form1CR::ShowChart(const std::function<std::string()>& build) {
+  std::string report = build();
+  if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "The chart cannot be computed for this engine. Please check the sizes and "
+                       "volumes that were entered.");
+  }
+  ShowReport(std::move(report));
+}
+
+void Form1CR::Command6_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ReadRatio();
+  ShowChart([this] { return TotalVolumeChart(Input(), block().CompressionRatio, mark()); });
+}
+
+void Form1CR::ShowNeededChart(RatioChart chart) {
+  CalculateChartBase();
+  ShowChart([&] { return NeededChart(chart, Input(), mark()); });
+}
+
+void Form1CR::Command8_Click() {
+  ShowNeededChart(RatioChart::TotalVolume);
+}
+
+void Form1CR::Command9_Click() {
+  ShowNeededChart(RatioChart::Chamber);
+}
+
+void Form1CR::Command18_Click() {
+  ShowNeededChart(RatioChart::Dome);
+}
+
+void Form1CR::Command19_Click() {
+  CalculateChartBase();
+  Require(block().HeadGasketBore != 0, Text18, "must not be 0 for this chart.");
+  ShowChart([this] { return NeededChart(RatioChart::GasketThickness, Input(), mark()); });
+}
+
+// ---------------------------------------------------------------- graphs
+
+GraphCurve Form1CR::Curve(bool first) {
+  const GraphCurve curve =
+      RatioGraphCurve(drawn_->graph, Input(), drawn_->sweep, block().TotalVol, first, mark());
+  Require(curve.points.size() > 1, Text21,
+          "is not above 0 anywhere on this graph. Please check the volumes that it comes from.");
+  return curve;
+}
+
+void Form1CR::GraphRatio(RatioGraph graph, const RatioSweep& sweep) {
+  const GraphFrame frame = RatioGraphFrame(graph, Input(), sweep);
+  const std::optional<DrawnGraph> before = drawn_;
+  drawn_ = DrawnGraph{graph, sweep, frame.range};
+  try {
+    const GraphCurve curve = Curve(true);
+    grapher_.DrawGraph(frame, {&curve, 1});
+  } catch (const CommandError&) {
+    drawn_ = before;
+    throw;
+  }
+  grapher_.ShowGraph();
+}
+
+bool Form1CR::GraphStands() const {
+  return drawn_ && grapher_.HasGraph() && grapher_.plot().scale() == drawn_->axes;
+}
+
+void Form1CR::Command1_Click() {
+  ReadRatioFields();
+  UpdateSweptVolume();
+  ParameterBlock& b = block();
+  ReadInto(b.TotalVol, Text21);
+  Require(b.TotalVol > kSmallestGraphedVolume, Text21, "must be greater than 2 for this graph.");
+  GraphRatio(RatioGraph::TotalVolume, SweepAroundTotal(b.TotalVol));
+}
+
+void Form1CR::Command4_Click() {
+  CalculateChartBase();
+  const ParameterBlock& b = block();
+  Require(b.TotalVol > 0, Text21,
+          "must be greater than 0 for this graph. Please check the volumes that it comes from.");
+  GraphRatio(RatioGraph::Chamber, SweepAroundChamber(b.CombChamberVol));
+}
+
+void Form1CR::Command7_Click() {
+  if (!GraphStands()) {
+    Text38.CloseReport();
+    Text38.SetText(
+        "There is no graph of this screen yet that a curve can be added to. Graph CR Tot Vol and "
+        "Graph CC Vol CR draw one.");
+    Text38.SetVisible(true);
+    return;
+  }
+  if (drawn_->graph == RatioGraph::Chamber) {
+    CalculateChartBase();
+  } else {
+    ReadRatioFields();
+    UpdateSweptVolume();
+  }
+  const GraphCurve curve = Curve(false);
+  grapher_.AddToGraph({&curve, 1});
+  grapher_.ShowGraph();
+}
+
+// ---------------------------------------------------------------- switches
+
+void Form1CR::Check2_Click() {
+  Text14.SetEnabled(!Check2.on());
+  Text18.SetEnabled(!Check2.on());
+}
+
+void Form1CR::Check3_Click() {
+  Text19.SetEnabled(!Check3.on());
+  Text20.SetEnabled(!Check3.on());
+}
+
+void Form1CR::Check1_Click() {
+  ReadRatioFields();
+  const bool toMetric = block().MetricSwitch != 1;
+  ConvertRatioUnits(toMetric);
+  SetMetricShown(toMetric);
+}
+
+void Form1CR::ConvertRatioUnits(bool toMetric) {
+  ParameterBlock& b = block();
+  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
+  // A conversion that fails half way would leave inches and millimetres side by side, so
+  // every new value is worked out before the first is stored.
+  struct Converted {
+    Field* field;
+    double* slot;
+    double value;
+  };
+  std::vector<Converted> converted;
+  const auto convert = [&](Field& field, double* slot, double value) {
+    RequireResult(field, value);
+    converted.push_back({&field, slot, value});
+  };
+  const auto length = [&](Field& field, double& slot) { convert(field, &slot, slot * factor); };
+  const auto power = [&](Field& field, double& slot) {
+    convert(field, &slot,
+            toMetric ? slot * kKilowattsPerHorsepower : slot / kKilowattsPerHorsepower);
+  };
+  length(Text1, b.Bore);
+  length(Text3, b.Stroke);
+  length(Text10, b.DeckClearance);
+  length(Text14, b.HeadGasket);
+  length(Text18, b.HeadGasketBore);
+  length(Text19, b.DepthFirstRing);
+  length(Text20, b.TopLandDiameter);
+  length(Text22, b.PistonDepth);
+  length(Text6, b.DishDepth);
+  length(Text5, b.DishBore);
+  power(Text27, b.HorsePower);
+  power(Text28, b.HorsePowerIncrease);
+  if (IsNumber(Text2.text(), mark())) convert(Text2, nullptr, Read(Text2) * factor);
+  if (IsNumber(Text4.text(), mark())) {
+    const double volume = Read(Text4);
+    convert(Text4, nullptr, toMetric ? volume / kCubicInchesPerCc : volume * kCubicInchesPerCc);
+  }
+
+  b.MetricSwitch = toMetric ? 1 : 0;
+  b.MetricFactor = factor;
+  b.BlockDeckHeight *= factor;
+  for (const Converted& c : converted) {
+    if (c.slot != nullptr) *c.slot = c.value;
+    ShowText(*c.field, FormatField(c.value, mark()));
+  }
+}
+
+}  // namespace veldox
