@@ -2,8 +2,8 @@
 pause what is there and what is not yet
 get Main.CubicInch
 state Main.CubicInch
-get Main.CompRatio
-state Main.CompRatio
+get Main.Blowers
+state Main.Blowers
 state Main.File
 state Main.Tools
 state Main.Engine_Spec
