@@ -154,18 +154,10 @@ class Form12 : public Screen {
   Frame Frame7{*this, "Frame7", "Strokes and Volumes", 2};
   Field Text8{Frame7, "Text8", "Dynamic Stroke", "1.7036", KeyRule::OutputOnly, Unit::Length};
   Field Text9{Frame7, "Text9", "Actual Piston Stroke", "3.25", KeyRule::OutputOnly, Unit::Length};
-  Field Text12{Frame7,
-               "Text12",
-               "Swept / Cylinder Volume",
-               "669.259",
-               KeyRule::OutputOnly,
-               Unit::CubicCentimetres};
-  Field Text7{Frame7,
-              "Text7",
-              "Cylinder Vol @ Intake Close cc's",
-              "350.8098",
-              KeyRule::OutputOnly,
-              Unit::CubicCentimetres};
+  Field Text12{Frame7,  "Text12", "Swept / Cylinder Volume", "669.259", KeyRule::OutputOnly,
+               Unit::Cc};
+  Field Text7{Frame7,  "Text7", "Cylinder Vol @ Intake Close cc's", "350.8098", KeyRule::OutputOnly,
+              Unit::Cc};
   Field Text11{
       Frame7,           "Text11", "Cylinder Vol @ Intake Close ci", "21.40772", KeyRule::OutputOnly,
       Unit::CubicInches};

