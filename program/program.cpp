@@ -1,8 +1,8 @@
 #include "program/program.h"
 
 #include "engine/form1.h"
-#include "engine/form1cr.h"
 #include "engine/form12.h"
+#include "engine/form1cr.h"
 
 namespace veldox {
 
