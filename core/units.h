@@ -26,7 +26,6 @@ enum class Unit {
   Degrees,
   Grams,
   RevolutionsPerMinute,
-  CubicCentimetres,
   CubicInches,
   Barometer,
   GaugePressure,
@@ -48,7 +47,6 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Degrees: return "deg";
     case Unit::Grams: return "g";
     case Unit::RevolutionsPerMinute: return "RPM";
-    case Unit::CubicCentimetres: return "cc";
     case Unit::CubicInches: return "cu in";
     case Unit::Barometer: return metric ? "mbar" : "in Hg";
     case Unit::GaugePressure: return metric ? "cm Hg" : "psi";

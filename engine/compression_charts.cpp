@@ -56,6 +56,39 @@ void WriteRows(ReportWriter& report, int rows, double first, double step, double
   }
 }
 
+struct ChartHeads {
+  std::string_view title;
+  std::string_view quantity;  ///< over each block
+  std::string_view columns;
+};
+
+ChartHeads HeadsOf(RatioChart chart) {
+  constexpr std::string_view kVolumes =
+      "             CR       Volume  |    CR       Volume  |    CR       Volume _";
+  ChartHeads heads;
+  heads.columns = kVolumes;
+  switch (chart) {
+    case RatioChart::TotalVolume:
+      heads.title = "                         CR and Total Volume Needed Chart_";
+      heads.quantity = "                       Total  |              Total  |              Total _";
+      break;
+    case RatioChart::Chamber:
+      heads.title = "                   CR and Combustion Chamber Volume Needed Chart_";
+      heads.quantity = "                  Combustion  |         Combustion  |         Combustion _";
+      break;
+    case RatioChart::Dome:
+      heads.title = "                    CR and Dome / Dish Volume Needed Chart_";
+      heads.quantity = "                        Dome  |               Dome  |               Dome _";
+      break;
+    case RatioChart::GasketThickness:
+      heads.title = "                    CR and Compressed Head Gasket Thickness Needed Chart_";
+      heads.quantity = "                      Gasket  |             Gasket  |             Gasket _";
+      heads.columns = "             CR    Thickness  |    CR    Thickness  |    CR    Thickness _";
+      break;
+  }
+  return heads;
+}
+
 }  // namespace
 
 std::string TotalVolumeChart(const CompressionInput& input, double ratio, DecimalMark mark) {
@@ -100,8 +133,6 @@ double NeededForRatio(RatioChart chart, const CompressionInput& input, double ra
 
 std::string NeededChart(RatioChart chart, const CompressionInput& input, DecimalMark mark) {
   constexpr int kRows = 44;
-  constexpr std::string_view kVolumeHead =
-      "             CR       Volume  |    CR       Volume  |    CR       Volume _";
   constexpr std::string_view kRule =
       "         _____________________|_____________________|______________________";
   const double first = std::fmax(
@@ -109,33 +140,8 @@ std::string NeededChart(RatioChart chart, const CompressionInput& input, Decimal
 
   ReportWriter report(mark);
   ChartHeader(report, input, first + kBelowBase);
-  switch (chart) {
-    case RatioChart::TotalVolume:
-      WriteHeads(report, {"                         CR and Total Volume Needed Chart_", "_",
-                          "                       Total  |              Total  |              "
-                          "Total _",
-                          kVolumeHead, kRule});
-      break;
-    case RatioChart::Chamber:
-      WriteHeads(report, {"                   CR and Combustion Chamber Volume Needed Chart_", "_",
-                          "                  Combustion  |         Combustion  |         "
-                          "Combustion _",
-                          kVolumeHead, kRule});
-      break;
-    case RatioChart::Dome:
-      WriteHeads(report, {"                    CR and Dome / Dish Volume Needed Chart_", "_",
-                          "                        Dome  |               Dome  |               "
-                          "Dome _",
-                          kVolumeHead, kRule});
-      break;
-    case RatioChart::GasketThickness:
-      WriteHeads(
-          report,
-          {"                    CR and Compressed Head Gasket Thickness Needed Chart_", "_",
-           "                      Gasket  |             Gasket  |             Gasket _",
-           "             CR    Thickness  |    CR    Thickness  |    CR    Thickness _", kRule});
-      break;
-  }
+  const ChartHeads heads = HeadsOf(chart);
+  WriteHeads(report, {heads.title, "_", heads.quantity, heads.columns, kRule});
   WriteRows(report, kRows, first, 0.03, 1.32, [&](double c) {
     report.Add<".0000">(c, 8);
     const double needed = NeededForRatio(chart, input, c);

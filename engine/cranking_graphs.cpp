@@ -21,6 +21,7 @@ constexpr double kHighEfficiency = 1.5;
 constexpr double kBarometerSteps = 100;
 constexpr double kEfficiencyStep = 0.01;
 constexpr double kInchesInFoot = 12;
+constexpr double kNoForce = 1e-12;  ///< of the largest force
 constexpr double kMillimetresInMetre = 1000;
 /// The turning force in metric is graphed in tens of newton metres, the force on a piston in
 /// tens of newtons: bars over 100 times square millimetres.
@@ -79,11 +80,6 @@ double ForcePressure(const CrankingGraphInput& in, double gauge) {
   return in.metric ? gauge / kGaugeUnitsPerPsi * kBarsPerPsi / kBarsInMetricForce : gauge;
 }
 
-/// The other way.
-double ShownPressure(const CrankingGraphInput& in, double pressure) {
-  return in.metric ? pressure / kBarsPerPsi * kGaugeUnitsPerPsi * kBarsInMetricForce : pressure;
-}
-
 /// Pressure outside in the gauge's unit.
 double Base(const CrankingGraphInput& in, double psi) {
   return in.metric ? psi * kGaugeUnitsPerPsi : psi;
@@ -95,7 +91,7 @@ double BaseOfMercury(const CrankingGraphInput& in, double inches) {
 
 /// The base of readings by the rule of the input.
 double RuledBase(const CrankingGraphInput& in, double inches) {
-  return BaseOfMercury(in, in.rule == GaugeRule::Atmospheric ? inches - in.vapor : inches);
+  return BaseOfMercury(in, in.rule == DosRule::On ? inches - in.vapor : inches);
 }
 
 double DynamicRatioOf(const CrankingGraphInput& in, const ClosedCylinder& cylinder) {
@@ -109,9 +105,9 @@ using Value = std::function<std::optional<double>(double)>;
 
 /// The value of a graph over the closing angle; none where it has no value.
 Value ValueOverClosing(const CrankingGraphInput& in) {
-  const auto gauge = [in](const ClosedCylinder& cylinder, GaugeRule rule) {
+  const auto gauge = [in](const ClosedCylinder& cylinder, DosRule rule) {
     const double base =
-        rule == GaugeRule::Absolute ? BaseOfMercury(in, in.barometer) : RuledBase(in, in.barometer);
+        rule == DosRule::Off ? BaseOfMercury(in, in.barometer) : RuledBase(in, in.barometer);
     return CrankingPressure(DynamicRatioOf(in, cylinder), base, rule);
   };
   switch (in.graph) {
@@ -130,14 +126,13 @@ Value ValueOverClosing(const CrankingGraphInput& in) {
       };
     case CrankingGraph::Octane:
       return [=](double d) {
-        const double reading = gauge(ClosedCylinderAt(in.size, d), GaugeRule::Absolute);
+        const double reading = gauge(ClosedCylinderAt(in.size, d), DosRule::Off);
         return EstimatedOctane(in.metric ? reading / kGaugeUnitsPerPsi : reading, in.inletAir,
                                in.water);
       };
     case CrankingGraph::GaugeOverClosingFixedRatio:
       return [=](double d) { return gauge(ClosedCylinderAt(in.size, d), in.rule); };
-    default:
-      return [=](double d) { return gauge(ClosedCylinderAt(in.size, d), GaugeRule::Absolute); };
+    default: return [=](double d) { return gauge(ClosedCylinderAt(in.size, d), DosRule::Off); };
   }
 }
 
@@ -158,11 +153,10 @@ Value ValueOverBarometer(const CrankingGraphInput& in) {
   const double ratio = DynamicRatioOf(in, ClosedCylinderAt(in.size, in.intakeClose));
   switch (in.graph) {
     case CrankingGraph::GaugeOverPsi:
-      return
-          [=](double psi) { return CrankingPressure(ratio, Base(in, psi), GaugeRule::Absolute); };
+      return [=](double psi) { return CrankingPressure(ratio, Base(in, psi), DosRule::Off); };
     case CrankingGraph::GaugeOverInchesMercury:
       return [=](double inches) {
-        return CrankingPressure(ratio, BaseOfMercury(in, inches), GaugeRule::Absolute);
+        return CrankingPressure(ratio, BaseOfMercury(in, inches), DosRule::Off);
       };
     default: return [=](double inches) { return ClosingBeforeTop(in, inches); };
   }
@@ -186,38 +180,35 @@ double ConstantForceTop(const CrankingGraphInput& in) {
 
 void AddExpansion(GraphCurve& curve, const CrankingGraphInput& in) {
   const double arm = ArmUnits(in);
-  const double pressure = ForcePressure(in, in.gauge);
   const double area = PistonArea(in.size.bore);
-  if (in.graph == CrankingGraph::ConstantTurningForce) {
-    // The force that the highest pressure makes where it stands is to be kept up from there.
-    const double force = TurningForce(in.size, pressure, in.startDegrees, arm);
-    const double top = ConstantForceTop(in);
-    for (const ExpansionPoint& point :
-         PressureCurve({in.size, in.compressionRatio, in.startDegrees, pressure, in.exponent})) {
-      const double needed = ShownPressure(in, force / TurningForce(in.size, 1, point.degrees, arm));
-      // Towards the bottom no pressure turns the crank.
-      if (!(needed >= 0 && needed <= top)) {
-        if (curve.points.empty()) continue;
-        break;
-      }
-      curve.points.push_back({point.degrees, needed});
-    }
-    return;
-  }
+  // The force that the highest pressure makes where it stands is to be kept up from there.
+  const double part = TurningForce(in.size, 1, in.startDegrees, arm);
+  const double top = ConstantForceTop(in);
   for (const ExpansionPoint& point :
-       PressureCurve({in.size, in.compressionRatio, in.startDegrees, pressure, in.exponent})) {
+       PressureCurve({in.size, in.compressionRatio, in.startDegrees, in.gauge, in.exponent})) {
+    const double degrees = point.degrees;
+    const double pressure = ForcePressure(in, point.pressure);
     double y = 0;
     switch (in.graph) {
-      case CrankingGraph::PistonPressure: y = area * point.pressure; break;
-      case CrankingGraph::TurningForce:
-        y = TurningForce(in.size, point.pressure, point.degrees, arm);
-        break;
+      case CrankingGraph::PistonPressure: y = area * pressure; break;
+      case CrankingGraph::TurningForce: y = TurningForce(in.size, pressure, degrees, arm); break;
       case CrankingGraph::TurningForceByRatio:
-        y = TurningForceByRatio(in.size, point.pressure, point.degrees, arm);
+        y = TurningForceByRatio(in.size, pressure, degrees, arm);
         break;
-      default: y = ShownPressure(in, point.pressure); break;
+      case CrankingGraph::ConstantTurningForce:
+        y = in.gauge * (part / TurningForce(in.size, 1, degrees, arm));
+        break;
+      default: y = point.pressure; break;
     }
-    curve.points.push_back({point.degrees, y});
+    // Towards the bottom no pressure keeps the force up.
+    if (in.graph == CrankingGraph::ConstantTurningForce && !(y >= 0 && y <= top)) break;
+    curve.points.push_back({degrees, y});
+  }
+  // At the bottom rounding leaves a trace of a force, which would open an axis below 0.
+  double largest = 0;
+  for (const GraphPoint& point : curve.points) largest = std::fmax(largest, std::abs(point.y));
+  for (GraphPoint& point : curve.points) {
+    if (std::abs(point.y) < kNoForce * largest) point.y = 0;
   }
 }
 
@@ -316,8 +307,8 @@ std::optional<CrankingPlot> PlotCranking(const CrankingGraphInput& input, Decima
   } else if (IsOverClosing(input.graph)) {
     AddPoints(curve, low, high, 1, ValueOverClosing(input));
   } else if (input.graph == CrankingGraph::GaugeOverVolumetricEfficiency) {
-    const double filled = CrankingPressure(
-        input.compressionRatio, BaseOfMercury(input, input.barometer), GaugeRule::Absolute);
+    const double filled = CrankingPressure(input.compressionRatio,
+                                           BaseOfMercury(input, input.barometer), DosRule::Off);
     AddPoints(curve, low, high, kEfficiencyStep, [=](double part) { return part * filled; });
   } else {
     AddPoints(curve, low, high, (high - low) / kBarometerSteps, ValueOverBarometer(input));
@@ -356,7 +347,7 @@ std::string CrankingGraphNote(const CrankingGraphInput& input, DecimalMark mark)
   };
   const auto reading = [&] { note += "   CGP = " + text(input.gauge); };
   const auto weather = [&] {
-    if (input.rule == GaugeRule::Absolute) return;
+    if (input.rule == DosRule::Off) return;
     note += "   Temp = " + text(input.temperature) + "  RH = " + text(input.humidity);
   };
   const auto closing = [&] { note += "  IVC = " + text(input.intakeClose); };

@@ -48,16 +48,16 @@ struct CrankingGraphInput {
   double compressionRatio = 0;  ///< above 1
   double intakeClose = 0;
   double dynamicRatio = 0;
-  double gauge = 0;                      ///< psi, or centimetres of mercury
-  double barometer = 0;                  ///< inches of mercury whatever the screen shows
-  double vapor = 0;                      ///< inches of mercury; what the older rule takes off
-  double temperature = 0;                ///< as shown
-  double humidity = 0;                   ///< percent
-  double inletAir = 0;                   ///< degrees Fahrenheit
-  double water = 0;                      ///< degrees Fahrenheit
-  double startDegrees = 0;               ///< after top dead centre, of the highest pressure
-  double exponent = 0;                   ///< polytropic
-  GaugeRule rule = GaugeRule::Absolute;  ///< of the readings that walks and ratios start from
+  double gauge = 0;                 ///< psi, or centimetres of mercury
+  double barometer = 0;             ///< inches of mercury whatever the screen shows
+  double vapor = 0;                 ///< inches of mercury; what the older rule takes off
+  double temperature = 0;           ///< as shown
+  double humidity = 0;              ///< percent
+  double inletAir = 0;              ///< degrees Fahrenheit
+  double water = 0;                 ///< degrees Fahrenheit
+  double startDegrees = 0;          ///< after top dead centre, of the highest pressure
+  double exponent = 0;              ///< polytropic
+  DosRule rule = DosRule::Off;      ///< of the readings that walks and ratios start from
   bool metric = false;              ///< lengths in millimetres, the gauge in centimetres of mercury
   std::optional<double> highValue;  ///< the high limit that the user wants, where a graph has one
 };

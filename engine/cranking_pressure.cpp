@@ -69,14 +69,14 @@ double CrankAngleAfterTop(const CylinderSize& size, double degrees) {
   return BottomLead(size) + degrees;
 }
 
-double CrankingPressure(double ratio, double base, GaugeRule rule) {
+double CrankingPressure(double ratio, double base, DosRule rule) {
   const double absolute = std::pow(ratio, kCompressionExponent) * base;
-  return rule == GaugeRule::Atmospheric ? absolute - base : absolute;
+  return rule == DosRule::On ? absolute - base : absolute;
 }
 
-double CompressionRatioForPressure(double reading, double base, GaugeRule rule,
+double CompressionRatioForPressure(double reading, double base, DosRule rule,
                                    const ClosedCylinder& cylinder) {
-  const double absolute = rule == GaugeRule::Atmospheric ? reading + base : reading;
+  const double absolute = rule == DosRule::On ? reading + base : reading;
   return (std::pow(absolute / base, 1 / kCompressionExponent) - 1) * cylinder.sweptCc /
              cylinder.closedCc +
          1;
@@ -91,10 +91,10 @@ double OffsetForTopAngle(double degrees, double stroke, double rodLength) {
 }
 
 double DegreesBeforeTop(double stroke, double rodLength, double travel) {
-  const double radius = stroke / 2;
-  const double height = radius + rodLength - travel;
-  const double cosine =
-      (radius * radius + height * height - rodLength * rodLength) / (2 * radius * height);
+  const double halfStroke = stroke / 2;
+  const double height = halfStroke + rodLength - travel;
+  const double cosine = (halfStroke * halfStroke + height * height - rodLength * rodLength) /
+                        (2 * halfStroke * height);
   // At the ends the quotient may be rounded beyond 1.
   return ArcCos(std::fmax(-1, std::fmin(1, cosine))) * 180 / kPi;
 }
@@ -134,7 +134,7 @@ double IntakeCloseForDynamicRatio(const CylinderSize& size, double compressionRa
 }
 
 double TravelForCrankingPressure(const CylinderSize& size, double compressionRatio, double reading,
-                                 double base, GaugeRule rule) {
+                                 double base, DosRule rule) {
   const double area = PistonArea(size.bore);
   if (!(area > 0 && base > 0 && compressionRatio > 1)) {
     Fail("There is no pressure without a bore, air outside and a compression ratio above 1.");
@@ -193,20 +193,20 @@ std::vector<ExpansionPoint> PressureCurve(const Expansion& expansion) {
 
 double TurningForce(const CylinderSize& size, double pressure, double degrees, double armUnits) {
   const double crank = CrankAngleAfterTop(size, degrees);
-  const double radius = size.stroke / 2;
+  const double halfStroke = size.stroke / 2;
   const double rod =
-      ArcSin((radius * std::sin(crank * kRadiansPerDegree) + size.offset) / size.rodLength) *
+      ArcSin((halfStroke * std::sin(crank * kRadiansPerDegree) + size.offset) / size.rodLength) *
       kDegreesPerRadian;
   return PistonArea(size.bore) * pressure * std::sin((180 - (rod + crank)) * kRadiansPerDegree) *
-         std::cos(rod * kRadiansPerDegree) * (radius / armUnits);
+         std::cos(rod * kRadiansPerDegree) * (halfStroke / armUnits);
 }
 
 double TurningForceByRatio(const CylinderSize& size, double pressure, double degrees,
                            double armUnits) {
   const double crank = CrankAngleAfterTop(size, degrees) * kRadiansPerDegree;
-  const double radius = size.stroke / 2;
-  return PistonArea(size.bore) * pressure * (radius * std::sin(crank)) *
-         ((radius / size.rodLength) * std::cos(crank) + 1) / armUnits;
+  const double halfStroke = size.stroke / 2;
+  return PistonArea(size.bore) * pressure * (halfStroke * std::sin(crank)) *
+         ((halfStroke / size.rodLength) * std::cos(crank) + 1) / armUnits;
 }
 
 double LargestTurningForcePart(double startDegrees) {

@@ -63,20 +63,18 @@ ClosedCylinder CylinderAfterTop(const CylinderSize& size, double degrees);
 /// The crank's own angle at so many degrees from that top.
 double CrankAngleAfterTop(const CylinderSize& size, double degrees);
 
-/// What a reading is measured from.
-enum class GaugeRule {
-  Absolute,     ///< from vacuum
-  Atmospheric,  ///< from the pressure outside, as the older rule does
-};
+/// The older rule, kept from the DOS version: readings count from the pressure outside, which
+/// the water in the air lowers. Without it they count from vacuum.
+enum class DosRule { Off = 0, On = 1 };
 
 /// Pressure at the top of the stroke.
 /// @param ratio  volume at closing over clearance: the dynamic compression ratio
 /// @param base   pressure outside
-double CrankingPressure(double ratio, double base, GaugeRule rule);
+double CrankingPressure(double ratio, double base, DosRule rule);
 
 /// Compression ratio of a cylinder that shows a pressure. Not finite without a base or where
 /// nothing is swept after closing.
-double CompressionRatioForPressure(double reading, double base, GaugeRule rule,
+double CompressionRatioForPressure(double reading, double base, DosRule rule,
                                    const ClosedCylinder& cylinder);
 
 /// Compression ratio of a cylinder with a dynamic compression ratio.
@@ -105,7 +103,7 @@ double IntakeCloseForDynamicRatio(const CylinderSize& size, double compressionRa
 ///         below the pressure outside, or above what the whole stroke compresses to; also
 ///         unless bore, base and compressionRatio - 1 are positive
 double TravelForCrankingPressure(const CylinderSize& size, double compressionRatio, double reading,
-                                 double base, GaugeRule rule);
+                                 double base, DosRule rule);
 
 /// Octane number that iron heads may need: a rule of thumb from 93 at 185 psi with 120 degrees
 /// of inlet air and 170 of water.

@@ -84,10 +84,11 @@ void Form12::FailAt(Field& field, std::string message) {
 void Form12::RequireRod() {
   const ParameterBlock& b = block();
   const double reach = b.Stroke / 2 + std::abs(b.WristPinOffset);
-  Field& field = b.WristPinOffset != 0 ? Text22 : Text4;
-  Require(reach < b.RodLength, field,
-          "does not fit this Stroke and Rod Length: the rod cannot follow the crank all the way "
-          "round.");
+  Require(reach < b.RodLength || b.WristPinOffset == 0, Text22,
+          "is too large for this Stroke and Rod Length: the rod cannot follow the crank all the "
+          "way round.");
+  Require(reach < b.RodLength, Text4,
+          "is too short for this Stroke: the rod cannot follow the crank all the way round.");
 }
 
 ClosedCylinder Form12::CylinderGeometry() {
@@ -129,18 +130,18 @@ VaporPressures Form12::WeatherVapor() const {
   return vapor;
 }
 
-double Form12::GaugeBase(GaugeRule rule) const {
+double Form12::GaugeBase(DosRule rule) const {
   const ParameterBlock& b = block();
   double pressure = b.BarometricPressure;
-  if (rule == GaugeRule::Atmospheric) pressure -= WeatherVapor().actual;
+  if (rule == DosRule::On) pressure -= WeatherVapor().actual;
   if (b.MetricSwitch == 1) {
     return (pressure / kMillibarsPerInchMercury) * kPsiPerInchMercury * kGaugeUnitsPerPsi;
   }
   return pressure * kPsiPerInchMercury;
 }
 
-double Form12::AtmosphereBase(GaugeRule rule) {
-  if (rule == GaugeRule::Atmospheric) {
+double Form12::AtmosphereBase(DosRule rule) {
+  if (rule == DosRule::On) {
     const VaporPressures vapor = WeatherVapor();
     Show(Text33, vapor.actual);
     Show(Text37, vapor.saturated);
@@ -148,7 +149,7 @@ double Form12::AtmosphereBase(GaugeRule rule) {
   return GaugeBase(rule);
 }
 
-void Form12::EstimateGauge(GaugeRule rule) {
+void Form12::EstimateGauge(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
   Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
@@ -172,7 +173,7 @@ void Form12::EstimateOctane() {
   Show(Text5, EstimatedOctane(gauge, FahrenheitShown(inletAir_), FahrenheitShown(water_)));
 }
 
-void Form12::EstimateRatio(GaugeRule rule) {
+void Form12::EstimateRatio(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
   const double base = AtmosphereBase(rule);
@@ -184,19 +185,19 @@ void Form12::EstimateRatio(GaugeRule rule) {
 }
 
 void Form12::Command18_Click() {
-  EstimateGauge(GaugeRule::Absolute);
+  EstimateGauge(DosRule::Off);
 }
 
 void Form12::Command8_Click() {
-  EstimateGauge(GaugeRule::Atmospheric);
+  EstimateGauge(DosRule::On);
 }
 
 void Form12::Command19_Click() {
-  EstimateRatio(GaugeRule::Absolute);
+  EstimateRatio(DosRule::Off);
 }
 
 void Form12::Command9_Click() {
-  EstimateRatio(GaugeRule::Atmospheric);
+  EstimateRatio(DosRule::On);
 }
 
 void Form12::Command7_Click() {
@@ -247,7 +248,7 @@ void Form12::Command1_Click() {
 void Form12::Command2_Click() {
   ReadCompFields();
   ParameterBlock& b = block();
-  const GaugeRule rule = Check2.on() ? GaugeRule::Atmospheric : GaugeRule::Absolute;
+  const DosRule rule = Check2.on() ? DosRule::On : DosRule::Off;
   const double base = GaugeBase(rule);
   Require(b.Bore != 0, Text1, "must not be 0 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
@@ -294,7 +295,7 @@ CrankingGraphInput Form12::ReadGraphInput() {
   input.water = FahrenheitShown(water_);
   input.startDegrees = b.CrankAngleCG;
   input.exponent = b.BaseExponent;
-  if (Check2.on()) input.rule = GaugeRule::Atmospheric;
+  if (Check2.on()) input.rule = DosRule::On;
   if (IsOverClosing(input.graph)) {
     Require(b.IntakeClose >= kEarliestGraphedClosing && b.IntakeClose <= kLatestGraphedClosing,
             Text36, "must be from 0 to 170 for this graph.");

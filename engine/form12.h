@@ -36,8 +36,8 @@ class Form12 : public Screen {
 
   void ReadCompFields();
   void ConvertCompFields(bool toMetric);
-  void EstimateGauge(GaugeRule rule);
-  void EstimateRatio(GaugeRule rule);
+  void EstimateGauge(DosRule rule);
+  void EstimateRatio(DosRule rule);
   void EstimateOctane();
   CylinderSize Size() const;
   /// The cylinder at closing, with a finite answer. @throws CommandError that names the field
@@ -46,8 +46,8 @@ class Form12 : public Screen {
   ClosedCylinder ShowCylinderGeometry();
   VaporPressures WeatherVapor() const;
   /// Shows the vapor pressures where the rule needs them. @return GaugeBase
-  double AtmosphereBase(GaugeRule rule);
-  double GaugeBase(GaugeRule rule) const;
+  double AtmosphereBase(DosRule rule);
+  double GaugeBase(DosRule rule) const;
   /// Ends a command for a rod that cannot follow the crank. @throws CommandError
   void RequireRod();
   /// A volume in the unit of the formulas in cc.
@@ -102,75 +102,67 @@ class Form12 : public Screen {
                    "Barometric Pressure, Temperature, Humidity and Compression Gauge Reading.",
                    &Form12::Command2_Click};
 
-  Frame Frame3{*this, "Frame3", "Compression Gauge", 1};
+  Frame Frame3{*this, "Frame3", "Crank Angle", 0};
+  Field Text10{Frame3, "Text10", "Crank Angle", "10", KeyRule::SignedReal, Unit::Degrees};
+  ComboList Combo1{Frame3, "Combo1", "k Exponent"};
+  Command Command10{Frame3, "Command10", "Offset Needed",
+                    "Calculate amount of offset required for crank angle, to have the piston to be "
+                    "at TDC. Using Crank Angle, Rod Length, and Stroke.",
+                    &Form12::Command10_Click};
+
+  Frame Frame4{*this, "Frame4", "Compression Gauge", 1};
   Field Text35{
-      Frame3, "Text35", "Compression Gauge", "165.5", KeyRule::UnsignedReal, Unit::GaugePressure};
-  Command Command18{Frame3, "Command18", "Compress &Gauge",
+      Frame4, "Text35", "Compression Gauge", "165.5", KeyRule::UnsignedReal, Unit::GaugePressure};
+  Command Command18{Frame4, "Command18", "Compress &Gauge",
                     "Estimate the Compression Gauge from the Compression Ratio, Cylinder Size, Rod "
                     "Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin Offset, and "
                     "Temperature.",
                     &Form12::Command18_Click};
-  Command Command8{Frame3, "Command8", "Comp G&auge DOS",
+  Command Command8{Frame4, "Command8", "Comp G&auge DOS",
                    "Estimate the Compression Gauge (Same as DOS Version) from the Compression "
                    "Ratio, Cylinder Size, Rod Length, Intake Closing Cam Timing, Barometric "
                    "Pressure, Temperature, Wrist Pin Offset, and Humidity.",
                    &Form12::Command8_Click};
-  Command Command19{Frame3, "Command19", "CR Comp Ga&uge",
+  Command Command19{Frame4, "Command19", "CR Comp Ga&uge",
                     "Estimate the Compression Ratio from the Compression Gauge Reading, Cylinder "
                     "Size, Rod Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin "
                     "Offset, and Temperature.",
                     &Form12::Command19_Click};
-  Command Command9{Frame3, "Command9", "&CR Comp Ga DOS",
+  Command Command9{Frame4, "Command9", "&CR Comp Ga DOS",
                    "Estimate the Compression Ratio (Same as DOS Version) from the Compression "
                    "Gauge Reading, Cylinder Size, Rod Length, Intake Closing Cam Timing, "
                    "Barometric Pressure, Temperature, Wrist Pin Offset, and Humidity.",
                    &Form12::Command9_Click};
 
-  Frame Frame4{*this, "Frame4", "Weather", 1};
-  Field Text30{Frame4,         "Text30", "Barometric Pressure", "29.92", KeyRule::UnsignedReal,
+  Frame Frame5{*this, "Frame5", "Weather", 1};
+  Field Text30{Frame5,         "Text30", "Barometric Pressure", "29.92", KeyRule::UnsignedReal,
                Unit::Barometer};
-  Field Text31{Frame4, "Text31", "Temperature", "80", KeyRule::SignedReal, Unit::Temperature};
-  Field Text32{Frame4, "Text32", "Humidity", "5.0", KeyRule::UnsignedReal, Unit::Percent};
-  Field Text34{Frame4, "Text34", "Dew Point", "55.0", KeyRule::SignedReal, Unit::Temperature};
-  Field Text33{Frame4, "Text33", "Vapor Pressure", "0.563", KeyRule::OutputOnly, Unit::Barometer};
-  Field Text37{Frame4,         "Text37", "Sat Vapor Pressure", "1.03028", KeyRule::OutputOnly,
+  Field Text31{Frame5, "Text31", "Temperature", "80", KeyRule::SignedReal, Unit::Temperature};
+  Field Text32{Frame5, "Text32", "Humidity", "5.0", KeyRule::UnsignedReal, Unit::Percent};
+  Field Text34{Frame5, "Text34", "Dew Point", "55.0", KeyRule::SignedReal, Unit::Temperature};
+  Field Text33{Frame5, "Text33", "Vapor Pressure", "0.563", KeyRule::OutputOnly, Unit::Barometer};
+  Field Text37{Frame5,         "Text37", "Sat Vapor Pressure", "1.03028", KeyRule::OutputOnly,
                Unit::Barometer};
 
-  Frame Frame5{*this, "Frame5", "Octane", 1};
+  Frame Frame6{*this, "Frame6", "Octane", 1};
   Field Text6{
-      Frame5,           "Text6", "Running Inlet Air Temperature", "120", KeyRule::SignedReal,
+      Frame6,           "Text6", "Running Inlet Air Temperature", "120", KeyRule::SignedReal,
       Unit::Temperature};
-  Field Text2{Frame5, "Text2", "Water Temperature", "170", KeyRule::SignedReal, Unit::Temperature};
-  Field Text5{Frame5, "Text5", "Est. Octane Needed Iron Heads", "96.16", KeyRule::OutputOnly};
+  Field Text2{Frame6, "Text2", "Water Temperature", "170", KeyRule::SignedReal, Unit::Temperature};
+  Field Text5{Frame6, "Text5", "Est. Octane Needed Iron Heads", "96.16", KeyRule::OutputOnly};
 
-  Frame Frame6{*this, "Frame6", "Strokes and Volumes", 2};
-  Field Text8{Frame6, "Text8", "Dynamic Stroke", "1.7036", KeyRule::OutputOnly, Unit::Length};
-  Field Text9{Frame6, "Text9", "Actual Piston Stroke", "3.25", KeyRule::OutputOnly, Unit::Length};
-  Field Text12{Frame6,
-               "Text12",
-               "Swept / Cylinder Volume",
-               "669.259",
-               KeyRule::OutputOnly,
-               Unit::CubicCentimetres};
-  Field Text7{Frame6,
-              "Text7",
-              "Cylinder Vol @ Intake Close cc's",
-              "350.8098",
-              KeyRule::OutputOnly,
-              Unit::CubicCentimetres};
+  Frame Frame7{*this, "Frame7", "Strokes and Volumes", 2};
+  Field Text8{Frame7, "Text8", "Dynamic Stroke", "1.7036", KeyRule::OutputOnly, Unit::Length};
+  Field Text9{Frame7, "Text9", "Actual Piston Stroke", "3.25", KeyRule::OutputOnly, Unit::Length};
+  Field Text12{Frame7,  "Text12", "Swept / Cylinder Volume", "669.259", KeyRule::OutputOnly,
+               Unit::Cc};
+  Field Text7{Frame7,  "Text7", "Cylinder Vol @ Intake Close cc's", "350.8098", KeyRule::OutputOnly,
+              Unit::Cc};
   Field Text11{
-      Frame6,           "Text11", "Cylinder Vol @ Intake Close ci", "21.40772", KeyRule::OutputOnly,
+      Frame7,           "Text11", "Cylinder Vol @ Intake Close ci", "21.40772", KeyRule::OutputOnly,
       Unit::CubicInches};
 
-  Frame Frame7{*this, "Frame7", "Crank Angle", 2};
-  Field Text10{Frame7, "Text10", "Crank Angle", "10", KeyRule::SignedReal, Unit::Degrees};
-  ComboList Combo1{Frame7, "Combo1", "k Exponent"};
-  Command Command10{Frame7, "Command10", "Offset Needed",
-                    "Calculate amount of offset required for crank angle, to have the piston to be "
-                    "at TDC. Using Crank Angle, Rod Length, and Stroke.",
-                    &Form12::Command10_Click};
-
-  Frame Frame8{*this, "Frame8", "Graphs", 3};
+  Frame Frame8{*this, "Frame8", "Graphs", 2};
   OptionGroup Option1{
       Frame8,
       "Option1",

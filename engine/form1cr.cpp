@@ -312,7 +312,7 @@ void Form1CR::Command19_Click() {
 // ---------------------------------------------------------------- graphs
 
 GraphCurve Form1CR::Curve(bool first) {
-  const GraphCurve curve =
+  GraphCurve curve =
       RatioGraphCurve(drawn_->graph, Input(), drawn_->sweep, block().TotalVol, first, mark());
   Require(curve.points.size() > 1, Text21,
           "is not above 0 anywhere on this graph. Please check the volumes that it comes from.");

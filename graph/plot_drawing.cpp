@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "graph/plot_engine.h"
 
@@ -13,6 +17,7 @@ namespace {
 constexpr double kLabelLine = 1.15;   ///< height of a line of tick labels in text heights
 constexpr double kLegendLeft = 10;    ///< drawing units from the frame's left edge
 constexpr double kSwatchWidth = 1.6;  ///< length of the legend's sample line in text heights
+constexpr double kLegendGap = 0.4;    ///< between the sample and the name, in text heights
 constexpr double kLargeLineWidth = 2;
 constexpr double kSwatchLineWidth = 2.5;
 constexpr double kYPointerLines = 1.5;  ///< text lines that the Y caption takes over the frame
@@ -204,17 +209,48 @@ void Captions(const Drawing& d) {
   }
 }
 
-/// How many names of curves are shown: the graph itself keeps the larger part of a surface.
-std::size_t LegendRows(const PlotEngine& engine, double surfaceHeight, double lineHeight) {
+/// A line of the legend: the name of a curve, or what of it the line before has no room for.
+struct LegendLine {
+  std::string text;
+  const PlotSeriesRecord* series;
+  bool begins;  ///< the curve's first line, which has its sample
+};
+
+/// The names of the curves. A long one goes on in the next line, from where two blanks part it.
+/// The graph itself keeps the larger part of a surface.
+std::vector<LegendLine> LegendLines(const PlotEngine& engine, const Surface& surface, double font,
+                                    double frameLeft) {
   constexpr double kMostOfHeight = 0.4;
-  const auto& series = engine.series();
-  const auto named = static_cast<std::size_t>(std::count_if(
-      series.begin(), series.end(),
-      [&](const PlotSeriesRecord& record) { return !engine.LegendText(record).empty(); }));
-  return std::min(named, static_cast<std::size_t>(kMostOfHeight * surfaceHeight / lineHeight));
+  constexpr std::string_view kParting = "  ";
+  const double lineHeight = surface.TextHeight(font);
+  const double room =
+      surface.Width() - frameLeft - kLegendLeft - (kSwatchWidth + 2 * kLegendGap) * lineHeight;
+  std::vector<LegendLine> lines;
+  for (const PlotSeriesRecord& series : engine.series()) {
+    std::string rest = engine.LegendText(series);
+    if (rest.empty()) continue;
+    bool begins = true;
+    while (surface.TextWidth(rest, font) > room) {
+      std::size_t end = rest.rfind(kParting);
+      while (end != std::string::npos && end > 0 &&
+             surface.TextWidth(std::string_view(rest).substr(0, end), font) > room) {
+        end = rest.rfind(kParting, end - 1);
+      }
+      if (end == std::string::npos || end == 0) break;
+      lines.push_back({rest.substr(0, end), &series, begins});
+      rest.erase(0, end + kParting.size());
+      begins = false;
+    }
+    lines.push_back({std::move(rest), &series, begins});
+  }
+  const auto most = static_cast<std::size_t>(kMostOfHeight * surface.Height() / lineHeight);
+  if (most < lines.size()) {
+    lines.resize(most);
+    if (most > 0) lines.back().text = "...";
+  }
+  return lines;
 }
 
-/// The names of the curves: over the graph, under it, or in its middle.
 /// The light that a colour gives, 0 to 1.
 double Luminance(Color color) {
   const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
@@ -239,29 +275,16 @@ std::optional<Pen> EdgeOf(const Drawing& d, const Pen& pen) {
   return Pen{Halfway(d.colors.background, d.colors.text), pen.width + kEdgeWidth, LineStyle::Solid};
 }
 
+/// The names of the curves: over the graph, under it, or in its middle.
 void Legend(const Drawing& d) {
-  struct Entry {
-    std::string text;
-    Pen pen;
-  };
-  std::vector<Entry> entries;
+  const std::vector<LegendLine> lines = LegendLines(d.engine, d.surface, d.font, d.frame.left);
   double widest = 0;
-  for (const PlotSeriesRecord& series : d.engine.series()) {
-    Entry entry{d.engine.LegendText(series), series.pen};
-    if (entry.text.empty()) continue;
-    entry.pen.color = d.engine.ShownColor(series);
-    entry.pen.width = std::max(entry.pen.width, kSwatchLineWidth);
-    widest = std::max(widest, d.surface.TextWidth(entry.text, d.font));
-    entries.push_back(std::move(entry));
+  for (const LegendLine& line : lines) {
+    widest = std::max(widest, d.surface.TextWidth(line.text, d.font));
   }
-  const std::size_t rows = LegendRows(d.engine, d.surface.Height(), d.lineHeight);
-  if (rows < entries.size()) {
-    entries.resize(rows);
-    if (rows > 0) entries.back().text = "...";
-  }
-  const double height = static_cast<double>(rows) * d.lineHeight;
+  const double height = static_cast<double>(lines.size()) * d.lineHeight;
   const double swatch = kSwatchWidth * d.lineHeight;
-  const double gap = 0.4 * d.lineHeight;
+  const double gap = kLegendGap * d.lineHeight;
   const double width = swatch + gap + widest;
   double left = d.frame.left + kLegendLeft;
   if (d.block.CaptionSide == 1) left = d.frame.left + (d.frame.width - width) / 2;
@@ -271,13 +294,18 @@ void Legend(const Drawing& d) {
   if (!d.engine.hasAxes()) top = d.frame.top + gap;
   if (d.block.CaptionTop == 1) top = d.frame.top + (d.frame.height - height) / 2;
   if (d.block.CaptionTop == 2) top = d.surface.Height() - height - gap;
-  for (const Entry& entry : entries) {
-    const double middle = top + d.lineHeight / 2;
-    const SurfacePoint from{left, middle};
-    const SurfacePoint to{left + swatch, middle};
-    if (const auto edge = EdgeOf(d, entry.pen)) d.surface.DrawLine(from, to, *edge);
-    d.surface.DrawLine(from, to, entry.pen);
-    d.surface.DrawText({left + swatch + gap, top}, entry.text, d.font, d.colors.text,
+  for (const LegendLine& line : lines) {
+    if (line.begins) {
+      Pen pen = line.series->pen;
+      pen.color = d.engine.ShownColor(*line.series);
+      pen.width = std::max(pen.width, kSwatchLineWidth);
+      const double middle = top + d.lineHeight / 2;
+      const SurfacePoint from{left, middle};
+      const SurfacePoint to{left + swatch, middle};
+      if (const auto edge = EdgeOf(d, pen)) d.surface.DrawLine(from, to, *edge);
+      d.surface.DrawLine(from, to, pen);
+    }
+    d.surface.DrawText({left + swatch + gap, top}, line.text, d.font, d.colors.text,
                        TextAlign::Left);
     top += d.lineHeight;
   }
@@ -371,7 +399,7 @@ PlotLayout PlotEngine::LayOut(const Surface& surface, const PlotTheme& theme) co
           static_cast<double>(Titles().size()) * kLabelLine * surface.TextHeight(TitleFont(font));
     }
     const double legend =
-        lineHeight * static_cast<double>(LegendRows(*this, surface.Height(), lineHeight));
+        lineHeight * static_cast<double>(LegendLines(*this, surface, font, left).size());
     if (block_->CaptionTop == 0) top += legend;
     bottom = (block_->CaptionTop == 2 ? legend : 0) +
              (block_->GraphLogo != 0 ? 4.2 : 3.2) * kLabelLine * lineHeight;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -248,6 +249,33 @@ TEST_F(PlotEngineTest, DrawsAsManyGridLinesAsAskedFor) {
   RecordingSurface crosses(800, 600);
   plot_.DrawOn(crosses, theme);
   EXPECT_EQ(GridLines(crosses, {{9, 9, 9}, 1, LineStyle::Solid}), 2 * 6 * 11);
+}
+
+TEST_F(PlotEngineTest, ALongNameOfACurveGoesOnInTheNextLine) {
+  const PlotTheme theme{{255, 255, 255}, {0, 0, 0}, {9, 9, 9}, 10};
+  const std::array<GraphPoint, 2> points{{{0, 0}, {10, 10}}};
+  plot_.SetScale({0, 10, 0, 10});
+  plot_.DrawAxes();
+  // Letters are 5 wide: a line of 400 holds less than 80 of them.
+  const std::string first(40, 'a');
+  const std::string second(30, 'b');
+  plot_.PlotSeries(points, first + "  " + second + "  Green");
+  RecordingSurface wide(800, 600);
+  plot_.DrawOn(wide, theme);
+  ASSERT_NE(wide.Find(first + "  " + second + "  Green"), nullptr);
+  RecordingSurface narrow(400, 600);
+  plot_.DrawOn(narrow, theme);
+  const auto* above = narrow.Find(first);
+  const auto* below = narrow.Find(second + "  Green");
+  ASSERT_NE(above, nullptr);
+  ASSERT_NE(below, nullptr);
+  EXPECT_EQ(above->at.x, below->at.x);
+  EXPECT_EQ(above->at.y + 10, below->at.y);
+  // What cannot be parted stands as it is.
+  plot_.SetCurveNote(std::string(200, 'c'));
+  RecordingSurface uncut(400, 600);
+  plot_.DrawOn(uncut, theme);
+  EXPECT_NE(uncut.Find(std::string(200, 'c')), nullptr);
 }
 
 TEST_F(PlotEngineTest, ADoubtfulGridCountOfAFileStaysWithinItsLimits) {

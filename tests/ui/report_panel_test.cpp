@@ -48,7 +48,7 @@ TEST_F(ReportPanelTest, ShowsAllLinesOfALongReport) {
   host.Answer(Button::OK);
   Model<Command>("Form1.Command20").Click();
   host.messages.clear();
-  // 3601 rows, the lines before them and the closing line.
+  // 3600 rows, the lines before them and the closing line.
   EXPECT_GT(Edit().blockCount(), 3601);
 }
 
