@@ -20,8 +20,9 @@ QRectF ToQtRect(const SurfaceRect& rect) {
   return {rect.left, rect.top, rect.width, rect.height};
 }
 
+/// Round joins would cost the most of a wide curve, and pointed ones look no worse.
 QPen ToQtPen(const Pen& pen, double width) {
-  QPen drawn(ToQtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  QPen drawn(ToQtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin);
   const std::vector<double> dashes = DashesOf(pen.style);
   if (!dashes.empty()) {
     drawn.setDashPattern(QList<qreal>(dashes.begin(), dashes.end()));
