@@ -68,7 +68,7 @@ std::filesystem::path SaveWindowAsJpeg(const Screen& screen, std::string_view na
     if (!begin.empty()) begin += '_';
     begin += name;
   }
-  const std::filesystem::path file =
+  std::filesystem::path file =
       host.ProgramFolder() / (begin + '_' + PictureTimeText(host.Now()) + ".jpg");
   const PictureRequest request{
       PictureRequest::Of::Window, screen.name(), PictureFormat::Jpeg, 0, 0, kBestQuality};
