@@ -508,6 +508,30 @@ void Screen::Store(double& slot, Field& field, double value, DividesBy divisors)
   slot = value;
 }
 
+Screen::UnitConversion::UnitConversion(Screen& screen, bool toMetric)
+    : screen_(screen),
+      toMetric_(toMetric),
+      factor_(toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch) {}
+
+void Screen::UnitConversion::Append(Field& field, double* slot, double value, Format format) {
+  screen_.RequireResult(field, value);
+  converted_.push_back({&field, slot, value, format});
+}
+
+void Screen::UnitConversion::AddShown(Field& field, double by, double* slot) {
+  if (!IsNumber(field.text(), screen_.mark())) return;
+  Append(field, slot, screen_.Read(field) * by, &FormatField);
+}
+
+void Screen::UnitConversion::Store() {
+  screen_.block().MetricSwitch = toMetric_ ? 1 : 0;
+  screen_.block().MetricFactor = factor_;
+  for (const Converted& c : converted_) {
+    if (c.slot != nullptr) *c.slot = c.value;
+    screen_.ShowText(*c.field, c.format(c.value, screen_.mark()));
+  }
+}
+
 void Screen::SetMetricShown(bool metric) {
   if (metric == metricShown_) return;
   metricShown_ = metric;

@@ -435,6 +435,43 @@ class Screen {
   }
   void SetMetricShown(bool metric);
 
+  /// Changes a screen's values to the other units. Every new value is worked out before the
+  /// first is stored, so that a conversion that fails changes nothing.
+  class UnitConversion {
+   public:
+    UnitConversion(Screen& screen, bool toMetric);
+    /// Millimetres an inch, or the reverse.
+    double factor() const { return factor_; }
+
+    using Format = std::string (*)(double, DecimalMark);
+    /// A value and the field that shows it. @throws CommandError for what is no finite number
+    void Add(Field& field, double& slot, double value, Format format = &FormatField) {
+      Append(field, &slot, value, format);
+    }
+    void AddLength(Field& field, double& slot, Format format = &FormatField) {
+      Append(field, &slot, slot * factor_, format);
+    }
+    /// The number that a field shows, times a factor; a field without a number is left alone.
+    /// @param slot  where the value is kept as well, or null
+    void AddShown(Field& field, double by, double* slot = nullptr);
+    /// Stores and shows all of them and sets the switch.
+    void Store();
+
+   private:
+    struct Converted {
+      Field* field;
+      double* slot;
+      double value;
+      Format format;
+    };
+    void Append(Field& field, double* slot, double value, Format format);
+
+    Screen& screen_;
+    bool toMetric_;
+    double factor_;
+    std::vector<Converted> converted_;
+  };
+
  private:
   friend class Control;
   friend class Frame;

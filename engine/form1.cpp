@@ -492,48 +492,26 @@ void Form1::Check1_Click() {
 
 void Form1::ConvertEngineUnits(bool toMetric) {
   ParameterBlock& b = block();
-  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
-  // A conversion that fails half way would leave inches and millimetres side by side, so
-  // every new value is worked out before the first is stored.
-  struct Converted {
-    Field* field;
-    double* slot;
-    double value;
-  };
-  std::vector<Converted> converted;
-  const auto convert = [&](Field& field, double* slot, double value) {
-    RequireResult(field, value);
-    converted.push_back({&field, slot, value});
-  };
-  const auto length = [&](Field& field, double& slot) { convert(field, &slot, slot * factor); };
-  const auto asShown = [&](Field& field, double* slot, double by) {
-    if (IsNumber(field.text(), mark())) convert(field, slot, Read(field) * by);
-  };
-  length(Text1, b.Bore);
-  length(Text3, b.Stroke);
-  length(Text4, b.RodLength);
-  length(Text17, b.RodLength2);
-  length(Text8, b.BlockDeckHeight);
-  length(Text9, b.PistonCompressionHeight);
-  length(Text10, b.DeckClearance);
-  length(Text26, b.BoreIncrease);
-  asShown(Text48, &b.PistonTravel, factor);
-  asShown(Text18, nullptr, factor);
-  asShown(Text19, nullptr, factor);
-  length(Text32, b.WristPinOffset);
-  asShown(Text33, &b.JournalDiameter, factor);
-  length(Text20, b.PortDiameter);
+  UnitConversion units(*this, toMetric);
+  units.AddLength(Text1, b.Bore);
+  units.AddLength(Text3, b.Stroke);
+  units.AddLength(Text4, b.RodLength);
+  units.AddLength(Text17, b.RodLength2);
+  units.AddLength(Text8, b.BlockDeckHeight);
+  units.AddLength(Text9, b.PistonCompressionHeight);
+  units.AddLength(Text10, b.DeckClearance);
+  units.AddLength(Text26, b.BoreIncrease);
+  units.AddShown(Text48, units.factor(), &b.PistonTravel);
+  units.AddShown(Text18, units.factor());
+  units.AddShown(Text19, units.factor());
+  units.AddLength(Text32, b.WristPinOffset);
+  units.AddShown(Text33, units.factor(), &b.JournalDiameter);
+  units.AddLength(Text20, b.PortDiameter);
   const double power = toMetric ? kKilowattsPerHorsepower : 1 / kKilowattsPerHorsepower;
-  convert(Text27, &b.HorsePower, b.HorsePower * power);
-  convert(Text28, &b.HorsePowerIncrease, b.HorsePowerIncrease * power);
-  asShown(Text34, nullptr, toMetric ? kMetresPerFoot : kFeetPerMetre);
-
-  b.MetricSwitch = toMetric ? 1 : 0;
-  b.MetricFactor = factor;
-  for (const Converted& c : converted) {
-    if (c.slot != nullptr) *c.slot = c.value;
-    ShowText(*c.field, FormatField(c.value, mark()));
-  }
+  units.Add(Text27, b.HorsePower, b.HorsePower * power);
+  units.Add(Text28, b.HorsePowerIncrease, b.HorsePowerIncrease * power);
+  units.AddShown(Text34, toMetric ? kMetresPerFoot : kFeetPerMetre);
+  units.Store();
   Store(b.CubicInches, Text6, EngineSizeInFieldUnits());
   Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke);
   // Without a bore the ratio stays as it is: the unit has no part in it.

@@ -363,49 +363,27 @@ void Form12::Check1_Click() {
 
 void Form12::ConvertCompFields(bool toMetric) {
   ParameterBlock& b = block();
-  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
-  // A conversion that fails half way would leave both units side by side, so every new value
-  // is worked out before the first is stored.
-  struct Converted {
-    Field* field;
-    double* slot;
-    double value;
-    bool eleven;
-  };
-  std::vector<Converted> converted;
-  const auto convert = [&](Field& field, double* slot, double value, bool eleven = false) {
-    RequireResult(field, value);
-    converted.push_back({&field, slot, value, eleven});
-  };
-  const auto result = [&](Field& field, double by) {
-    if (IsNumber(field.text(), mark())) convert(field, nullptr, Read(field) * by);
-  };
-  convert(Text1, &b.Bore, b.Bore * factor);
-  convert(Text3, &b.Stroke, b.Stroke * factor);
-  convert(Text4, &b.RodLength, b.RodLength * factor);
-  convert(Text22, &b.WristPinOffset, b.WristPinOffset * factor, true);
-  result(Text8, factor);
-  result(Text9, factor);
+  UnitConversion units(*this, toMetric);
+  units.AddLength(Text1, b.Bore);
+  units.AddLength(Text3, b.Stroke);
+  units.AddLength(Text4, b.RodLength);
+  units.AddLength(Text22, b.WristPinOffset, &FormatField11);
+  units.AddShown(Text8, units.factor());
+  units.AddShown(Text9, units.factor());
   const double barometer = toMetric ? kMillibarsPerInchMercury : 1 / kMillibarsPerInchMercury;
-  convert(Text30, &b.BarometricPressure, b.BarometricPressure * barometer);
-  result(Text33, barometer);
-  result(Text37, barometer);
+  units.Add(Text30, b.BarometricPressure, b.BarometricPressure * barometer);
+  units.AddShown(Text33, barometer);
+  units.AddShown(Text37, barometer);
   const double gauge = toMetric ? kGaugeUnitsPerPsi : 1 / kGaugeUnitsPerPsi;
-  convert(Text35, &b.CompressionGauge, b.CompressionGauge * gauge);
+  units.Add(Text35, b.CompressionGauge, b.CompressionGauge * gauge);
   const auto temperature = [&](Field& field, double& slot) {
-    convert(field, &slot, toMetric ? CelsiusOf(slot) : FahrenheitOf(slot));
+    units.Add(field, slot, toMetric ? CelsiusOf(slot) : FahrenheitOf(slot));
   };
   temperature(Text31, b.Temperature);
   temperature(Text34, dewPoint_);
   temperature(Text6, inletAir_);
   temperature(Text2, water_);
-
-  b.MetricSwitch = toMetric ? 1 : 0;
-  b.MetricFactor = factor;
-  for (const Converted& c : converted) {
-    if (c.slot != nullptr) *c.slot = c.value;
-    ShowText(*c.field, c.eleven ? FormatField11(c.value, mark()) : FormatField(c.value, mark()));
-  }
+  units.Store();
 }
 
 }  // namespace veldox

@@ -395,49 +395,27 @@ void Form1CR::Check1_Click() {
 
 void Form1CR::ConvertRatioUnits(bool toMetric) {
   ParameterBlock& b = block();
-  const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
-  // A conversion that fails half way would leave inches and millimetres side by side, so
-  // every new value is worked out before the first is stored.
-  struct Converted {
-    Field* field;
-    double* slot;
-    double value;
-  };
-  std::vector<Converted> converted;
-  const auto convert = [&](Field& field, double* slot, double value) {
-    RequireResult(field, value);
-    converted.push_back({&field, slot, value});
-  };
-  const auto length = [&](Field& field, double& slot) { convert(field, &slot, slot * factor); };
+  UnitConversion units(*this, toMetric);
   const auto power = [&](Field& field, double& slot) {
-    convert(field, &slot,
-            toMetric ? slot * kKilowattsPerHorsepower : slot / kKilowattsPerHorsepower);
+    units.Add(field, slot,
+              toMetric ? slot * kKilowattsPerHorsepower : slot / kKilowattsPerHorsepower);
   };
-  length(Text1, b.Bore);
-  length(Text3, b.Stroke);
-  length(Text10, b.DeckClearance);
-  length(Text14, b.HeadGasket);
-  length(Text18, b.HeadGasketBore);
-  length(Text19, b.DepthFirstRing);
-  length(Text20, b.TopLandDiameter);
-  length(Text22, b.PistonDepth);
-  length(Text6, b.DishDepth);
-  length(Text5, b.DishBore);
+  units.AddLength(Text1, b.Bore);
+  units.AddLength(Text3, b.Stroke);
+  units.AddLength(Text10, b.DeckClearance);
+  units.AddLength(Text14, b.HeadGasket);
+  units.AddLength(Text18, b.HeadGasketBore);
+  units.AddLength(Text19, b.DepthFirstRing);
+  units.AddLength(Text20, b.TopLandDiameter);
+  units.AddLength(Text22, b.PistonDepth);
+  units.AddLength(Text6, b.DishDepth);
+  units.AddLength(Text5, b.DishBore);
   power(Text27, b.HorsePower);
   power(Text28, b.HorsePowerIncrease);
-  if (IsNumber(Text2.text(), mark())) convert(Text2, nullptr, Read(Text2) * factor);
-  if (IsNumber(Text4.text(), mark())) {
-    const double volume = Read(Text4);
-    convert(Text4, nullptr, toMetric ? volume / kCubicInchesPerCc : volume * kCubicInchesPerCc);
-  }
-
-  b.MetricSwitch = toMetric ? 1 : 0;
-  b.MetricFactor = factor;
-  b.BlockDeckHeight *= factor;
-  for (const Converted& c : converted) {
-    if (c.slot != nullptr) *c.slot = c.value;
-    ShowText(*c.field, FormatField(c.value, mark()));
-  }
+  units.AddShown(Text2, units.factor());
+  units.AddShown(Text4, toMetric ? 1 / kCubicInchesPerCc : kCubicInchesPerCc);
+  units.Store();
+  b.BlockDeckHeight *= units.factor();
 }
 
 }  // namespace veldox
