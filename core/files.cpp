@@ -331,6 +331,10 @@ std::string DecodeText(std::string bytes) {
   return IsUtf8(bytes) ? std::move(bytes) : FromWindows1252(bytes);
 }
 
+std::filesystem::path InFolder(const std::filesystem::path& folder, std::string_view name) {
+  return folder / std::filesystem::path(name.substr(1));
+}
+
 std::string PathText(const fs::path& path) {
   const std::u8string text = path.u8string();
   std::string bytes(text.begin(), text.end());

@@ -24,6 +24,9 @@ inline constexpr std::uintmax_t kLargestFile = 256ULL << 20;
 /// order mark is left out.
 std::string DecodeText(std::string bytes);
 
+/// A file in a folder; the "\" that leads its name is the path separator.
+std::filesystem::path InFolder(const std::filesystem::path& folder, std::string_view name);
+
 /// A path as UTF-8 text, for messages and labels.
 std::string PathText(const std::filesystem::path& path);
 

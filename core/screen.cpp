@@ -197,9 +197,9 @@ Command::Command(Frame& frame, std::string name, std::string caption, std::strin
   SetEnabled(false);
 }
 
-void Command::Click() {
-  if (handler_ == nullptr || !enabled() || !Shown()) return;
-  screen().Run(handler_);
+bool Command::Click() {
+  if (handler_ == nullptr || !enabled() || !Shown()) return false;
+  return screen().Run(handler_);
 }
 
 CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help)
@@ -273,17 +273,28 @@ void OptionGroup::Bind(std::int16_t& slot) {
 }
 
 ComboList::ComboList(Frame& frame, std::string name, std::string caption)
-    : Control(frame.screen(), &frame, ControlKind::ComboList, std::move(name), std::move(caption),
-              {}) {}
+    : ComboList(frame, ControlKind::ComboList, std::move(name), std::move(caption), {}) {}
+
+ComboList::ComboList(Frame& frame, ControlKind kind, std::string name, std::string caption,
+                     std::string help)
+    : Control(frame.screen(), &frame, kind, std::move(name), std::move(caption), std::move(help)) {}
 
 void ComboList::SetRows(std::vector<std::string> rows) {
-  rows_ = std::move(rows);
-  chosen_ = -1;
+  Replace(std::move(rows), -1);
   Changed();
 }
 
+void ComboList::Replace(std::vector<std::string> rows, int chosen) {
+  rows_ = std::move(rows);
+  chosen_ = chosen;
+}
+
+std::string ComboList::chosenText() const {
+  return HasRow(chosen_) ? rows_[static_cast<std::size_t>(chosen_)] : std::string{};
+}
+
 void ComboList::Choose(int row) {
-  if (row < 0 || static_cast<std::size_t>(row) >= rows_.size() || row == chosen_) return;
+  if (!HasRow(row) || row == chosen_) return;
   chosen_ = row;
   Changed();
 }
@@ -322,6 +333,24 @@ bool Screen::RunInInches(const std::function<void()>& something) {
   box.SetOn(true);
   block() = *values;
   return true;
+}
+
+void Screen::CopyShared() {
+  Screen* owner = context_.blockOwner;
+  const bool blockIsMetric = owner != nullptr && owner->metric();
+  if (blockIsMetric == metric()) {
+    CopyFromBlock();
+  } else if (blockIsMetric) {
+    // Another screen shows millimetres; this one shows inches.
+    owner->RunInInches([&] { CopyFromBlock(); });
+  } else {
+    // This screen shows millimetres and the values come from one in inches.
+    const auto values = std::make_unique<ParameterBlock>(block());
+    if (!MetricBox()->Click()) return;
+    block() = *values;
+    CopyFromBlock();
+    MetricBox()->Click();
+  }
 }
 
 void Screen::Quit() {

@@ -55,6 +55,7 @@ enum class ControlKind {
   OptionGroup,
   OptionButton,
   ComboList,
+  PickList,
   Command,
   Frame,
   ReportBox,
@@ -231,8 +232,9 @@ class Command : public Control {
   /// A command whose work is not built yet: it is there, disabled.
   Command(Frame& frame, std::string name, std::string caption, std::string help);
 
-  /// Runs the command as the screen's Click does; nothing when it cannot be clicked.
-  void Click();
+  /// Runs the command as the screen's Click does. False when it cannot be clicked or ended
+  /// by an error.
+  bool Click();
 
  private:
   ScreenHandler handler_ = nullptr;
@@ -313,7 +315,19 @@ class ComboList : public Control {
   void SetRows(std::vector<std::string> rows);
   /// Index of the chosen row, -1 for none.
   int chosen() const { return chosen_; }
-  void Choose(int row);
+  /// The chosen row, empty for none.
+  virtual std::string chosenText() const;
+  /// Chooses a row as a click on it does.
+  virtual void Choose(int row);
+
+ protected:
+  ComboList(Frame& frame, ControlKind kind, std::string name, std::string caption,
+            std::string help);
+  /// Puts other rows into the list without telling the face.
+  void Replace(std::vector<std::string> rows, int chosen);
+  /// True for a row that the list has.
+  bool HasRow(int row) const { return row >= 0 && static_cast<std::size_t>(row) < rows_.size(); }
+  void SetChosen(int row) { chosen_ = row; }
 
  private:
   std::vector<std::string> rows_;
@@ -355,6 +369,12 @@ class Screen {
 
   /// Copies the shared values into the fields that show them.
   virtual void CopyFromBlock() {}
+  /// The same in the units that this screen shows, whatever the shared values are in now.
+  void CopyShared();
+  /// Puts a list into the screen's pick list.
+  /// @param menuItem  the menu entry of the list
+  /// @throws CommandError (File) where the list is a file that cannot be read
+  virtual void LoadList(std::string_view /*menuItem*/) {}
   /// The screen's "Metric" box, null where it has none.
   virtual CheckBox* MetricBox() { return nullptr; }
   /// Where help sentences go.

@@ -99,52 +99,52 @@ constexpr MenuItem kMenu[] = {
     {"CoeffDrag_FrontalArea", "Get Coefficient of Drag / Frontal Area", "File", MenuKind::Submenu},
     {"CD_FA", "CD FA - American", "CoeffDrag_FrontalArea", MenuKind::Action},
     {"CD_FA_Other", "CD FA - Other", "CoeffDrag_FrontalArea", MenuKind::Action},
-    {"Engine_Spec", "&Get Engine Specs - Bore Stroke Rod Length", "File", MenuKind::Submenu},
+    {"Engine_Spec", "&Get Engine Specs - Bore Stroke Rod Length", "File", MenuKind::Submenu, "Form21"},
     {"American", "American", "Engine_Spec", MenuKind::Submenu},
-    {"AMC", "AMC - Jeep - Ramble", "American", MenuKind::Action},
-    {"Buick", "Buick", "American", MenuKind::Action},
-    {"Cadillac", "Cadillac", "American", MenuKind::Action},
+    {"AMC", "AMC - Jeep - Ramble", "American", MenuKind::List, "Form21"},
+    {"Buick", "Buick", "American", MenuKind::List, "Form21"},
+    {"Cadillac", "Cadillac", "American", MenuKind::List, "Form21"},
     {"Chevy", "Chevy", "American", MenuKind::Submenu},
-    {"Chevy_SB", "Chevy - SB", "Chevy", MenuKind::Action},
-    {"Chevy_BB", "Chevy - BB", "Chevy", MenuKind::Action},
-    {"Chevy_All", "Chevy - All Others", "Chevy", MenuKind::Action},
+    {"Chevy_SB", "Chevy - SB", "Chevy", MenuKind::List, "Form21"},
+    {"Chevy_BB", "Chevy - BB", "Chevy", MenuKind::List, "Form21"},
+    {"Chevy_All", "Chevy - All Others", "Chevy", MenuKind::List, "Form21"},
     {"Chrysler", "Chrysler - Dodge - DeSoto - Plymouth", "American", MenuKind::Submenu},
-    {"Chrysler_SB", "Chrysler - SB", "Chrysler", MenuKind::Action},
-    {"Chrysler_BB", "Chrysler - BB", "Chrysler", MenuKind::Action},
-    {"Chrysler_All", "Chrysler - All Others", "Chrysler", MenuKind::Action},
-    {"Cummins", "Cummins", "American", MenuKind::Action},
+    {"Chrysler_SB", "Chrysler - SB", "Chrysler", MenuKind::List, "Form21"},
+    {"Chrysler_BB", "Chrysler - BB", "Chrysler", MenuKind::List, "Form21"},
+    {"Chrysler_All", "Chrysler - All Others", "Chrysler", MenuKind::List, "Form21"},
+    {"Cummins", "Cummins", "American", MenuKind::List, "Form21"},
     {"Ford", "Ford - Edsel - Lincoln - Mercury", "American", MenuKind::Submenu},
-    {"Ford_SB", "Ford - SB", "Ford", MenuKind::Action},
-    {"Ford_BB", "Ford - BB", "Ford", MenuKind::Action},
-    {"Ford_All", "Ford - All Others", "Ford", MenuKind::Action},
-    {"Olds", "Olds", "American", MenuKind::Action},
-    {"Packard", "Packard", "American", MenuKind::Action},
-    {"Pontiac", "Pontiac", "American", MenuKind::Action},
-    {"Studebaker", "Studebaker", "American", MenuKind::Action},
+    {"Ford_SB", "Ford - SB", "Ford", MenuKind::List, "Form21"},
+    {"Ford_BB", "Ford - BB", "Ford", MenuKind::List, "Form21"},
+    {"Ford_All", "Ford - All Others", "Ford", MenuKind::List, "Form21"},
+    {"Olds", "Olds", "American", MenuKind::List, "Form21"},
+    {"Packard", "Packard", "American", MenuKind::List, "Form21"},
+    {"Pontiac", "Pontiac", "American", MenuKind::List, "Form21"},
+    {"Studebaker", "Studebaker", "American", MenuKind::List, "Form21"},
     {"Foreign", "Foreign", "Engine_Spec", MenuKind::Submenu},
-    {"BMW", "BMW", "Foreign", MenuKind::Action},
-    {"Ferrari", "Ferrari", "Foreign", MenuKind::Action},
-    {"Honda", "Honda", "Foreign", MenuKind::Action},
-    {"Maserati", "Maserati", "Foreign", MenuKind::Action},
-    {"Mazda", "Mazda", "Foreign", MenuKind::Action},
-    {"Mercedes", "Mercedes", "Foreign", MenuKind::Action},
-    {"Nissan", "Nissan", "Foreign", MenuKind::Action},
-    {"Porsche", "Porsche", "Foreign", MenuKind::Action},
-    {"Toyota", "Toyota", "Foreign", MenuKind::Action},
-    {"VW", "VW", "Foreign", MenuKind::Action},
-    {"For_Other", "Other", "Foreign", MenuKind::Action},
+    {"BMW", "BMW", "Foreign", MenuKind::List, "Form21"},
+    {"Ferrari", "Ferrari", "Foreign", MenuKind::List, "Form21"},
+    {"Honda", "Honda", "Foreign", MenuKind::List, "Form21"},
+    {"Maserati", "Maserati", "Foreign", MenuKind::List, "Form21"},
+    {"Mazda", "Mazda", "Foreign", MenuKind::List, "Form21"},
+    {"Mercedes", "Mercedes", "Foreign", MenuKind::List, "Form21"},
+    {"Nissan", "Nissan", "Foreign", MenuKind::List, "Form21"},
+    {"Porsche", "Porsche", "Foreign", MenuKind::List, "Form21"},
+    {"Toyota", "Toyota", "Foreign", MenuKind::List, "Form21"},
+    {"VW", "VW", "Foreign", MenuKind::List, "Form21"},
+    {"For_Other", "Other", "Foreign", MenuKind::List, "Form21"},
     {"MotorCycle", "MotorCycle - ATV - Etc...", "Engine_Spec", MenuKind::Submenu},
-    {"Arctic_Cat", "Arctic Cat", "MotorCycle", MenuKind::Action},
-    {"BMWW", "BMW", "MotorCycle", MenuKind::Action},
-    {"Harley_Davidson", "Harley-Davidson", "MotorCycle", MenuKind::Action},
-    {"Hondaa", "Honda", "MotorCycle", MenuKind::Action},
-    {"Kawasaki", "Kawasaki", "MotorCycle", MenuKind::Action},
-    {"Ski_Doo", "Ski-Doo", "MotorCycle", MenuKind::Action},
-    {"Suzuki", "Suzuki", "MotorCycle", MenuKind::Action},
-    {"Yamaha", "Yamaha", "MotorCycle", MenuKind::Action},
-    {"Motor_Other", "Other", "MotorCycle", MenuKind::Action},
-    {"AirCraft", "AirCraft", "Engine_Spec", MenuKind::Action},
-    {"User_BSR", "User Bore Stroke Rod Table", "Engine_Spec", MenuKind::Action},
+    {"Arctic_Cat", "Arctic Cat", "MotorCycle", MenuKind::List, "Form21"},
+    {"BMWW", "BMW", "MotorCycle", MenuKind::List, "Form21"},
+    {"Harley_Davidson", "Harley-Davidson", "MotorCycle", MenuKind::List, "Form21"},
+    {"Hondaa", "Honda", "MotorCycle", MenuKind::List, "Form21"},
+    {"Kawasaki", "Kawasaki", "MotorCycle", MenuKind::List, "Form21"},
+    {"Ski_Doo", "Ski-Doo", "MotorCycle", MenuKind::List, "Form21"},
+    {"Suzuki", "Suzuki", "MotorCycle", MenuKind::List, "Form21"},
+    {"Yamaha", "Yamaha", "MotorCycle", MenuKind::List, "Form21"},
+    {"Motor_Other", "Other", "MotorCycle", MenuKind::List, "Form21"},
+    {"AirCraft", "AirCraft", "Engine_Spec", MenuKind::List, "Form21"},
+    {"User_BSR", "User Bore Stroke Rod Table", "Engine_Spec", MenuKind::List, "Form21"},
     {"SepBar4", "-", "File", MenuKind::Separator},
     {"LrgScrRes", "Use Large Screen Resolution", "File", MenuKind::Action},
     {"FullScrRes", "Use Full Screen Resolution", "File", MenuKind::Action},
@@ -175,6 +175,7 @@ constexpr LauncherItem kLauncher[] = {
     {"Engine", "CubicInch", "Engine Displacement"},
     {"Engine", "CompRatio", "Compression Ratio"},
     {"Engine", "CompGauge", "Compression Gauge, Octane"},
+    {"Engine", "Engine_Spec", "Engine Finder"},
     {"Camshaft", "CAM_INFO", "Camshaft Information"},
     {"Camshaft", "Cam_Gen", "Cam Lift Curve Generator"},
     {"Air, Fuel and Exhaust", "AIRFUEL", "Air Flow, Fuel, Exhaust"},
@@ -210,11 +211,6 @@ constexpr const char* kFullScreenFile = "\\veldox.ful";
 constexpr const char* kParameterFilter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Parameter Files (*.prm)|*.prm";
 constexpr int kParameterFilterIndex = 3;
-
-/// A file in the program's folder; the "\\" that leads its name is the path separator.
-std::filesystem::path InFolder(const std::filesystem::path& folder, std::string_view name) {
-  return folder / std::filesystem::path(name.substr(1));
-}
 
 bool IsThere(const std::filesystem::path& file) {
   std::error_code error;
@@ -353,6 +349,7 @@ bool Shell::MenuEnabled(const MenuItem& item) {
   switch (item.kind) {
     case MenuKind::Separator: return false;
     case MenuKind::Screen:
+    case MenuKind::List:
     case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
     case MenuKind::Action: return item.action != nullptr;
     case MenuKind::Submenu:
@@ -364,9 +361,15 @@ bool Shell::MenuEnabled(const MenuItem& item) {
 }
 
 void Shell::Choose(const MenuItem& item) {
-  if (!MenuEnabled(item) || item.kind == MenuKind::Submenu) return;
+  if (!MenuEnabled(item)) return;
   if (item.kind == MenuKind::Screen) {
     Open(*FindScreen(item.screen));
+  } else if (item.kind == MenuKind::List || item.kind == MenuKind::Submenu) {
+    Screen* screen = FindScreen(item.screen);
+    if (screen == nullptr) return;  // a submenu of its own items alone
+    // A list that cannot be read leaves the screen's list empty; it is shown all the same.
+    screen->Perform([&] { screen->LoadList(item.name); });
+    Open(*screen);
   } else if (item.kind == MenuKind::PrintScreen) {
     Perform([&] { context().host.PrintWindow(std::string(item.screen)); });
   } else {
@@ -374,26 +377,8 @@ void Shell::Choose(const MenuItem& item) {
   }
 }
 
-void Shell::CopyShared(Screen& screen) {
-  Screen* owner = context().blockOwner;
-  const bool blockIsMetric = owner != nullptr && owner->metric();
-  if (blockIsMetric == screen.metric()) {
-    screen.CopyFromBlock();
-  } else if (blockIsMetric) {
-    // Another screen shows millimetres; this one opens in inches.
-    owner->RunInInches([&] { screen.CopyFromBlock(); });
-  } else {
-    // This screen shows millimetres and the values come from one in inches.
-    const auto values = std::make_unique<ParameterBlock>(block());
-    if (!screen.MetricBox()->Click()) return;
-    block() = *values;
-    screen.CopyFromBlock();
-    screen.MetricBox()->Click();
-  }
-}
-
 void Shell::Open(Screen& screen) {
-  if (block().FormsCleared != 1) CopyShared(screen);
+  if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {

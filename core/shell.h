@@ -16,7 +16,14 @@ namespace veldox {
 
 class Shell;
 
-enum class MenuKind { Submenu, Separator, Screen, Action, PrintScreen };
+enum class MenuKind {
+  Submenu,  ///< where it names a screen, choosing it without opening it shows all its lists there
+  Separator,
+  Screen,
+  List,  ///< puts a list into a screen and opens that
+  Action,
+  PrintScreen,
+};
 
 /// One item of the menu tree. The table lists the items in the order of the menus.
 struct MenuItem {
@@ -24,7 +31,7 @@ struct MenuItem {
   std::string_view caption;
   std::string_view parent{};  ///< the submenu it stands in, empty for the bar
   MenuKind kind = MenuKind::Action;
-  std::string_view screen{};  ///< the screen it opens or prints
+  std::string_view screen{};  ///< the screen it opens, fills or prints
   void (Shell::*action)() = nullptr;
 };
 
@@ -136,7 +143,6 @@ class Shell : public Screen {
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
-  void CopyShared(Screen& screen);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
 

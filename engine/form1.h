@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "core/screen.h"
 #include "engine/displacement.h"
@@ -16,6 +17,9 @@ class Form1 : public Screen {
  public:
   /// @param grapher  where the graphs appear
   Form1(ProgramContext& context, Grapher& grapher);
+
+  /// What opens the engine finder.
+  void SetEngineFinder(std::function<void()> open) { openEngineFinder_ = std::move(open); }
 
   void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
@@ -49,6 +53,9 @@ class Form1 : public Screen {
   void Command12_Click();
   void Command13_Click();
   void Check1_Click();
+  void EngineFinder_Click() {
+    if (openEngineFinder_) openEngineFinder_();
+  }
 
   void ReadEngineFields();
   void DeriveEngineFields();
@@ -76,6 +83,7 @@ class Form1 : public Screen {
   [[noreturn]] void FailForGeometry(const CommandError& error);
 
   Grapher& grapher_;
+  std::function<void()> openEngineFinder_;
 
  public:
   Frame Frame1{*this, "Frame1", "Engine", 0};
@@ -107,6 +115,10 @@ class Form1 : public Screen {
                     "Calculate Bore and Stroke needed from Cubic Inches, Stroke Bore Ratio, and "
                     "Number of Cylinders",
                     &Form1::Command11_Click};
+  Command EngineFinder{Frame1, "EngineFinder", "Engine &Finder",
+                       "Pick a production engine from a list; its Bore, Stroke, Rod Length and "
+                       "Number of Cylinders go into this screen.",
+                       &Form1::EngineFinder_Click};
 
   Frame Frame2{*this, "Frame2", "Deck Stack", 0};
   Field Text8{Frame2, "Text8", "Block Deck Height", "9.245", KeyRule::UnsignedReal, Unit::Length};

@@ -3,6 +3,7 @@
 #include "engine/form1.h"
 #include "engine/form12.h"
 #include "engine/form1cr.h"
+#include "engine/form21.h"
 
 namespace veldox {
 
@@ -18,9 +19,11 @@ S& Program::AddScreen(Arguments&&... arguments) {
 Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
   grapher_ = &AddScreen<Form8>();
-  AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
+  auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
+  AddScreen<Form21>(displacement);
+  displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   about_ = &AddScreen<Form15>();
   shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->ShowGraphOptions(); });

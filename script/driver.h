@@ -26,8 +26,9 @@ class Driver {
   virtual void ChooseMenu(const MenuItem& item) = 0;
   /// Replaces a text as if pasted.
   virtual void Set(TextControl& field, const std::string& text) = 0;
-  /// Enters a field by tab and types keys through its rule; a Tab key leaves it.
-  virtual void Type(TextControl& field, const std::vector<Key>& keys) = 0;
+  /// Enters a field by tab and types keys through its rule; a Tab key leaves it. What is
+  /// typed into a pick list narrows it, and Enter picks its current row.
+  virtual void Type(Control& control, const std::vector<Key>& keys) = 0;
   /// The field loses the focus.
   virtual void Leave(TextControl& field) = 0;
   /// One key in a control that gets the focus first.

@@ -1,5 +1,7 @@
 #include "script/model_driver.h"
 
+#include "core/pick_list.h"
+
 namespace veldox {
 
 namespace {
@@ -48,25 +50,50 @@ bool ModelDriver::TabInto(Control& control) {
   if (!screen.MoveFocus(&control)) return false;
   screen.Hover(&control);
   auto* field = dynamic_cast<TextControl*>(&control);
-  selected_ = field != nullptr && field->Enter() ? field : nullptr;
+  const bool selects = field != nullptr ? field->Enter() : control.kind() == ControlKind::PickList;
+  selected_ = selects ? &control : nullptr;
   return true;
 }
 
-void ModelDriver::Type(TextControl& field, const std::vector<Key>& keys) {
-  if (!TabInto(field)) return;
+void ModelDriver::Type(Control& control, const std::vector<Key>& keys) {
+  if (!TabInto(control)) return;
   for (const Key key : keys) {
     // A field that another one was left for takes no more keys.
-    if (field.screen().focus() != &field) return;
-    TypeKey(field, key);
+    if (control.screen().focus() != &control) return;
+    TypeKey(control, key);
   }
 }
 
-void ModelDriver::TypeKey(TextControl& field, Key key) {
+void ModelDriver::TypeKey(Control& control, Key key) {
   // Tab moves the focus; it is not typed into the field.
   if (key == kTab) {
-    if (Control* next = field.screen().NextInTabOrder(field)) TabInto(*next);
+    if (Control* next = control.screen().NextInTabOrder(control)) TabInto(*next);
+  } else if (auto* list = dynamic_cast<PickList*>(&control)) {
+    TypeIntoList(*list, key);
+  } else if (auto* field = dynamic_cast<TextControl*>(&control)) {
+    TypeIntoField(*field, key);
+  } else if (key == U' ') {
+    Click(control);
+  }
+}
+
+void ModelDriver::TypeIntoList(PickList& list, Key key) {
+  if (key == kEnter) {
+    list.Choose(list.current());
     return;
   }
+  const bool replaces = selected_ == &list;
+  std::string words = replaces ? std::string{} : list.words();
+  if (key == kBackspace) {
+    if (!replaces) Shorten(words);
+  } else {
+    AppendUtf8(words, key);
+  }
+  selected_ = nullptr;
+  list.Narrow(std::move(words));
+}
+
+void ModelDriver::TypeIntoField(TextControl& field, Key key) {
   const Key taken = field.FilterKey(key);
   if (taken == 0) return;
   if (taken == kEnter && field.kind() != ControlKind::TextArea) return;
@@ -90,11 +117,7 @@ void ModelDriver::Leave(TextControl& field) {
 
 void ModelDriver::Press(Control& control, Key key) {
   if (control.screen().focus() != &control && !TabInto(control)) return;
-  if (auto* field = dynamic_cast<TextControl*>(&control)) {
-    TypeKey(*field, key);
-  } else if (key == U' ') {
-    Click(control);
-  }
+  TypeKey(control, key);
 }
 
 void ModelDriver::Click(Control& control) {

@@ -4,6 +4,8 @@
 
 namespace veldox {
 
+class PickList;
+
 /// Works the screens themselves, with no window behind them.
 class ModelDriver : public Driver {
  public:
@@ -11,7 +13,7 @@ class ModelDriver : public Driver {
 
   void ChooseMenu(const MenuItem& item) override;
   void Set(TextControl& field, const std::string& text) override;
-  void Type(TextControl& field, const std::vector<Key>& keys) override;
+  void Type(Control& control, const std::vector<Key>& keys) override;
   void Leave(TextControl& field) override;
   void Press(Control& control, Key key) override;
   void Click(Control& control) override;
@@ -22,7 +24,9 @@ class ModelDriver : public Driver {
  private:
   /// Enters a control by tab. False when the field that had the focus kept it.
   bool TabInto(Control& control);
-  void TypeKey(TextControl& field, Key key);
+  void TypeKey(Control& control, Key key);
+  void TypeIntoField(TextControl& field, Key key);
+  void TypeIntoList(PickList& list, Key key);
 
   Shell& shell_;
   const Control* selected_ = nullptr;  // the field whose text is all selected

@@ -69,11 +69,8 @@ std::string TextOf(const Control& control) {
       return static_cast<const OptionButton&>(control).on() ? "on" : "off";
     case ControlKind::OptionGroup:
       return std::to_string(static_cast<const OptionGroup&>(control).chosen());
-    case ControlKind::ComboList: {
-      const auto& list = static_cast<const ComboList&>(control);
-      return list.chosen() < 0 ? std::string{}
-                               : list.rows()[static_cast<std::size_t>(list.chosen())];
-    }
+    case ControlKind::ComboList:
+    case ControlKind::PickList: return static_cast<const ComboList&>(control).chosenText();
     default: return control.caption();
   }
 }
@@ -193,7 +190,9 @@ void ScriptRunner::Touch(std::string_view verb, std::string_view target, std::st
   } else if (verb == "set") {
     driver_.Set(Find<TextControl>(target, "field"), UnescapeText(text));
   } else if (verb == "type") {
-    driver_.Type(Find<TextControl>(target, "field"), ParseKeys(UnescapeText(text)));
+    Control& control = FindControl(target);
+    if (control.kind() != ControlKind::PickList) Find<TextControl>(target, "field");
+    driver_.Type(control, ParseKeys(UnescapeText(text)));
   } else if (verb == "leave") {
     driver_.Leave(Find<TextControl>(target, "field"));
   } else if (verb == "press") {

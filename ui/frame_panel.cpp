@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "ui/control_faces.h"
+#include "ui/pick_list_face.h"
 #include "ui/qt_text.h"
 
 namespace veldox {
@@ -102,6 +103,11 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
       labels_.push_back(face.label());
       break;
     }
+    case ControlKind::PickList:
+      grid_->setRowStretch(row, 1);
+      grid_->addWidget(faces.Make<PickListFace>(static_cast<PickList&>(control), this).panel(), row,
+                       0, 1, 3);
+      break;
     case ControlKind::Label:
       grid_->addWidget(faces.Make<LabelFace>(static_cast<Label&>(control), this).widget(), row, 0,
                        1, 3);

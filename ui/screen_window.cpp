@@ -50,7 +50,8 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
     if (control != nullptr) placed.push_back(control);
   }
 
-  scroll_->setWidget(BuildBody(placed));
+  body_ = BuildBody(placed);
+  scroll_->setWidget(body_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);
@@ -68,7 +69,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   SizeToScreen();
 }
 
-QWidget* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
+ColumnFlow* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
   auto* body = new ColumnFlow(kWindowMargin, kFrameGap, scroll_);
   body->setMouseTracking(true);
   body->installEventFilter(this);
@@ -132,7 +133,7 @@ QLayout* ScreenWindow::BesideOwnFace() {
 }
 
 void ScreenWindow::SizeToScreen() {
-  const QWidget& body = *scroll_->widget();
+  const ColumnFlow& body = *body_;
   if (ownFace_ != nullptr) {
     const QSize face = ownFace_->sizeHint();
     const int foot = layout()->minimumSize().height() -
@@ -146,7 +147,7 @@ void ScreenWindow::SizeToScreen() {
   const int bar = scroll_->verticalScrollBar()->sizeHint().width();
   const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
   int width = std::min(body.sizeHint().width(), room.width());
-  int height = body.heightForWidth(width) + foot;
+  int height = body.WantedHeight(width) + foot;
   if (height > room.height() || report_ != nullptr) {
     // The bar for scrolling down, which a report brings, takes its room beside the frames.
     width = std::min(width + bar, room.width());

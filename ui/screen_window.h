@@ -7,6 +7,8 @@
 
 namespace veldox {
 
+class ColumnFlow;
+
 /// Makes the widget that a screen shows beside its frames, or null.
 using OwnFaceMaker = QWidget* (*)(Screen& screen, QWidget* parent);
 
@@ -25,7 +27,7 @@ class ScreenWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QWidget* BuildBody(const std::vector<const Control*>& placed);
+  ColumnFlow* BuildBody(const std::vector<const Control*>& placed);
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
   /// The frames' columns at the left, as wide as they must be, and the screen's own face.
@@ -37,6 +39,7 @@ class ScreenWindow : public QWidget {
   Screen& screen_;
   FaceSet faces_;
   QScrollArea* scroll_;
+  ColumnFlow* body_;
   QWidget* ownFace_ = nullptr;  ///< null for most screens
   QWidget* report_ = nullptr;
   int heightWithoutReport_ = 0;

@@ -14,6 +14,7 @@
 #include "script/script_host.h"
 #include "ui/field_edit.h"
 #include "ui/menu_rows.h"
+#include "ui/pick_list_face.h"
 #include "ui/qt_text.h"
 #include "ui/title_area.h"
 
@@ -123,7 +124,10 @@ void WindowDriver::PointAt(QWidget& widget) {
 }
 
 void WindowDriver::ChooseMenu(const MenuItem& item) {
-  if (QAction* action = windows_.main().ActionOf(item)) action->trigger();
+  QAction* action = windows_.main().ActionOf(item);
+  if (action != nullptr && action->menu() == nullptr) action->trigger();
+  // A submenu opens nothing by itself, but its launcher button does.
+  if (action != nullptr && action->menu() != nullptr) model_.ChooseMenu(item);
   Settle();
 }
 
@@ -139,10 +143,10 @@ void WindowDriver::Set(TextControl& field, const std::string& text) {
   Settle();
 }
 
-void WindowDriver::Type(TextControl& field, const std::vector<Key>& keys) {
-  QWidget* widget = WidgetOf(field);
+void WindowDriver::Type(Control& control, const std::vector<Key>& keys) {
+  QWidget* widget = WidgetOf(control);
   if (widget == nullptr) {
-    model_.Type(field, keys);
+    model_.Type(control, keys);
     return;
   }
   // A field that has the focus is entered again: its text is selected as by a tab to it.
@@ -150,9 +154,9 @@ void WindowDriver::Type(TextControl& field, const std::vector<Key>& keys) {
     QFocusEvent again(QEvent::FocusIn, Qt::TabFocusReason);
     QCoreApplication::sendEvent(widget, &again);
   }
-  if (!Enter(field, *widget, Qt::TabFocusReason)) return;
+  if (!Enter(control, *widget, Qt::TabFocusReason)) return;
   for (const Key key : keys) {
-    if (field.screen().focus() != &field) return;
+    if (control.screen().focus() != &control) return;
     SendKey(key);
   }
 }
@@ -198,14 +202,24 @@ void WindowDriver::Click(Control& control) {
 }
 
 void WindowDriver::Select(ComboList& list, int row) {
-  auto* combo = static_cast<QComboBox*>(WidgetOf(list));
-  if (combo == nullptr) {
+  QWidget* widget = WidgetOf(list);
+  if (widget == nullptr) {
     model_.Select(list, row);
     return;
   }
-  if (!Enter(list, *combo, Qt::OtherFocusReason)) return;
-  combo->setCurrentIndex(row);
-  Q_EMIT combo->activated(row);
+  if (!Enter(list, *widget, Qt::OtherFocusReason)) return;
+  if (list.kind() == ControlKind::PickList) {
+    PickView& view = *static_cast<PickListFace*>(windows_.FaceOf(list))->view();
+    const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
+    const QPoint at = view.visualRect(index).center();
+    SendMouse(*view.viewport(), QEvent::MouseButtonPress, at);
+    SendMouse(*view.viewport(), QEvent::MouseButtonRelease, at);
+  } else {
+    auto* combo = static_cast<QComboBox*>(widget);
+    combo->setCurrentIndex(row);
+    Q_EMIT combo->activated(row);
+  }
   Settle();
 }
 

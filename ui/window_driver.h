@@ -20,7 +20,7 @@ class WindowDriver : public Driver {
 
   void ChooseMenu(const MenuItem& item) override;
   void Set(TextControl& field, const std::string& text) override;
-  void Type(TextControl& field, const std::vector<Key>& keys) override;
+  void Type(Control& control, const std::vector<Key>& keys) override;
   void Leave(TextControl& field) override;
   void Press(Control& control, Key key) override;
   void Click(Control& control) override;

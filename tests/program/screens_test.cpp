@@ -82,7 +82,8 @@ TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
 const std::map<std::string, int> kLevels{{"ui", 6},        {"script", 5},  {"program", 4},
                                          {"engine", 3},    {"cam", 3},     {"airfuel", 3},
                                          {"twostroke", 3}, {"vehicle", 3}, {"chassis", 3},
-                                         {"reference", 3}, {"graph", 2},   {"core", 1}};
+                                         {"reference", 3}, {"graph", 2},   {"core", 1},
+                                         {"data", 0}};
 
 TEST(Folders, IncludeDownwardsOnly) {
   const std::filesystem::path root = VELDOX_SOURCE_DIR;

@@ -60,9 +60,10 @@ class Scripts : public testing::TestWithParam<std::string> {
 
   Result RunScript(const std::string& more) const {
     const fs::path script = folder_ / (GetParam() + ".vs");
-    return RunProgram("QT_QPA_PLATFORM=offscreen " + std::string(VELDOX_SCRIPT) +
-                      " --date \"2026-11-21 14:05:09\" " + more + ' ' + ArgumentsOf(Load(script)) +
-                      " '" + script.string() + "' 2>'" + Complaints().string() + "'");
+    return RunProgram("cd '" + folder_.string() + "' && QT_QPA_PLATFORM=offscreen " +
+                      std::string(VELDOX_SCRIPT) + " --date \"2026-11-21 14:05:09\" " + more + ' ' +
+                      ArgumentsOf(Load(script)) + " '" + script.string() + "' 2>'" +
+                      Complaints().string() + "'");
   }
 
   /// What the program wrote to standard error, shown when a test fails.

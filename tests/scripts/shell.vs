@@ -6,7 +6,7 @@ get Main.CHASSIS
 state Main.CHASSIS
 state Main.File
 state Main.Tools
-state Main.Engine_Spec
+state Main.CoeffDrag_FrontalArea
 get Main.SRKVAL
 state Main.Frame12
 get Main.Label8

@@ -74,8 +74,12 @@ TEST_F(MainWindowTest, EveryMenuItemIsThereWithItsCaption) {
     }
     EXPECT_EQ(FromQt(action->text()), shell().MenuCaption(item));
     EXPECT_EQ(action->isEnabled(), shell().MenuEnabled(item)) << item.name;
-    const QString tip = action->isEnabled() ? action->text().remove(QLatin1Char('&'))
-                                            : QStringLiteral("Not available yet");
+    // The toolkit makes the tip of the caption, without the dots at its end.
+    QString tip = QStringLiteral("Not available yet");
+    if (action->isEnabled()) {
+      tip = action->text().remove(QLatin1Char('&'));
+      if (tip.endsWith(QLatin1String("..."))) tip.chop(3);
+    }
     EXPECT_EQ(action->toolTip(), tip) << item.name;
   }
 }
