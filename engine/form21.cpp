@@ -131,8 +131,11 @@ std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
 void Form21::Combo1_Click() {
   const std::string row = Combo1.chosenText();
   const std::vector<Figure> figures = FiguresOf(row);
-  // A closed screen may hold old values of others; it takes the shared ones as if it opened.
-  if (!form1_.visible() && block().FormsCleared != 1) form1_.CopyShared();
+  // Where another screen has changed the shared values since, a closed screen holds old ones:
+  // it takes them as if it opened, so that its command puts nothing back.
+  const Screen* owner = context().blockOwner;
+  const bool isOld = !form1_.visible() && owner != nullptr && owner != &form1_;
+  if (isOld && block().FormsCleared != 1) form1_.CopyShared();
   const std::array<Field*, kFigures> fields{&form1_.Text1, &form1_.Text3, &form1_.Text4,
                                             &form1_.Text2};
   for (std::size_t i = 0; i < figures.size(); ++i) {

@@ -137,13 +137,24 @@ TEST_F(Form21Test, RowsWithoutFiguresSayWhy) {
   EXPECT_EQ(row.note, "Values not verified - add your own row in user_bsr.prm");
 }
 
-TEST_F(Form21Test, AClosedDisplacementScreenTakesTheSharedValuesFirst) {
-  // Another screen has changed the engine speed since the displacement screen was open.
-  block().RPM = 7777;
+TEST_F(Form21Test, AClosedDisplacementScreenPutsNoOldValuesBack) {
+  Choose("CompRatio");
+  Screen& compression = *shell().FindScreen("Form1CR");
+  static_cast<Field&>(*compression.Find("Text10")).Edit("0.010");
+  static_cast<Command&>(*compression.Find("Command1")).Click();
+  ASSERT_EQ(block().DeckClearance, 0.010);
   Choose("AMC");
   Pick("I-151 (Pontiac) | 4.00 3.00 6.05 4");
-  EXPECT_EQ(block().RPM, 7777);
-  EXPECT_EQ(form1().Text5.text(), "7777");
+  EXPECT_NEAR(block().DeckClearance, 0.010, 1e-12);
+  EXPECT_EQ(form1().Text10.text(), "0.01");
+}
+
+TEST_F(Form21Test, TheDisplacementScreensOwnTextsStandUntilSomethingElseChangesTheValues) {
+  Choose("AMC");
+  Pick("I-151 (Pontiac) | 4.00 3.00 6.05 4");
+  // Half the stroke, the rod, 1.904 and 0.016 as the screen is made with.
+  EXPECT_EQ(form1().Text8.text(), "9.47");
+  EXPECT_EQ(form1().Text10.text(), "0.016");
 }
 
 TEST_F(Form21Test, AnOpenDisplacementScreenKeepsWhatIsTypedInIt) {

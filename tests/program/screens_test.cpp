@@ -79,11 +79,10 @@ TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
 
 /// The folders in the order in which they may include each other: a folder includes those
 /// of its own line and of the lines below.
-const std::map<std::string, int> kLevels{{"ui", 6},        {"script", 5},  {"program", 4},
-                                         {"engine", 3},    {"cam", 3},     {"airfuel", 3},
-                                         {"twostroke", 3}, {"vehicle", 3}, {"chassis", 3},
-                                         {"reference", 3}, {"graph", 2},   {"core", 1},
-                                         {"data", 0}};
+const std::map<std::string, int> kLevels{
+    {"ui", 6},      {"script", 5},    {"program", 4}, {"engine", 3},  {"cam", 3},
+    {"airfuel", 3}, {"twostroke", 3}, {"vehicle", 3}, {"chassis", 3}, {"reference", 3},
+    {"graph", 2},   {"core", 1},      {"data", 0}};
 
 TEST(Folders, IncludeDownwardsOnly) {
   const std::filesystem::path root = VELDOX_SOURCE_DIR;
