@@ -1,16 +1,22 @@
-// The grapher's surface drawn anew: what a window does when it is resized or its graph
-// changes.
+// What windows do under a user's hands: the grapher's surface drawn anew, and the engine
+// finder opened and narrowed.
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <cmath>
+#include <memory>
 
 #include "core/parameter_block.h"
 #include "graph/plot_engine.h"
+#include "program/program.h"
+#include "script/script_host.h"
 #include "ui/painter_surface.h"
+#include "ui/theme.h"
+#include "ui/window_manager.h"
 
 namespace {
 
@@ -50,11 +56,74 @@ void RedrawFourCurves(benchmark::State& state) {
 }
 BENCHMARK(RedrawFourCurves)->Arg(1)->Arg(2)->Arg(4)->Unit(benchmark::kMillisecond);
 
+/// The program with its windows.
+struct Windows {
+  Windows() { program.Start(); }
+  ScriptHost host{{"/nowhere", DecimalMark::Point, ClockTime{2026, 11, 21, 0, 0, 0}}};
+  Program program{host};
+  WindowManager manager{program.shell()};
+  Screen& finder = *program.shell().FindScreen("Form21");
+
+  /// Opens the list of all makes. @return its window, painted
+  QWidget& Open() {
+    program.shell().Choose(*Shell::FindMenuItem("Engine_Spec"));
+    return Paint();
+  }
+  QWidget& Paint() {
+    QCoreApplication::processEvents();
+    QWidget& window = *manager.WindowOf(finder);
+    window.grab();
+    return window;
+  }
+};
+
+/// From the choice in the menu to the painted window, the first time.
+void OpenEngineFinder(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto windows = std::make_unique<Windows>();
+    state.ResumeTiming();
+    windows->Open();
+    state.PauseTiming();
+    windows.reset();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(OpenEngineFinder)->Unit(benchmark::kMillisecond);
+
+/// The same once the window is there.
+void ReopenEngineFinder(benchmark::State& state) {
+  Windows windows;
+  windows.Open();
+  for (auto _ : state) {
+    state.PauseTiming();
+    windows.finder.Quit();
+    state.ResumeTiming();
+    windows.Open();
+  }
+}
+BENCHMARK(ReopenEngineFinder)->Unit(benchmark::kMillisecond);
+
+/// A letter typed into the list of all makes, until the window shows what it found.
+void TypeIntoEngineFinder(benchmark::State& state) {
+  Windows windows;
+  auto& line = *windows.Open().findChild<QLineEdit*>(QStringLiteral("Combo1"));
+  const QString typed = QStringLiteral("chevy 350 4.0 5.7 ");
+  qsizetype length = 0;
+  for (auto _ : state) {
+    length = length % typed.size() + 1;
+    line.setText(typed.left(length));
+    windows.Paint();
+  }
+}
+BENCHMARK(TypeIntoEngineFinder)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication app(argc, argv);
+  QApplication app(argc, argv);
+  veldox::ApplyTheme(app, veldox::Theme::System);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;
