@@ -7,6 +7,9 @@
 namespace veldox {
 namespace {
 
+/// Source of the rows that the program was made with.
+constexpr std::string_view kGiven = "given";
+
 bool IsName(const PickRow& row) {
   return row.kind == PickRow::Kind::Choice || row.kind == PickRow::Kind::NameOnly;
 }
@@ -52,7 +55,8 @@ std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVer
       case TableRow::Kind::Figures:
         rows.push_back({PickRow::Kind::Choice,
                         name + ' ' + kFiguresSign + ' ' + std::string(row.figures),
-                        "Source: " + std::string(row.source)});
+                        "Source: " + (row.source == kGiven ? "the program's own table"
+                                                           : std::string(row.source))});
         break;
     }
   }

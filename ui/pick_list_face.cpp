@@ -374,6 +374,10 @@ PickListFace::PickListFace(FaceSet& set, PickList& list, QWidget* parent)
 void PickListFace::Follow() {
   Face::Follow();
   panel_->setVisible(list_.visible());
+  // Assistive tools read the row where the arrow keys are.
+  if (list_.current() >= 0) {
+    line_->setAccessibleDescription(ToQt(list_.RowAt(list_.current()).text + ". " + list_.help()));
+  }
   name_->setText(ToQt(list_.caption()));
   view_->setAccessibleName(ToQt(list_.PlainCaption()));
   if (const QString words = ToQt(list_.words()); words != line_->text()) line_->setText(words);

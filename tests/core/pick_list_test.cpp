@@ -187,9 +187,10 @@ TEST(PickRowsOf, OfferNamesWithFiguresNamesAloneAndHeadings) {
   const TableRow rows[] = {{TableRow::Kind::Header, "4 Cylinder", "", ""},
                            {TableRow::Kind::Figures, "I-134", "3.125 4.375 9.1875 4", "maker"},
                            {TableRow::Kind::Header, "", "", ""},
-                           {TableRow::Kind::NameOnly, "304", "", ""}};
+                           {TableRow::Kind::NameOnly, "304", "", ""},
+                           {TableRow::Kind::Figures, "I-151", "4.00 3.00 6.05 4", "given"}};
   const std::vector<PickRow> offered = PickRowsOf({"AMC", rows}, "not verified");
-  ASSERT_EQ(offered.size(), 4U);
+  ASSERT_EQ(offered.size(), 5U);
   EXPECT_EQ(offered[0].text, "      -- 4 Cylinder --");
   EXPECT_EQ(offered[0].kind, Kind::Section);
   EXPECT_EQ(offered[1].text, "I-134 | 3.125 4.375 9.1875 4");
@@ -199,6 +200,7 @@ TEST(PickRowsOf, OfferNamesWithFiguresNamesAloneAndHeadings) {
   EXPECT_EQ(offered[3].text, "304");
   EXPECT_EQ(offered[3].kind, Kind::NameOnly);
   EXPECT_EQ(offered[3].note, "not verified");
+  EXPECT_EQ(offered[4].note, "Source: the program's own table");
 }
 
 }  // namespace
