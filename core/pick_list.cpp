@@ -123,7 +123,7 @@ void PickList::PrepareSearch() {
     } else if (row.kind == PickRow::Kind::Section) {
       section = searched_.back();
     } else {
-      searched_.back() += '\n' + section + '\n' + group;
+      searched_.back().append("\n").append(section).append("\n").append(group);
     }
   }
 }

@@ -105,7 +105,9 @@ std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
   for (std::string& text : PickedFigures(row, kFigures)) {
     const std::size_t index = figures.size();
     const auto fail = [&](ErrorKind kind, const std::string& what) {
-      throw CommandError(kind, std::string(kNames[index]) + " of " + where + ' ' + what);
+      std::string message(kNames[index]);
+      message.append(" of ").append(where).append(" ").append(what);
+      throw CommandError(kind, std::move(message));
     };
     // The list has points, the fields have what the system has.
     if (mark() == DecimalMark::Comma) std::replace(text.begin(), text.end(), '.', ',');
