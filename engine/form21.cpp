@@ -32,7 +32,7 @@ std::string MakeName(const TableGroup& group) {
   const MenuItem* item = Shell::FindMenuItem(MenuItemOf(group));
   const MenuItem* parent = item == nullptr ? nullptr : Shell::FindMenuItem(item->parent);
   if (parent == nullptr) return std::string(group.name);
-  const std::string caption(item->caption);
+  std::string caption(item->caption);
   const bool isCar = parent->name != "MotorCycle";
   if (isCar && caption != "Other") return caption;
   return std::string(parent->caption.substr(0, parent->caption.find(' '))) + " - " + caption;
