@@ -305,7 +305,8 @@ class ParameterFile::Writer {
   std::string FieldText(const KeyRow& row, std::string lastResort) const {
     const Field* field = AsField(file_.Owner(row));
     if (field == nullptr || !Readable(row, field->text())) return lastResort;
-    return OneLine(field->text());
+    if (!field->screen().metric()) return OneLine(field->text());
+    return FormatField(field->screen().InInches(*field, ParseNumber(field->text(), mark_)), mark_);
   }
 
   void WriteRow(const KeyRow& row) {
@@ -601,7 +602,7 @@ class ParameterFile::Reader {
     StoreNumber(row, block_, number);
     if (Field* field = AsField(owner)) {
       if (row.form == KeyForm::NumberOrField || row.form == KeyForm::FieldText) {
-        field->SetText(FormatField(number, mark_));
+        field->SetText(FormatField(field->screen().AsShown(*field, number), mark_));
       } else if (row.form == KeyForm::IntegerOrField) {
         field->SetText(FormatInt(number, mark_));
       }

@@ -319,43 +319,51 @@ void Screen::SetVisible(bool visible) {
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }
 
-bool Screen::RunInInches(const std::function<void()>& something) {
-  CheckBox& box = *MetricBox();
-  const auto values = std::make_unique<ParameterBlock>(block());
-  std::vector<std::pair<TextControl*, std::string>> texts;
-  for (Control* control : controls_) {
-    if (auto* text = dynamic_cast<TextControl*>(control)) texts.emplace_back(text, text->text());
+void ProgramContext::HandOver(Screen* screen) {
+  if (screen == metricOwner_) return;
+  for (const HeldValue& value : held_) {
+    *value.slot = *value.slot == value.metric ? value.inches : value.rule->toInches(*value.slot);
   }
-  if (!box.Click()) return false;
-  something();
-  for (auto& [control, text] : texts) control->SetText(std::move(text));
-  SetMetricShown(true);
-  box.SetOn(true);
-  block() = *values;
-  return true;
+  held_.clear();
+  metricOwner_ = screen;
+  if (screen == nullptr) return;
+  for (const Screen::MetricValue& value : screen->MetricValues()) {
+    if (value.slot == nullptr) continue;
+    held_.push_back({value.slot, value.rule, *value.slot, value.rule->toMetric(*value.slot)});
+    *value.slot = held_.back().metric;
+  }
 }
 
 void Screen::CopyShared() {
-  Screen* owner = context_.blockOwner;
-  const bool blockIsMetric = owner != nullptr && owner->metric();
-  if (blockIsMetric == metric()) {
-    CopyFromBlock();
-  } else if (blockIsMetric) {
-    // Another screen shows millimetres; this one shows inches.
-    owner->RunInInches([&] { CopyFromBlock(); });
-  } else {
-    // This screen shows millimetres and the values come from one in inches.
-    const auto values = std::make_unique<ParameterBlock>(block());
-    if (!MetricBox()->Click()) return;
-    block() = *values;
-    CopyFromBlock();
-    MetricBox()->Click();
+  context_.HandOver(metric() ? this : nullptr);
+  CopyFromBlock();
+}
+
+double Screen::AsShown(const Field& field, double inches) {
+  if (!metric()) return inches;
+  for (const MetricValue& value : MetricValues()) {
+    if (value.field == &field) return value.rule->toMetric(inches);
   }
+  return inches;
+}
+
+double Screen::InInches(const Field& field, double shown) {
+  if (!metric()) return shown;
+  for (const MetricValue& value : MetricValues()) {
+    if (value.field == &field) return value.rule->toInches(shown);
+  }
+  return shown;
 }
 
 void Screen::Quit() {
-  // An unread number keeps the screen open: its box has told which field holds it.
-  if (CheckBox* box = MetricBox(); box != nullptr && box->on() && !box->Click()) return;
+  if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
+    if (block().FormsCleared == 1) {
+      SwitchBlankUnits(false);
+    } else if (!box->Click()) {
+      // An unread number keeps the screen open: its box has told which field holds it.
+      return;
+    }
+  }
   Hover(nullptr);
   if (ReportBox* report = ReportPane(); report != nullptr) {
     report->CloseReport();
@@ -386,9 +394,10 @@ void Screen::ShowHelp(const std::string& sentence) {
 
 bool Screen::Perform(const std::function<void()>& command) {
   for (Control* control : controls_) control->SetMark(Mark::None);
+  if (UsesSharedValues()) context_.HandOver(metricShown_ ? this : nullptr);
   if (MetricBox() != nullptr) {
     block().MetricSwitch = metricShown_ ? 1 : 0;
-    context_.blockOwner = this;
+    context_.lastReader = this;
   }
   std::feclearexcept(FE_ALL_EXCEPT);
   try {
@@ -537,28 +546,66 @@ void Screen::Store(double& slot, Field& field, double value, DividesBy divisors)
   slot = value;
 }
 
-Screen::UnitConversion::UnitConversion(Screen& screen, bool toMetric)
-    : screen_(screen),
-      toMetric_(toMetric),
-      factor_(toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch) {}
-
-void Screen::UnitConversion::Append(Field& field, double* slot, double value, Format format) {
-  screen_.RequireResult(field, value);
-  converted_.push_back({&field, slot, value, format});
-}
-
-void Screen::UnitConversion::AddShown(Field& field, double by, double* slot) {
-  if (!IsNumber(field.text(), screen_.mark())) return;
-  Append(field, slot, screen_.Read(field) * by, &FormatField);
-}
-
-void Screen::UnitConversion::Store() {
-  screen_.block().MetricSwitch = toMetric_ ? 1 : 0;
-  screen_.block().MetricFactor = factor_;
-  for (const Converted& c : converted_) {
-    if (c.slot != nullptr) *c.slot = c.value;
-    screen_.ShowText(*c.field, c.format(c.value, screen_.mark()));
+void Screen::SwitchUnits(const std::function<void()>& derive) {
+  const bool toMetric = !metric();
+  struct Converted {
+    const MetricValue* value;
+    double number;
+  };
+  std::vector<Converted> converted;
+  std::vector<HeldValue> held;
+  const std::vector<MetricValue> values = MetricValues();
+  for (const MetricValue& value : values) {
+    if (toMetric && value.slot != nullptr) {
+      held.push_back({value.slot, value.rule, *value.slot, 0});
+    }
+    double number = 0;
+    if (value.from == MetricValue::From::Slot) {
+      number = *value.slot;
+    } else if (value.from == MetricValue::From::Shown && IsNumber(value.field->text(), mark())) {
+      number = Read(*value.field);
+    } else {
+      continue;
+    }
+    number = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
+    if (value.field != nullptr) RequireResult(*value.field, number);
+    converted.push_back({&value, number});
   }
+
+  const auto before = std::make_unique<ParameterBlock>(block());
+  std::vector<std::pair<TextControl*, std::string>> texts;
+  for (Control* control : controls_) {
+    if (auto* text = dynamic_cast<TextControl*>(control)) texts.emplace_back(text, text->text());
+  }
+  block().MetricSwitch = toMetric ? 1 : 0;
+  block().MetricFactor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
+  for (const Converted& c : converted) {
+    if (c.value->slot != nullptr) *c.value->slot = c.number;
+    if (c.value->field != nullptr) ShowText(*c.value->field, c.value->format(c.number, mark()));
+  }
+  try {
+    if (derive) derive();
+  } catch (...) {
+    block() = *before;
+    for (auto& [control, text] : texts) control->SetText(std::move(text));
+    throw;
+  }
+  for (HeldValue& value : held) value.metric = *value.slot;
+  context_.held_ = std::move(held);
+  context_.metricOwner_ = toMetric ? this : nullptr;
+  SetMetricShown(toMetric);
+}
+
+void Screen::SwitchBlankUnits(bool toMetric) {
+  context_.HandOver(nullptr);
+  for (const MetricValue& value : MetricValues()) {
+    if (value.field == nullptr || !IsNumber(value.field->text(), mark())) continue;
+    const double number = ParseNumber(value.field->text(), mark());
+    value.field->SetText(value.format(
+        toMetric ? value.rule->toMetric(number) : value.rule->toInches(number), mark()));
+  }
+  MetricBox()->SetOn(toMetric);
+  SetMetricShown(toMetric);
 }
 
 void Screen::SetMetricShown(bool metric) {

@@ -18,8 +18,17 @@
 namespace veldox {
 
 class Control;
+class Field;
 class Frame;
 class Screen;
+
+/// A shared value while it is held in a screen's metric units.
+struct HeldValue {
+  double* slot;
+  const UnitRule* rule;
+  double inches;  ///< what it was before
+  double metric;  ///< what it became
+};
 
 /// What every screen works with: the shared values, the rules of fields, the world.
 struct ProgramContext {
@@ -31,12 +40,23 @@ struct ProgramContext {
     return block.DecimalCommaMode != 0 ? DecimalMark::Comma : DecimalMark::Point;
   }
 
+  /// Puts the shared values into the units that a screen works with. What nobody has changed
+  /// since comes back to the last digit.
+  /// @param screen  a screen that shows metric units; null for inches, as files and all other
+  ///                screens need them
+  void HandOver(Screen* screen);
+
   Host& host;
   ParameterBlock block;
   FieldRules rules;
-  /// The screen with a "Metric" box whose values the block holds: the one that ran a
-  /// command last. While it shows metric units, so does the block.
-  Screen* blockOwner = nullptr;
+  /// The screen with a "Metric" box that ran a command last: its fields agree with the shared
+  /// values.
+  Screen* lastReader = nullptr;
+
+ private:
+  friend class Screen;
+  Screen* metricOwner_ = nullptr;  ///< whose metric units the block is in; null for inches
+  std::vector<HeldValue> held_;
 };
 
 /// Told by a control that something of it has changed, so that a window can follow.
@@ -388,10 +408,29 @@ class Screen {
   /// True while the fields show metric units.
   bool metric() const { return metricShown_; }
 
-  /// Runs something while the shared values are in inches, although this screen, which owns
-  /// them, shows metric units; to the last digit, all is as it was afterwards. False, and
-  /// nothing is run, when the fields cannot be converted (a box has told why).
-  bool RunInInches(const std::function<void()>& something);
+  /// A value whose unit the "Metric" box changes.
+  struct MetricValue {
+    enum class From {
+      Slot,     ///< the box converts what the read-all routine has parsed into its slot
+      Shown,    ///< the box converts the number that its field shows then, if it is one
+      Derived,  ///< the box works it out anew
+    };
+    Field* field;  ///< where it is shown; null for a value without a field here
+    double* slot;  ///< where it is kept; null for one that only its field holds
+    const UnitRule* rule;
+    From from = From::Slot;
+    std::string (*format)(double, DecimalMark) = &FormatField;
+  };
+  /// All values whose unit the "Metric" box changes.
+  virtual std::vector<MetricValue> MetricValues() { return {}; }
+  /// A number of a field in inches, as the field shows it now, and the reverse.
+  double AsShown(const Field& field, double inches);
+  double InInches(const Field& field, double shown);
+  /// Ticks or unticks the "Metric" box of a screen with blank fields: what is a number is
+  /// converted, and no shared value is touched.
+  void SwitchBlankUnits(bool toMetric);
+  /// False for a screen whose commands have nothing to do with the shared values' units.
+  virtual bool UsesSharedValues() const { return true; }
 
   /// Closes the screen as its "&Quit" button does.
   void Quit();
@@ -453,49 +492,16 @@ class Screen {
   static void Require(bool holds, Field& field, const char* message) {
     if (!holds) throw CommandError(ErrorKind::InvalidArgument, message, &field);
   }
-  void SetMetricShown(bool metric);
-
-  /// Changes a screen's values to the other units. Every new value is worked out before the
-  /// first is stored, so that a conversion that fails changes nothing.
-  class UnitConversion {
-   public:
-    UnitConversion(Screen& screen, bool toMetric);
-    /// Millimetres an inch, or the reverse.
-    double factor() const { return factor_; }
-
-    using Format = std::string (*)(double, DecimalMark);
-    /// A value and the field that shows it. @throws CommandError for what is no finite number
-    void Add(Field& field, double& slot, double value, Format format = &FormatField) {
-      Append(field, &slot, value, format);
-    }
-    void AddLength(Field& field, double& slot, Format format = &FormatField) {
-      Append(field, &slot, slot * factor_, format);
-    }
-    /// The number that a field shows, times a factor; a field without a number is left alone.
-    /// @param slot  where the value is kept as well, or null
-    void AddShown(Field& field, double by, double* slot = nullptr);
-    /// Stores and shows all of them and sets the switch.
-    void Store();
-
-   private:
-    struct Converted {
-      Field* field;
-      double* slot;
-      double value;
-      Format format;
-    };
-    void Append(Field& field, double* slot, double value, Format format);
-
-    Screen& screen_;
-    bool toMetric_;
-    double factor_;
-    std::vector<Converted> converted_;
-  };
+  /// The Click of the "Metric" box, after the read-all routine: changes all values to the
+  /// other units. A failure leaves everything as it was.
+  /// @param derive  works out the values that are derived
+  void SwitchUnits(const std::function<void()>& derive = {});
 
  private:
   friend class Control;
   friend class Frame;
   void Report(const CommandError& error);
+  void SetMetricShown(bool metric);
   void TakeFocus(Control* control);
 
   ProgramContext& context_;

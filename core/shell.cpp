@@ -382,7 +382,11 @@ void Shell::Open(Screen& screen) {
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
-    box->Click();
+    if (block().FormsCleared == 1) {
+      screen.SwitchBlankUnits(true);
+    } else {
+      box->Click();
+    }
   }
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
   if (opened_) opened_(screen);
@@ -429,6 +433,7 @@ void Shell::Read() {
     }
   }
   const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Open);
+  context().HandOver(nullptr);
   const int records = parameterFile_.ReadParameterFile(path);
   TellMenuChanged();
   GraphOptionsChanged();
@@ -438,6 +443,8 @@ void Shell::Read() {
 void Shell::Write() {
   const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Save);
   int records = 0;
+  // Files hold inches.
+  context().HandOver(nullptr);
   {
     const BusyCursor busy(context().host);
     records = parameterFile_.Write(path);

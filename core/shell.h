@@ -103,6 +103,7 @@ class Shell : public Screen {
   ParameterFile& parameterFile() { return parameterFile_; }
   TitleAnimation& titleAnimation() { return titleAnimation_; }
   Control* HelpPlace() override { return &Label77; }
+  bool UsesSharedValues() const override { return false; }
   void ClearFields() override;
 
   void Hover(Control* control) override;

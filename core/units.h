@@ -13,6 +13,17 @@ inline constexpr double kNewtonsPerPound = 4.448222;
 inline constexpr double kNewtonMetresPerFootPound = 1.3558179;
 inline constexpr double kGramsPerPound = 453.5923696;
 
+/// How a value changes between inches, pounds and Fahrenheit and the metric units.
+struct UnitRule {
+  double (*toMetric)(double);
+  double (*toInches)(double);
+};
+
+inline constexpr UnitRule kLengthRule{[](double inches) { return inches * kMillimetresPerInch; },
+                                      [](double mm) { return mm * (1 / kMillimetresPerInch); }};
+inline constexpr UnitRule kPowerRule{[](double hp) { return hp * kKilowattsPerHorsepower; },
+                                     [](double kw) { return kw / kKilowattsPerHorsepower; }};
+
 /// What a field measures; the face shows the unit's sign beside it.
 enum class Unit {
   None,

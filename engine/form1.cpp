@@ -19,6 +19,18 @@ constexpr double kFootFormulaToMetres = 12.0 / 1000;
 /// The same for the bearing speed, whose formula has seconds and inches in its divisor.
 constexpr double kBearingFormulaToMetres = 12.0 / 1000;
 
+constexpr double kSquareMillimetresPerSquareInch = kMillimetresPerInch * kMillimetresPerInch;
+constexpr double kCcPerCubicInch =
+    kSquareMillimetresPerSquareInch * kMillimetresPerInch / kCubicMillimetresPerCc;
+constexpr UnitRule kSurfaceSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
+                                     [](double metres) { return metres * kFeetPerMetre; }};
+constexpr UnitRule kPistonSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
+                                    [](double metres) { return metres / kMetresPerFoot; }};
+constexpr UnitRule kAreaRule{[](double area) { return area * kSquareMillimetresPerSquareInch; },
+                             [](double area) { return area / kSquareMillimetresPerSquareInch; }};
+constexpr UnitRule kVolumeRule{[](double volume) { return volume * kCcPerCubicInch; },
+                               [](double volume) { return volume / kCcPerCubicInch; }};
+
 }  // namespace
 
 Form1::Form1(ProgramContext& context, Grapher& grapher)
@@ -482,44 +494,44 @@ void Form1::Command13_Click() {
   GraphPiston(false);
 }
 
-void Form1::Check1_Click() {
-  ReadEngineFields();
+std::vector<Screen::MetricValue> Form1::MetricValues() {
+  using From = MetricValue::From;
   ParameterBlock& b = block();
-  const bool toMetric = b.MetricSwitch != 1;
-  ConvertEngineUnits(toMetric);
-  SetMetricShown(toMetric);
+  return {{&Text1, &b.Bore, &kLengthRule},
+          {&Text3, &b.Stroke, &kLengthRule},
+          {&Text4, &b.RodLength, &kLengthRule},
+          {&Text17, &b.RodLength2, &kLengthRule},
+          {&Text8, &b.BlockDeckHeight, &kLengthRule},
+          {&Text9, &b.PistonCompressionHeight, &kLengthRule},
+          {&Text10, &b.DeckClearance, &kLengthRule},
+          {&Text26, &b.BoreIncrease, &kLengthRule},
+          {&Text48, &b.PistonTravel, &kLengthRule, From::Shown},
+          {&Text18, nullptr, &kLengthRule, From::Shown},
+          {&Text19, nullptr, &kLengthRule, From::Shown},
+          {&Text32, &b.WristPinOffset, &kLengthRule},
+          {&Text33, &b.JournalDiameter, &kLengthRule, From::Shown},
+          {&Text20, &b.PortDiameter, &kLengthRule},
+          {&Text27, &b.HorsePower, &kPowerRule},
+          {&Text28, &b.HorsePowerIncrease, &kPowerRule},
+          {&Text34, nullptr, &kSurfaceSpeedRule, From::Shown},
+          {&Text6, &b.CubicInches, &kVolumeRule, From::Derived},
+          {&Text13, &b.AveragePistonSpeed, &kPistonSpeedRule, From::Derived},
+          {&Text24, &b.PistonArea, &kAreaRule, From::Derived}};
 }
 
-void Form1::ConvertEngineUnits(bool toMetric) {
-  ParameterBlock& b = block();
-  UnitConversion units(*this, toMetric);
-  units.AddLength(Text1, b.Bore);
-  units.AddLength(Text3, b.Stroke);
-  units.AddLength(Text4, b.RodLength);
-  units.AddLength(Text17, b.RodLength2);
-  units.AddLength(Text8, b.BlockDeckHeight);
-  units.AddLength(Text9, b.PistonCompressionHeight);
-  units.AddLength(Text10, b.DeckClearance);
-  units.AddLength(Text26, b.BoreIncrease);
-  units.AddShown(Text48, units.factor(), &b.PistonTravel);
-  units.AddShown(Text18, units.factor());
-  units.AddShown(Text19, units.factor());
-  units.AddLength(Text32, b.WristPinOffset);
-  units.AddShown(Text33, units.factor(), &b.JournalDiameter);
-  units.AddLength(Text20, b.PortDiameter);
-  const double power = toMetric ? kKilowattsPerHorsepower : 1 / kKilowattsPerHorsepower;
-  units.Add(Text27, b.HorsePower, b.HorsePower * power);
-  units.Add(Text28, b.HorsePowerIncrease, b.HorsePowerIncrease * power);
-  units.AddShown(Text34, toMetric ? kMetresPerFoot : kFeetPerMetre);
-  units.Store();
-  Store(b.CubicInches, Text6, EngineSizeInFieldUnits());
-  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke);
-  // Without a bore the ratio stays as it is: the unit has no part in it.
-  if (b.Bore != 0) Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore);
-  Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke);
-  Show(Text7, 2 * b.RodStrokeRatio);
-  StoreMeanPistonSpeed();
-  Store(b.PistonArea, Text24, PistonArea(b.Bore));
+void Form1::Check1_Click() {
+  ReadEngineFields();
+  SwitchUnits([this] {
+    ParameterBlock& b = block();
+    Store(b.CubicInches, Text6, EngineSizeInFieldUnits());
+    Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke);
+    // Without a bore the ratio stays as it is: the unit has no part in it.
+    if (b.Bore != 0) Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore);
+    Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke);
+    Show(Text7, 2 * b.RodStrokeRatio);
+    StoreMeanPistonSpeed();
+    Store(b.PistonArea, Text24, PistonArea(b.Bore));
+  });
 }
 
 }  // namespace veldox

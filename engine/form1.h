@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/screen.h"
 #include "engine/displacement.h"
@@ -23,6 +24,7 @@ class Form1 : public Screen {
 
   void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
+  std::vector<MetricValue> MetricValues() override;
   Control* HelpPlace() override { return &Label7; }
   ReportBox* ReportPane() override { return &Text38; }
 
@@ -59,7 +61,6 @@ class Form1 : public Screen {
 
   void ReadEngineFields();
   void DeriveEngineFields();
-  void ConvertEngineUnits(bool toMetric);
   void StoreMeanPistonSpeed();
   void StoreBoreAndStroke(const BoreAndStroke& size);
   /// The mean piston speed in feet a minute when the stroke is in inches; in Metric in the

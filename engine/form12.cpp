@@ -16,6 +16,13 @@ constexpr double kCubicMillimetresPerCc = 1000;
 /// Of the exponents, the one nearest to that of cranking.
 constexpr int kUsualExponent = 6;
 
+constexpr UnitRule kBarometerRule{
+    [](double inHg) { return inHg * kMillibarsPerInchMercury; },
+    [](double mbar) { return mbar * (1 / kMillibarsPerInchMercury); }};
+constexpr UnitRule kGaugeRule{[](double psi) { return psi * kGaugeUnitsPerPsi; },
+                              [](double units) { return units * (1 / kGaugeUnitsPerPsi); }};
+constexpr UnitRule kTemperatureRule{&CelsiusOf, &FahrenheitOf};
+
 }  // namespace
 
 Form12::Form12(ProgramContext& context, Grapher& grapher)
@@ -356,34 +363,26 @@ void Form12::Command5_Click() {
 
 void Form12::Check1_Click() {
   ReadCompFields();
-  const bool toMetric = block().MetricSwitch != 1;
-  ConvertCompFields(toMetric);
-  SetMetricShown(toMetric);
+  SwitchUnits();
 }
 
-void Form12::ConvertCompFields(bool toMetric) {
+std::vector<Screen::MetricValue> Form12::MetricValues() {
+  using From = MetricValue::From;
   ParameterBlock& b = block();
-  UnitConversion units(*this, toMetric);
-  units.AddLength(Text1, b.Bore);
-  units.AddLength(Text3, b.Stroke);
-  units.AddLength(Text4, b.RodLength);
-  units.AddLength(Text22, b.WristPinOffset, &FormatField11);
-  units.AddShown(Text8, units.factor());
-  units.AddShown(Text9, units.factor());
-  const double barometer = toMetric ? kMillibarsPerInchMercury : 1 / kMillibarsPerInchMercury;
-  units.Add(Text30, b.BarometricPressure, b.BarometricPressure * barometer);
-  units.AddShown(Text33, barometer);
-  units.AddShown(Text37, barometer);
-  const double gauge = toMetric ? kGaugeUnitsPerPsi : 1 / kGaugeUnitsPerPsi;
-  units.Add(Text35, b.CompressionGauge, b.CompressionGauge * gauge);
-  const auto temperature = [&](Field& field, double& slot) {
-    units.Add(field, slot, toMetric ? CelsiusOf(slot) : FahrenheitOf(slot));
-  };
-  temperature(Text31, b.Temperature);
-  temperature(Text34, dewPoint_);
-  temperature(Text6, inletAir_);
-  temperature(Text2, water_);
-  units.Store();
+  return {{&Text1, &b.Bore, &kLengthRule},
+          {&Text3, &b.Stroke, &kLengthRule},
+          {&Text4, &b.RodLength, &kLengthRule},
+          {&Text22, &b.WristPinOffset, &kLengthRule, From::Slot, &FormatField11},
+          {&Text8, nullptr, &kLengthRule, From::Shown},
+          {&Text9, nullptr, &kLengthRule, From::Shown},
+          {&Text30, &b.BarometricPressure, &kBarometerRule},
+          {&Text33, nullptr, &kBarometerRule, From::Shown},
+          {&Text37, nullptr, &kBarometerRule, From::Shown},
+          {&Text35, &b.CompressionGauge, &kGaugeRule},
+          {&Text31, &b.Temperature, &kTemperatureRule},
+          {&Text34, &dewPoint_, &kTemperatureRule},
+          {&Text6, &inletAir_, &kTemperatureRule},
+          {&Text2, &water_, &kTemperatureRule}};
 }
 
 }  // namespace veldox

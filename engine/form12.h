@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/screen.h"
 #include "engine/cranking_graphs.h"
@@ -18,6 +19,7 @@ class Form12 : public Screen {
 
   void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
+  std::vector<MetricValue> MetricValues() override;
   Control* HelpPlace() override { return &Text38; }
   ReportBox* ReportPane() override { return &Text38; }
 
@@ -35,7 +37,6 @@ class Form12 : public Screen {
   void Check1_Click();
 
   void ReadCompFields();
-  void ConvertCompFields(bool toMetric);
   void EstimateGauge(DosRule rule);
   void EstimateRatio(DosRule rule);
   void EstimateOctane();

@@ -12,6 +12,10 @@ namespace {
 constexpr double kSmallestStroke = 0.00001;
 constexpr double kThousandth = 0.001;
 
+/// The swept volume stands in cubic inches or, in metric, in cc.
+constexpr UnitRule kSweptVolumeRule{[](double volume) { return volume * (1 / kCubicInchesPerCc); },
+                                    [](double cc) { return cc * kCubicInchesPerCc; }};
+
 }  // namespace
 
 Form1CR::Form1CR(ProgramContext& context, Grapher& grapher)
@@ -388,34 +392,27 @@ void Form1CR::Check3_Click() {
 
 void Form1CR::Check1_Click() {
   ReadRatioFields();
-  const bool toMetric = block().MetricSwitch != 1;
-  ConvertRatioUnits(toMetric);
-  SetMetricShown(toMetric);
+  SwitchUnits();
 }
 
-void Form1CR::ConvertRatioUnits(bool toMetric) {
+std::vector<Screen::MetricValue> Form1CR::MetricValues() {
+  using From = MetricValue::From;
   ParameterBlock& b = block();
-  UnitConversion units(*this, toMetric);
-  const auto power = [&](Field& field, double& slot) {
-    units.Add(field, slot,
-              toMetric ? slot * kKilowattsPerHorsepower : slot / kKilowattsPerHorsepower);
-  };
-  units.AddLength(Text1, b.Bore);
-  units.AddLength(Text3, b.Stroke);
-  units.AddLength(Text10, b.DeckClearance);
-  units.AddLength(Text14, b.HeadGasket);
-  units.AddLength(Text18, b.HeadGasketBore);
-  units.AddLength(Text19, b.DepthFirstRing);
-  units.AddLength(Text20, b.TopLandDiameter);
-  units.AddLength(Text22, b.PistonDepth);
-  units.AddLength(Text6, b.DishDepth);
-  units.AddLength(Text5, b.DishBore);
-  power(Text27, b.HorsePower);
-  power(Text28, b.HorsePowerIncrease);
-  units.AddShown(Text2, units.factor());
-  units.AddShown(Text4, toMetric ? 1 / kCubicInchesPerCc : kCubicInchesPerCc);
-  units.Store();
-  b.BlockDeckHeight *= units.factor();
+  return {{&Text1, &b.Bore, &kLengthRule},
+          {&Text3, &b.Stroke, &kLengthRule},
+          {nullptr, &b.BlockDeckHeight, &kLengthRule},
+          {&Text10, &b.DeckClearance, &kLengthRule},
+          {&Text14, &b.HeadGasket, &kLengthRule},
+          {&Text18, &b.HeadGasketBore, &kLengthRule},
+          {&Text19, &b.DepthFirstRing, &kLengthRule},
+          {&Text20, &b.TopLandDiameter, &kLengthRule},
+          {&Text22, &b.PistonDepth, &kLengthRule},
+          {&Text6, &b.DishDepth, &kLengthRule},
+          {&Text5, &b.DishBore, &kLengthRule},
+          {&Text27, &b.HorsePower, &kPowerRule},
+          {&Text28, &b.HorsePowerIncrease, &kPowerRule},
+          {&Text2, nullptr, &kLengthRule, From::Shown},
+          {&Text4, nullptr, &kSweptVolumeRule, From::Shown}};
 }
 
 }  // namespace veldox

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/screen.h"
 #include "engine/compression.h"
@@ -20,6 +21,7 @@ class Form1CR : public Screen {
 
   void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
+  std::vector<MetricValue> MetricValues() override;
   Control* HelpPlace() override { return &Text38; }
   ReportBox* ReportPane() override { return &Text38; }
 
@@ -50,7 +52,6 @@ class Form1CR : public Screen {
   void ReadRatioFields();
   void UpdateSweptVolume();
   void UpdateClearanceVolumes();
-  void ConvertRatioUnits(bool toMetric);
   void Warn(const std::string& text);
   /// The bore as the volumes of a thousandth of an inch take it.
   double InchesForThousandth(double bore) const;

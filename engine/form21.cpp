@@ -135,8 +135,8 @@ void Form21::Combo1_Click() {
   const std::vector<Figure> figures = FiguresOf(row);
   // Where another screen has changed the shared values since, a closed screen holds old ones:
   // it takes them as if it opened, so that its command puts nothing back.
-  const Screen* owner = context().blockOwner;
-  const bool isOld = !form1_.visible() && owner != nullptr && owner != &form1_;
+  const Screen* reader = context().lastReader;
+  const bool isOld = !form1_.visible() && reader != nullptr && reader != &form1_;
   if (isOld && block().FormsCleared != 1) form1_.CopyShared();
   const std::array<Field*, kFigures> fields{&form1_.Text1, &form1_.Text3, &form1_.Text4,
                                             &form1_.Text2};

@@ -18,12 +18,11 @@ class BoreScreen : public Screen {
   void Use() { ReadInto(block().Bore, Text1); }
   void Check1_Click() {
     Use();
-    const bool toMetric = block().MetricSwitch != 1;
-    const double factor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
-    Store(block().Bore, Text1, block().Bore * factor);
-    Show(Text2, Read(Text2) * factor);
-    block().MetricSwitch = toMetric ? 1 : 0;
-    SetMetricShown(toMetric);
+    SwitchUnits();
+  }
+  std::vector<MetricValue> MetricValues() override {
+    return {{&Text1, &block().Bore, &kLengthRule},
+            {&Text2, nullptr, &kLengthRule, MetricValue::From::Shown}};
   }
 
   Frame Frame1{*this, "Frame1", ""};
@@ -44,15 +43,82 @@ class MetricTest : public testing::Test {
 
 TEST_F(MetricTest, AScreenOpensInInchesWhileAnotherShowsMillimetres) {
   shell_.Open(first_);
+  first_.Text1.SetText("4.006996");
   first_.Check1.Click();
-  first_.Text1.SetText("101.7777");
+  EXPECT_EQ(first_.Text1.text(), "101.7776");
   shell_.Open(second_);
-  EXPECT_EQ(second_.Text1.text(), "4.006996");  // 101.7777 / 25.4
+  EXPECT_EQ(second_.Text1.text(), "4.006996");
+  EXPECT_EQ(context_->block.Bore, 4.006996);
   EXPECT_EQ(second_.Text2.text(), "1.0");
-  EXPECT_EQ(first_.Text1.text(), "101.7777");
+  EXPECT_EQ(first_.Text1.text(), "101.7776");
   EXPECT_EQ(first_.Text2.text(), "25.4");
   EXPECT_TRUE(first_.Check1.on());
   EXPECT_TRUE(first_.metric());
+}
+
+TEST_F(MetricTest, WhatNoCommandHasReadReachesNoOtherScreen) {
+  shell_.Open(first_);
+  first_.Check1.Click();
+  first_.Text1.SetText("120");
+  shell_.Open(second_);
+  EXPECT_EQ(second_.Text1.text(), "4.0");
+  // Not even what is no number.
+  first_.Text1.SetText("wide");
+  shell_.Open(second_);
+  EXPECT_EQ(second_.Text1.text(), "4.0");
+  EXPECT_TRUE(first_.Check1.on());
+}
+
+TEST_F(MetricTest, ValuesComeBackToTheLastDigitOrAreConverted) {
+  ParameterBlock& b = context_->block;
+  shell_.Open(first_);
+  first_.Text1.SetText("0.1");
+  first_.Check1.Click();
+  for (int i = 0; i < 100; ++i) {
+    context_->HandOver(nullptr);
+    EXPECT_EQ(b.Bore, 0.1);
+    context_->HandOver(&first_);
+    EXPECT_EQ(b.Bore, 0.1 * 25.4);
+  }
+  b.Bore = 50.8;
+  context_->HandOver(nullptr);
+  EXPECT_DOUBLE_EQ(b.Bore, 2);
+}
+
+TEST_F(MetricTest, AConversionThatFailsChangesNothing) {
+  shell_.Open(first_);
+  first_.Text2.SetText("1e308");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(first_.Check1.Click());
+  EXPECT_EQ(first_.Text1.text(), "4.0");
+  EXPECT_EQ(context_->block.Bore, 4);
+  EXPECT_FALSE(first_.metric());
+  EXPECT_FALSE(first_.Check1.on());
+}
+
+TEST_F(MetricTest, AScreenWithBlankFieldsCanBeClosed) {
+  shell_.Open(first_);
+  first_.Check1.Click();
+  context_->block.FormsCleared = 1;
+  first_.ClearFields();
+  first_.Text2.SetText("50.8");
+  first_.Quit();
+  EXPECT_FALSE(first_.visible());
+  EXPECT_FALSE(first_.metric());
+  EXPECT_FALSE(first_.Check1.on());
+  EXPECT_EQ(first_.Text1.text(), "");
+  EXPECT_EQ(first_.Text2.text(), "2.0");
+  EXPECT_EQ(context_->block.Bore, 4);
+}
+
+TEST_F(MetricTest, AScreenWithBlankFieldsOpensInMetricWithoutABox) {
+  context_->block.FormsCleared = 1;
+  context_->block.MetricMenuOn = -1;
+  first_.ClearFields();
+  shell_.Open(first_);
+  EXPECT_TRUE(first_.metric());
+  EXPECT_TRUE(first_.Check1.on());
+  EXPECT_EQ(context_->block.Bore, 4);
 }
 
 TEST_F(MetricTest, ValuesOfAnInchScreenReachAMetricOneInMillimetres) {
@@ -75,16 +141,6 @@ TEST_F(MetricTest, EachScreensCommandsTakeItsOwnUnits) {
   EXPECT_EQ(context_->block.MetricSwitch, 0);
   first_.Command1.Click();
   EXPECT_EQ(context_->block.MetricSwitch, 1);
-}
-
-TEST_F(MetricTest, ANumberThatCannotBeConvertedIsToldAndNothingIsCopied) {
-  shell_.Open(first_);
-  first_.Check1.Click();
-  first_.Text1.SetText("wide");
-  host_.Answer(Button::OK);
-  shell_.Open(second_);
-  EXPECT_EQ(second_.Text1.text(), "4.0");
-  EXPECT_TRUE(first_.Check1.on());
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class Bench : public Screen {
   void Lost() { std::vector<int>().at(3); }
   void Toggle() {
     Read(A);
-    SetMetricShown(!metric());
+    SwitchUnits();
   }
 
   Frame Frame1{*this, "Frame1", "Frame"};

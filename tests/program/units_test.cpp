@@ -1,0 +1,183 @@
+// Screens in inches and in millimetres side by side: one block of values, and files, that hold
+// what they say.
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "program/program.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+class UnitsTest : public testing::Test {
+ protected:
+  UnitsTest() {
+    host_.folder = folder_.path();
+    program_.Start();
+  }
+
+  ParameterBlock& block() { return program_.context().block; }
+  void Menu(std::string_view item) { program_.shell().Choose(*Shell::FindMenuItem(item)); }
+  template <class T>
+  T& Find(const char* name) {
+    return dynamic_cast<T&>(*program_.shell().FindControl(name));
+  }
+  void Set(const char* field, const char* text) { Find<Field>(field).Edit(text); }
+  std::string Text(const char* field) { return Find<Field>(field).text(); }
+  void Click(const char* command) { Find<Command>(command).Click(); }
+  void Tick(const char* box) { EXPECT_TRUE(Find<CheckBox>(box).Click()); }
+  void Quit(const char* screen) { program_.shell().FindScreen(screen)->Quit(); }
+  std::string WriteFile() {
+    host_.AnswerFile(folder_ / "out.prm");
+    host_.Answer(Button::OK);
+    Menu("Write");
+    std::ifstream file(folder_ / "out.prm");
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+  }
+  void ReadFile(const std::string& text) {
+    std::ofstream(folder_ / "in.prm") << text;
+    block().DataChanged = 0;
+    host_.AnswerFile(folder_ / "in.prm");
+    host_.Answer(Button::OK);
+    Menu("Read");
+  }
+  static std::string Line(const std::string& file, const std::string& key) {
+    const auto at = file.find("\n" + key + " =");
+    return at == std::string::npos ? "" : file.substr(at + 1, file.find('\r', at) - at - 1);
+  }
+
+  TemporaryFolder folder_;
+  TestHost host_;
+  Program program_{host_};
+};
+
+TEST_F(UnitsTest, AThirdScreenGetsInchesWhateverRanLast) {
+  Menu("CubicInch");
+  Set("Form1.Text10", ".016");
+  Set("Form1.Text27", "500");
+  Click("Form1.Command1");
+  Tick("Form1.Check1");
+  EXPECT_EQ(block().Bore, 4 * 25.4);
+  Menu("CompGauge");
+  Click("Form12.Command18");
+  EXPECT_EQ(block().Bore, 4);
+  Menu("CompRatio");
+  EXPECT_EQ(Text("Form1CR.Text10"), "0.016");
+  EXPECT_EQ(Text("Form1CR.Text27"), "500.0");
+}
+
+TEST_F(UnitsTest, AMetricScreenReopensWithWhatItShowed) {
+  Menu("CompRatio");
+  Set("Form1CR.Text10", ".016");
+  Set("Form1CR.Text27", "500");
+  Tick("Form1CR.Check1");
+  EXPECT_EQ(Text("Form1CR.Text10"), "0.4064");
+  Menu("CompGauge");
+  Click("Form12.Command18");
+  Menu("CompRatio");
+  EXPECT_EQ(Text("Form1CR.Text10"), "0.4064");
+  EXPECT_EQ(Text("Form1CR.Text27"), "372.8505");
+  Tick("Form1CR.Check1");
+  EXPECT_EQ(Text("Form1CR.Text10"), "0.016");
+}
+
+TEST_F(UnitsTest, WeatherIsConvertedOnce) {
+  Menu("CompGauge");
+  const std::string inHg = Text("Form12.Text30");
+  const std::string fahrenheit = Text("Form12.Text31");
+  Tick("Form12.Check1");
+  const std::string mbar = Text("Form12.Text30");
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  EXPECT_EQ(block().Temperature, 59);
+  Menu("CompGauge");
+  EXPECT_EQ(Text("Form12.Text30"), mbar);
+  EXPECT_EQ(Text("Form12.Text31"), "15.0");
+  Tick("Form12.Check1");
+  EXPECT_EQ(Text("Form12.Text31"), fahrenheit);
+  EXPECT_NEAR(block().BarometricPressure, 29.92, 1e-4) << inHg;
+}
+
+TEST_F(UnitsTest, DeckHeightSurvivesTwoMetricScreens) {
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  const double deckHeight = block().BlockDeckHeight;
+  Quit("Form1");
+  Menu("Metric");
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  Menu("CompRatio");
+  EXPECT_NEAR(block().BlockDeckHeight, deckHeight * 25.4, 1e-3);
+  Click("Form1CR.Command10");
+  EXPECT_NEAR(block().BlockDeckHeight, deckHeight * 25.4, 1e-3);
+  Quit("Form1");
+  Quit("Form1CR");
+  EXPECT_NEAR(block().BlockDeckHeight, deckHeight, 1e-5);
+}
+
+TEST_F(UnitsTest, DeckHeightSurvivesACommandInInchesWhileTheOtherShowsMillimetres) {
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  Quit("Form1");
+  Menu("CompRatio");
+  Tick("Form1CR.Check1");
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  const double deckHeight = block().BlockDeckHeight;
+  Quit("Form1CR");
+  EXPECT_DOUBLE_EQ(block().BlockDeckHeight, deckHeight);
+}
+
+TEST_F(UnitsTest, AFileReadWhileAScreenShowsMillimetresReachesTheNextScreen) {
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  ReadFile("Bore = 4.5\nStroke = 3.5\nBlock Deck Height = 9.1\nBore Increase = 0.03\n");
+  EXPECT_EQ(block().Bore, 4.5);
+  // What shows at once shows in the screen's units.
+  EXPECT_EQ(Text("Form1.Text8"), "231.14");
+  EXPECT_EQ(Text("Form1.Text26"), "0.762");
+  Menu("CompRatio");
+  EXPECT_EQ(Text("Form1CR.Text1"), "4.5");
+  EXPECT_EQ(Text("Form1CR.Text3"), "3.5");
+  Menu("CubicInch");
+  EXPECT_EQ(Text("Form1.Text1"), "114.3");
+  Tick("Form1.Check1");
+  EXPECT_EQ(Text("Form1.Text1"), "4.5");
+  EXPECT_EQ(Text("Form1.Text8"), "9.1");
+}
+
+TEST_F(UnitsTest, FilesHoldInchesWhateverTheScreensShow) {
+  Menu("CubicInch");
+  Click("Form1.Command1");
+  Menu("CompRatio");
+  Click("Form1CR.Command10");
+  const std::string inches = WriteFile();
+  Tick("Form1CR.Check1");
+  Tick("Form1.Check1");
+  const std::string metric = WriteFile();
+  for (const char* key :
+       {"Bore", "Stroke", "Rod Length", "Block Deck Height", "Head Gasket", "Head Gasket Bore",
+        "Dish Bore", "Journal Diameter", "Cubic Inches", "Horse Power", "Piston Travel"}) {
+    EXPECT_NE(Line(inches, key), "") << key;
+    EXPECT_EQ(Line(metric, key), Line(inches, key));
+  }
+}
+
+TEST_F(UnitsTest, FieldsThatStandForAValueAreWrittenInInches) {
+  // No command has read the journal's diameter yet: the file takes it from the field.
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  block().JournalDiameter = 0;
+  program_.context().HandOver(nullptr);
+  block().JournalDiameter = 0;
+  EXPECT_EQ(Text("Form1.Text33"), "63.5");
+  EXPECT_EQ(Line(WriteFile(), "Journal Diameter"), "Journal Diameter = 2.5");
+}
+
+}  // namespace
+}  // namespace veldox
