@@ -14,6 +14,7 @@ namespace veldox {
 enum class KeyForm {
   Comment,         ///< a comment line that stands in the file as it is
   Number,          ///< FormatSmart of the value, always
+  NumberAtOnce,    ///< the same; what is read shows at once, since no opener shows it
   NumberOrField,   ///< the value; when it is 0 the owning field's text; else "0.0"
   Integer,         ///< the value by "0"
   IntegerOrField,  ///< as NumberOrField by "0"

@@ -317,7 +317,8 @@ class ParameterFile::Writer {
         written_.bytes += row.key;
         EndLine();
         return;
-      case KeyForm::Number: Record(row.key, FormatSmart(value, mark_)); return;
+      case KeyForm::Number:
+      case KeyForm::NumberAtOnce: Record(row.key, FormatSmart(value, mark_)); return;
       case KeyForm::NumberOrField:
         Record(row.key,
                value != 0 ? FormatSmart(value, mark_) : FieldText(row, FormatSmart(0, mark_)));
@@ -600,11 +601,25 @@ class ParameterFile::Reader {
       }
     }
     StoreNumber(row, block_, number);
+    // 0 is what the file says of a value that no command has read yet.
+    if (row.form == KeyForm::NumberAtOnce && number != 0) ShowNumber(owner, number);
     if (Field* field = AsField(owner)) {
       if (row.form == KeyForm::NumberOrField || row.form == KeyForm::FieldText) {
         field->SetText(FormatField(field->screen().AsShown(*field, number), mark_));
       } else if (row.form == KeyForm::IntegerOrField) {
         field->SetText(FormatInt(number, mark_));
+      }
+    }
+  }
+
+  void ShowNumber(Control* owner, double number) const {
+    if (Field* field = AsField(owner)) field->SetText(FormatField(number, mark_));
+    auto* list = dynamic_cast<ComboList*>(owner);
+    if (list == nullptr) return;
+    for (std::size_t row = 0; row < list->rows().size(); ++row) {
+      const std::string& text = list->rows()[row];
+      if (IsNumber(text, DecimalMark::Point) && ParseNumber(text, DecimalMark::Point) == number) {
+        list->Choose(static_cast<int>(row));
       }
     }
   }

@@ -483,6 +483,7 @@ void Form1::GraphPiston(bool first) {
   } catch (const CommandError& error) {
     FailForGeometry(error);
   }
+  DeriveEngineFields();
   grapher_.ShowGraph();
 }
 

@@ -12,6 +12,7 @@ namespace veldox {
 namespace {
 
 constexpr double kSmallestStroke = 0.00001;
+constexpr const char* kNoPressure = "must be greater than the Vapor Pressure, and than 0.";
 constexpr double kCubicMillimetresPerCc = 1000;
 /// Of the exponents, the one nearest to that of cranking.
 constexpr int kUsualExponent = 6;
@@ -45,13 +46,6 @@ void Form12::CopyFromBlock() {
   Text30.SetText(FormatField(b.BarometricPressure, mark()));
   Text45.SetText(FormatField(b.DynamicCompressionRatio, mark()));
   Text22.SetText(FormatField(b.WristPinOffset, mark()));
-  // These two are 0 until this screen or a file has given them.
-  if (b.CrankAngleCG != 0) Text10.SetText(FormatField(b.CrankAngleCG, mark()));
-  const auto& rows = Combo1.rows();
-  const auto row = std::find_if(rows.begin(), rows.end(), [&](const std::string& text) {
-    return ParseNumber(text, DecimalMark::Point) == b.BaseExponent;
-  });
-  if (row != rows.end()) Combo1.Choose(static_cast<int>(row - rows.begin()));
 }
 
 void Form12::ReadCompFields() {
@@ -161,6 +155,7 @@ void Form12::EstimateGauge(DosRule rule) {
   ParameterBlock& b = block();
   Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
   const double base = AtmosphereBase(rule);
+  Require(base > 0, Text30, kNoPressure);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   const double clearance = cylinder.sweptCc / (b.CompressionRatio - 1);
   const double ratio = (clearance + cylinder.closedCc) / clearance;
@@ -184,7 +179,7 @@ void Form12::EstimateRatio(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
   const double base = AtmosphereBase(rule);
-  Require(base > 0, Text30, "must be greater than the Vapor Pressure, and than 0.");
+  Require(base > 0, Text30, kNoPressure);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   Store(b.CompressionRatio, Text17,
         CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
@@ -259,7 +254,7 @@ void Form12::Command2_Click() {
   const double base = GaugeBase(rule);
   Require(b.Bore != 0, Text1, "must not be 0 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
-  Require(base > 0, Text30, "must be greater than the Vapor Pressure, and than 0.");
+  Require(base > 0, Text30, kNoPressure);
   RequireRod();
   const std::string shown = Text35.text();
   const double reading = b.CompressionGauge;

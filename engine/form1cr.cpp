@@ -124,6 +124,7 @@ void Form1CR::StoreTotalForRatio() {
   ParameterBlock& b = block();
   Require(b.CompressionRatio != 1, Text17,
           "must not be 1 for this command: at 1 there is no compression.");
+  Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
   Store(b.TotalVol, Text21, ClearanceForRatio(sweptCc_, b.CompressionRatio));
 }
 
@@ -133,6 +134,10 @@ void Form1CR::Command10_Click() {
   ReadRatioFields();
   UpdateSweptVolume();
   UpdateClearanceVolumes();
+  ReadChamberAndDome();
+  Require(Volumes().Total() >= 0, Text16,
+          "takes more room than all the other volumes give: there would be no space left above "
+          "the piston.");
   SumVolumes();
 }
 
@@ -208,6 +213,8 @@ void Form1CR::Command17_Click() {
 Dish Form1CR::ReadDish() {
   ReadRatioFields();
   const ParameterBlock& b = block();
+  Require(b.DishBore >= 0, Text5, "must not be negative for this command.");
+  Require(b.DishDepth >= 0, Text6, "must not be negative for this command.");
   return {b.DishBore, b.DishDepth, b.DishRadius};
 }
 

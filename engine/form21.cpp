@@ -17,6 +17,8 @@ constexpr std::string_view kAllMakes = "Engine_Spec";
 constexpr std::string_view kNotVerified = "Values not verified - add your own row in user_bsr.prm";
 /// Messages quote no more of a row.
 constexpr std::size_t kQuotedRow = 120;
+/// Far beyond every engine, and far within what the displacement screen can hold.
+constexpr double kLargestFigure = 10000;
 
 enum FigureIndex : std::size_t { kBore, kStroke, kRodLength, kCylinders, kFigures };
 
@@ -120,6 +122,10 @@ std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
     if (index == kRodLength ? value < 0 : value <= 0) {
       fail(ErrorKind::InvalidArgument,
            index == kRodLength ? "must not be below 0." : "must be above 0.");
+    }
+    if (value > kLargestFigure) fail(ErrorKind::InvalidArgument, "is too large.");
+    if (index == kCylinders && value != Floor(value)) {
+      fail(ErrorKind::InvalidArgument, "must be a whole number.");
     }
     figures.push_back({std::move(text), value});
   }

@@ -315,7 +315,8 @@ void Form8::RunGraphScript(const std::filesystem::path& file, ReadMode mode,
   std::optional<PlotEngine> under;
   if (script->overlay) under = zoom ? underOverlay_ : std::optional(plot_);
   PlotEngine next = under ? *under : PlotEngine(block());
-  next.SetScale(range);
+  // What stands under an overlay keeps its values, also where the overlay brings other axes.
+  next.Rescale(range);
   for (const auto& [number, text] : script->captions) next.SetCaption(number, text);
   next.DrawGrid();
   next.SetGridLines(script->gridLinesX, script->gridLinesY);
@@ -342,7 +343,8 @@ void Form8::RunGraphScript(const std::filesystem::path& file, ReadMode mode,
   }
   for (const GraphScript::Circle& circle : script->circles) {
     const Color color = circle.color.value_or(CurveColorOf(next.CurveIndex)).color;
-    next.PlotCircle(circle.center.x, circle.center.y, circle.radius, color);
+    next.PlotCircle(circle.center.x, circle.center.y, circle.radius,
+                    {color, static_cast<double>(circle.width), circle.style});
   }
   underOverlay_ = std::move(under);
   scriptFile_ = file;

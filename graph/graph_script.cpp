@@ -95,7 +95,7 @@ class Reader {
   }
 
   bool Axes() {
-    if (lower_ == "overlay") {
+    if (Is("overlay")) {
       script_.overlay = true;
     } else if (Is("xlow = ")) {
       script_.xLow = Number();
@@ -143,7 +143,7 @@ class Reader {
       const auto [x, y, radius] = Numbers<3>();
       const double shown = radius * std::abs(xScale_);
       if (radius < 0 || !std::isfinite(shown)) Invalid();
-      script_.circles.push_back({Placed(x, y), shown, color_});
+      script_.circles.push_back({Placed(x, y), shown, color_, width_, style_});
     } else if (Is("reset =")) {
       EndCurve();
     } else {

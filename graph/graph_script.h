@@ -27,6 +27,8 @@ struct GraphScript {
     GraphPoint center;
     double radius = 0;
     std::optional<CurveColorEntry> color;
+    int width = 0;  ///< 0: the option's width
+    LineStyle style = LineStyle::Solid;
   };
 
   bool overlay = false;

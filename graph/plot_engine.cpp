@@ -142,6 +142,14 @@ void PlotEngine::SetScale(const AxisRange& range) {
   YHigh = range.yHigh;
 }
 
+void PlotEngine::Rescale(const AxisRange& range) {
+  SetScale(range);
+  for (PlotSeriesRecord& series : series_) series.range = range;
+  for (PlotLineRecord& line : lines_) line.range = range;
+  for (PlotCircleRecord& circle : circles_) circle.range = range;
+  for (PlotBoxRecord& box : boxes_) box.range = range;
+}
+
 void PlotEngine::FitFrame(const SurfaceRect& frame) {
   GraphBottom = frame.bottom();
   XUnitsPerPixel = (XHigh - XLow) / frame.width;
@@ -321,15 +329,15 @@ void PlotEngine::PlotBox(double x, double y, Color color) {
   boxes_.push_back({{x, y}, color, scale()});
 }
 
-void PlotEngine::PlotCircle(double x, double y, double radius, Color color, double aspect) {
+void PlotEngine::PlotCircle(double x, double y, double radius, Pen pen, double aspect) {
   RequireFinite(x, y);
   RequireFinite(radius, aspect);
   if (radius < 0 || aspect <= 0) {
     throw CommandError(ErrorKind::InvalidArgument,
                        "A circle needs a radius that is not negative, and an aspect above 0.");
   }
-  const double width = std::clamp<int>(block_->GraphLineWidth, 1, kWidestLine);
-  circles_.push_back({{x, y}, radius, aspect, {color, width, LineStyle::Solid}, scale()});
+  if (pen.width <= 0) pen.width = std::clamp<int>(block_->GraphLineWidth, 1, kWidestLine);
+  circles_.push_back({{x, y}, radius, aspect, pen, scale()});
 }
 
 void PlotEngine::PlotAdjustedLine(GraphPoint from, GraphPoint to, const Pen& pen,

@@ -147,6 +147,8 @@ class PlotEngine {
   /// Sets the limits of the axes. @throws CommandError (InvalidArgument) unless all are
   /// finite and each high limit is above its low one; nothing changes then
   void SetScale(const AxisRange& range);
+  /// The same, and all that has been drawn moves to its values on the new axes.
+  void Rescale(const AxisRange& range);
   AxisRange scale() const { return {XLow, XHigh, YLow, YHigh}; }
   /// The X axis is a crank angle: "TDC" and "BDC" stand under it.
   bool crankAngleAxis = false;
@@ -197,7 +199,8 @@ class PlotEngine {
   /// A small box around a point.
   void PlotBox(double x, double y, Color color);
   /// A circle; its radius is in X units. @throws CommandError (Overflow, InvalidArgument)
-  void PlotCircle(double x, double y, double radius, Color color, double aspect = 1);
+  /// @param pen  its width is the option's where it is 0
+  void PlotCircle(double x, double y, double radius, Pen pen, double aspect = 1);
   /// A line with both ends given, in value units.
   void PlotAdjustedLine(GraphPoint from, GraphPoint to, const Pen& pen, bool inTextColor = false);
 

@@ -95,9 +95,10 @@ ModelRange ModelSpeeds(int type, double peakRpm) {
   if (type >= kFirstPolynomial) {
     return kPolynomialRanges[static_cast<std::size_t>(type - kFirstPolynomial)];
   }
-  // A peak slower than the reach itself would begin at or below standstill.
-  const double reach = std::fmin(ReachBelowPeak(peakRpm), peakRpm / 4);
-  const double low = (peakRpm - reach) * (constants.peakSpeed / peakRpm);
+  const double scale = constants.peakSpeed / peakRpm;
+  double low = (peakRpm - ReachBelowPeak(peakRpm)) * scale;
+  // A slow peak would begin below standstill, or where its model gives no power.
+  if (low <= 0 || Shape(type, low) <= 0) low = (peakRpm - peakRpm / 4) * scale;
   return {kWalkStep * Floor(low / kWalkStep), kTopOfTypes1To4};
 }
 

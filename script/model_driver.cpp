@@ -40,7 +40,7 @@ void ModelDriver::ChooseMenu(const MenuItem& item) {
 }
 
 void ModelDriver::Set(TextControl& field, const std::string& text) {
-  if (!field.screen().MoveFocus(&field)) return;
+  if (!field.enabled() || !field.screen().MoveFocus(&field)) return;
   field.Edit(text);
   selected_ = nullptr;
 }
@@ -56,7 +56,7 @@ bool ModelDriver::TabInto(Control& control) {
 }
 
 void ModelDriver::Type(Control& control, const std::vector<Key>& keys) {
-  if (!TabInto(control)) return;
+  if (!control.enabled() || !TabInto(control)) return;
   for (const Key key : keys) {
     // A field that another one was left for takes no more keys.
     if (control.screen().focus() != &control) return;
@@ -116,6 +116,7 @@ void ModelDriver::Leave(TextControl& field) {
 }
 
 void ModelDriver::Press(Control& control, Key key) {
+  if (!control.enabled()) return;
   if (control.screen().focus() != &control && !TabInto(control)) return;
   TypeKey(control, key);
 }
@@ -135,7 +136,7 @@ void ModelDriver::Click(Control& control) {
 }
 
 void ModelDriver::Select(ComboList& list, int row) {
-  if (!list.screen().MoveFocus(&list)) return;
+  if (!list.enabled() || !list.screen().MoveFocus(&list)) return;
   list.Choose(row);
 }
 

@@ -82,8 +82,10 @@ void FieldFace::Follow() {
   const QString help = ToQt(field_.help());
   edit_->setAccessibleDescription(
       help.isEmpty() || unit.isEmpty() ? help + unit : help + QLatin1Char(' ') + unit);
-  label_->setVisible(field_.visible());
-  unit_->setVisible(field_.visible());
+  for (QLabel* label : {label_, unit_}) {
+    label->setVisible(field_.visible());
+    label->setEnabled(field_.enabled());
+  }
   if (const QString text = ToQt(field_.text()); text != edit_->text()) {
     edit_->setText(text);
     if (!edit_->hasFocus()) edit_->home(false);

@@ -236,7 +236,7 @@ TEST_F(Form21Test, AShortUserRowLeavesTheLaterFieldsAsTheyWere) {
 TEST_F(Form21Test, MalformedUserRowsAreRefusedByNameAndChangeNothing) {
   UserRows(
       "a | abc 3.5 6 8\nb | 4 3.5x 6 8\nc | 4 3.5 6 8 cyl\nd |\ne | 0 3 6 8\nf | 4 3 -6 8\n"
-      "g | 4 3 6 0\nh | 4,1 3 6 8\n");
+      "g | 4 3 6 0\nh | 4,1 3 6 8\ni | 4 3 6 8.5\nj | 4 3 6 40000\nk | 1e300 3 6 8\n");
   const auto before = Shown();
   const std::vector<std::pair<std::string, std::string>> boxes{
       {"a | abc 3.5 6 8", "Bore of the row \"a | abc 3.5 6 8\" holds \"abc\""},
@@ -246,7 +246,10 @@ TEST_F(Form21Test, MalformedUserRowsAreRefusedByNameAndChangeNothing) {
       {"e | 0 3 6 8", "Bore of the row \"e | 0 3 6 8\" must be above 0."},
       {"f | 4 3 -6 8", "Rod Length of the row \"f | 4 3 -6 8\" must not be below 0."},
       {"g | 4 3 6 0", "Number of Cylinders of the row \"g | 4 3 6 0\" must be above 0."},
-      {"h | 4,1 3 6 8", "Bore of the row \"h | 4,1 3 6 8\" holds \"4,1\", which is not a number."}};
+      {"h | 4,1 3 6 8", "Bore of the row \"h | 4,1 3 6 8\" holds \"4,1\", which is not a number."},
+      {"i | 4 3 6 8.5", "Number of Cylinders of the row \"i | 4 3 6 8.5\" must be a whole number."},
+      {"j | 4 3 6 40000", "Number of Cylinders of the row \"j | 4 3 6 40000\" is too large."},
+      {"k | 1e300 3 6 8", "Bore of the row \"k | 1e300 3 6 8\" is too large."}};
   for (const auto& [row, box] : boxes) {
     ExpectBox();
     Pick(row);

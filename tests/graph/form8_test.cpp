@@ -226,6 +226,29 @@ TEST_F(Form8Test, AnOverlayDrawsOnThePresentGraph) {
   EXPECT_EQ(plot.series().size(), 2U) << "zooming does not add the overlay again";
 }
 
+TEST_F(Form8Test, WhatStandsUnderAnOverlayKeepsItsValues) {
+  ReadGraph("xhigh = 100\nyhigh = 100\nline = 0,50,100,50\ncircle = 5,5,2\n");
+  ReadGraph("overlay\nyhigh = 200\nline = 0,60,100,60\n");
+  EXPECT_EQ(form_.plot().scale(), (AxisRange{0, 100, 0, 200}));
+  for (int zoom = 0; zoom < 3; ++zoom) {
+    for (const PlotSeriesRecord& series : form_.plot().series()) {
+      EXPECT_EQ(series.range, form_.plot().scale());
+    }
+    EXPECT_EQ(form_.plot().circles()[0].range, form_.plot().scale());
+    host_.Answer(Button::OK);
+    form_.Command8.Click();
+  }
+}
+
+TEST_F(Form8Test, CirclesHaveTheirFilesPen) {
+  ReadGraph("xhigh = 9\nyhigh = 9\ncircle = 1,1,1\ndrawwidth = 6\ndrawstyle = 2\ncircle = 5,5,2\n");
+  const auto& circles = form_.plot().circles();
+  ASSERT_EQ(circles.size(), 2U);
+  EXPECT_EQ(circles[0].pen.width, 1);
+  EXPECT_EQ(circles[1].pen.width, 6);
+  EXPECT_EQ(circles[1].pen.style, static_cast<LineStyle>(2));
+}
+
 TEST_F(Form8Test, CountsRecordsByThousands) {
   std::string text = "xhigh = 10\nyhigh = 10\nline = 0,0,5,5\n";
   for (int i = 0; i < 1997; ++i) text += "; more\n";

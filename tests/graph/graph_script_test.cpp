@@ -104,6 +104,7 @@ TEST(GraphScript, CaptionsKeepTheirCase) {
 TEST(GraphScript, ReadsCirclesAndGridLines) {
   const GraphScript script = Parse("overlay\ngrid x l = 12\ngrid y l = 7\ncircle = 1,2,3\n");
   EXPECT_TRUE(script.overlay);
+  EXPECT_TRUE(Parse("Overlay on the last graph\nxhigh = 5\n").overlay) << "matched by prefix";
   EXPECT_EQ(script.gridLinesX, 12);
   EXPECT_EQ(script.gridLinesY, 7);
   ASSERT_EQ(script.circles.size(), 1U);

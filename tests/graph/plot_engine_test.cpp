@@ -404,7 +404,7 @@ TEST_F(PlotEngineTest, ACurveOfAnEarlierScaleStaysWhereItWasDrawn) {
 TEST_F(PlotEngineTest, ACircleHasItsRadiusInXUnits) {
   plot_.SetScale({0, 100, 0, 1});
   plot_.DrawAxes();
-  plot_.PlotCircle(50, 0.5, 10, {1, 2, 3}, 0.5);
+  plot_.PlotCircle(50, 0.5, 10, {{1, 2, 3}}, 0.5);
   RecordingSurface surface(600, 600);
   const SurfaceRect frame = plot_.DrawOn(surface, {}).frame;
   const auto& corners = surface.polylines.at(0).points;

@@ -46,7 +46,17 @@ TEST(PowerCurves, HaveTheirSpeeds) {
   EXPECT_EQ(ModelSpeeds(1, 8800).high, 10000);
   // 1800 below the peak of 8800, in model speed: 7000 * 8300 / 8800 = 6602.27
   EXPECT_EQ(ModelSpeeds(2, 8800).low, 6600);
+  // 1600 below a peak of 5000 at 3400: 3400 * 8450 / 5000 = 5746
+  EXPECT_EQ(ModelSpeeds(1, 5000).low, 5745);
+  EXPECT_EQ(ModelSpeeds(1, 6300).low, 6300);  // 4700 * 8450 / 6300 = 6303.97
+  // Below 1600 RPM, and where the model would give no power, it begins a quarter below the peak.
+  EXPECT_EQ(ModelSpeeds(1, 2500).low, 6335);  // 8450 * 3 / 4 = 6337.5
   EXPECT_GT(ModelSpeeds(4, 10).low, 0);
+  for (int type = 1; type <= 4; ++type) {
+    for (double rpm = 100; rpm <= 20000; rpm += 100) {
+      EXPECT_GT(ModelHorsepower(type, ModelSpeeds(type, rpm).low, 1000), 0) << type << ' ' << rpm;
+    }
+  }
 }
 
 TEST(PowerCurves, AreEight) {

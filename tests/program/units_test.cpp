@@ -179,5 +179,19 @@ TEST_F(UnitsTest, FieldsThatStandForAValueAreWrittenInInches) {
   EXPECT_EQ(Line(WriteFile(), "Journal Diameter"), "Journal Diameter = 2.5");
 }
 
+TEST_F(UnitsTest, FieldsThatNoOpenerFillsKeepTheirTextsAndShowAFileAtOnce) {
+  Menu("CompGauge");
+  Click("Form12.Command18");
+  Set("Form12.Text10", "30");
+  Find<ComboList>("Form12.Combo1").Choose(10);
+  Quit("Form12");
+  Menu("CompGauge");
+  EXPECT_EQ(Text("Form12.Text10"), "30");
+  EXPECT_EQ(Find<ComboList>("Form12.Combo1").chosenText(), "1.48");
+  ReadFile("Crank Angle CG = 25\nBase Exponent = 1.35\n");
+  EXPECT_EQ(Text("Form12.Text10"), "25.0");
+  EXPECT_EQ(Find<ComboList>("Form12.Combo1").chosenText(), "1.35");
+}
+
 }  // namespace
 }  // namespace veldox

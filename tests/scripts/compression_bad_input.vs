@@ -137,3 +137,27 @@ click Form1CR.subend
 get Form1CR.Check1
 get Form1CR.Text1
 messages
+pause A dome that fills everything, and ratios below 1
+menu CompRatio
+set Form1CR.Text16 100
+click Form1CR.Command10
+messages
+get Form1CR.Text17
+set Form1CR.Text16 19.5
+set Form1CR.Text17 0.5
+click Form1CR.Command11
+click Form1CR.Command14
+click Form1CR.Command12
+messages
+set Form1CR.Text17 10
+set Form1CR.Text6 -1
+click Form1CR.Command2
+messages
+get Form1CR.Text8
+pause A box that switches fields off
+check Form1CR.Check2
+state Form1CR.Text14
+set Form1CR.Text14 9.9
+type Form1CR.Text14 8
+get Form1CR.Text14
+uncheck Form1CR.Check2

@@ -107,3 +107,11 @@ choose Form12.Option1(6)
 set Form12.Text13 0.5
 click Form12.Command6
 messages
+pause Weather without any pressure left
+menu CompGauge
+set Form12.Text30 29.92
+set Form12.Text31 500
+set Form12.Text32 500
+click Form12.Command8
+click Form12.Command9
+messages

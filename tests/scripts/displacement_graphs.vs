@@ -29,3 +29,20 @@ set Form1.Text32 5
 choose Form1.Option1(0)
 click Form1.Command12
 messages
+pause A graph works out the deck stack and the ratios as every command does
+uncheck Form1.Check1
+choose Form1.Option1(0)
+set Form1.Text1 4
+set Form1.Text3 3
+set Form1.Text4 5.7
+set Form1.Text9 1.904
+set Form1.Text10 0
+set Form1.Text32 0
+set Form1.Text5 6500
+click Form1.Command12
+get Form1.Text8
+get Form1.Text11
+set Form1.Text3 3.2
+click Form1.Command13
+get Form1.Text8
+messages
