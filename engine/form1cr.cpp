@@ -281,12 +281,17 @@ void Form1CR::CalculateChartBase() {
 }
 
 void Form1CR::ShowChart(const std::function<std::string()>& build) {
-  std::string report = build();
-  if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) {
-    throw CommandError(ErrorKind::InvalidArgument,
-                       "The chart cannot be computed for this engine. Please check the sizes and "
-                       "volumes that were entered.");
+  const CommandError impossible(ErrorKind::InvalidArgument,
+                                "The chart cannot be computed for this engine. Please check the "
+                                "Bore, Stroke, Comp Ratio, Head Gasket Bore Size and the volumes.");
+  std::string report;
+  try {
+    report = build();
+  } catch (const CommandError& error) {
+    if (error.kind() == ErrorKind::Overflow) throw impossible;
+    throw;
   }
+  if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) throw impossible;
   ShowReport(std::move(report));
 }
 

@@ -108,3 +108,9 @@ set Form1.Text8 234.823
 click Form1.subend
 get Form1.Check1
 messages
+pause Numbers too large for a table
+menu CubicInch
+set Form1.Text5 -1e308
+click Form1.Command17
+messages
+set Form1.Text5 6500

@@ -161,3 +161,9 @@ set Form1CR.Text14 9.9
 type Form1CR.Text14 8
 get Form1CR.Text14
 uncheck Form1CR.Check2
+pause Numbers too small for a chart
+menu CompRatio
+set Form1CR.Text6 0.06
+set Form1CR.Text18 1e-300
+click Form1CR.Command19
+messages
