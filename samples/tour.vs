@@ -39,3 +39,11 @@ pause A slip of the finger is told, with the name of the field
 set Form1.Text3 3.7x
 click Form1.Command1
 messages
+pause
+pause An engine from the list: every 350 with a bore of 4.0 and some
+menu Engine_Spec
+type Form21.Combo1 350 4.0
+rows Form21.Combo1
+picture Form21 veldox-engine-finder.png
+select Form21.Combo1 350 | 4.00 3.48 5.7 8
+get Form1.Text6
