@@ -14,6 +14,15 @@ bool IsName(const PickRow& row) {
   return row.kind == PickRow::Kind::Choice || row.kind == PickRow::Kind::NameOnly;
 }
 
+/// A row for a tip: very long ones in part.
+std::string Quoted(const std::string& text) {
+  constexpr std::size_t kLongest = 200;
+  if (text.size() <= kLongest) return text;
+  std::size_t cut = kLongest;
+  while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut;
+  return text.substr(0, cut) + "...";
+}
+
 /// A text as it is searched: in small letters, with points for commas.
 std::string Folded(std::string_view text) {
   std::string folded(text);
@@ -193,6 +202,20 @@ void PickList::ShowRows() {
 void PickList::MoveCurrent(int by) {
   Step(by);
   Changed();
+  HoverRow(current_);
+}
+
+int PickList::first() const {
+  for (int row = 0; row < static_cast<int>(shown_.size()); ++row) {
+    if (RowAt(row).kind == PickRow::Kind::Choice) return row;
+  }
+  return -1;
+}
+
+std::string PickList::Told(int row) const {
+  const PickRow& told = RowAt(row);
+  if (told.kind != PickRow::Kind::Choice) return told.note;
+  return Quoted(told.text) + "\r\n" + told.note;
 }
 
 void PickList::Step(int by) {
@@ -222,7 +245,7 @@ void PickList::Choose(int row) {
 }
 
 void PickList::HoverRow(int row) {
-  screen().ShowHelp(HasRow(row) ? RowAt(row).note : help());
+  screen().ShowHelp(HasRow(row) ? Told(row) : help());
 }
 
 }  // namespace veldox

@@ -91,6 +91,11 @@ class PickList : public ComboList {
   /// Moves the current row over so many rows that can be picked, down or (below 0) up.
   void MoveCurrent(int by);
 
+  /// The first row in sight that can be picked; -1 for none.
+  int first() const;
+  /// What is told of a row in sight: the row as it stands and its note.
+  std::string Told(int row) const;
+
   std::string chosenText() const override;
   /// Picks a row in sight; nothing for one that has nothing to pick.
   void Choose(int row) override;

@@ -144,8 +144,15 @@ void ReportBox::ShowReport(std::string report, int fontSize) {
   Focus();
 }
 
+void ReportBox::ShowSentence(std::string sentence) {
+  if (sentence == sentence_) return;
+  sentence_ = std::move(sentence);
+  Changed();
+}
+
 void ReportBox::CloseReport() {
   report_.clear();
+  sentence_.clear();
   showsReport_ = false;
   Control* before = std::exchange(before_, nullptr);
   if (screen().focus() == this && before != nullptr) before->Focus();
@@ -315,23 +322,39 @@ Control* Screen::Find(std::string_view name) const {
 void Screen::SetVisible(bool visible) {
   const bool changed = visible != visible_;
   visible_ = visible;
+  wasOpened_ = wasOpened_ || visible;
   // Opening an open screen brings its window to the front, so the face is told in any case.
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }
 
 void ProgramContext::HandOver(Screen* screen) {
   if (screen == metricOwner_) return;
+  // All new values are worked out before the first is stored.
+  std::vector<std::pair<double*, double>> inches;
+  const auto require = [](double value, Field* field) {
+    if (std::isfinite(value)) return;
+    throw CommandError(ErrorKind::Overflow, "holds too large a number for the other units.", field);
+  };
   for (const HeldValue& value : held_) {
-    *value.slot = *value.slot == value.metric ? value.inches : value.rule->toInches(*value.slot);
+    const double now =
+        *value.slot == value.metric ? value.inches : value.rule->toInches(*value.slot);
+    require(now, value.field);
+    inches.emplace_back(value.slot, now);
   }
-  held_.clear();
-  metricOwner_ = screen;
-  if (screen == nullptr) return;
-  for (const Screen::MetricValue& value : screen->MetricValues()) {
+  std::vector<HeldValue> held;
+  for (const Screen::MetricValue& value :
+       screen == nullptr ? std::vector<Screen::MetricValue>{} : screen->MetricValues()) {
     if (value.slot == nullptr) continue;
-    held_.push_back({value.slot, value.rule, *value.slot, value.rule->toMetric(*value.slot)});
-    *value.slot = held_.back().metric;
+    const auto released = std::find_if(
+        inches.begin(), inches.end(), [&](const auto& entry) { return entry.first == value.slot; });
+    const double before = released == inches.end() ? *value.slot : released->second;
+    held.push_back({value.field, value.slot, value.rule, before, value.rule->toMetric(before)});
+    require(held.back().metric, value.field);
   }
+  for (const auto& [slot, value] : inches) *slot = value;
+  for (const HeldValue& value : held) *value.slot = value.metric;
+  held_ = std::move(held);
+  metricOwner_ = screen;
 }
 
 void Screen::CopyShared() {
@@ -342,7 +365,9 @@ void Screen::CopyShared() {
 double Screen::AsShown(const Field& field, double inches) {
   if (!metric()) return inches;
   for (const MetricValue& value : MetricValues()) {
-    if (value.field == &field) return value.rule->toMetric(inches);
+    if (value.field != &field) continue;
+    const double metric = value.rule->toMetric(inches);
+    return std::isfinite(metric) ? metric : inches;
   }
   return inches;
 }
@@ -350,7 +375,9 @@ double Screen::AsShown(const Field& field, double inches) {
 double Screen::InInches(const Field& field, double shown) {
   if (!metric()) return shown;
   for (const MetricValue& value : MetricValues()) {
-    if (value.field == &field) return value.rule->toInches(shown);
+    if (value.field != &field) continue;
+    const double inches = value.rule->toInches(shown);
+    return std::isfinite(inches) ? inches : shown;
   }
   return shown;
 }
@@ -358,7 +385,7 @@ double Screen::InInches(const Field& field, double shown) {
 void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
-      SwitchBlankUnits(false);
+      Perform([this] { SwitchBlankUnits(false); });
     } else if (!box->Click()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
@@ -380,8 +407,8 @@ void Screen::ShowHelp(const std::string& sentence) {
   Control* place = HelpPlace();
   if (place == nullptr) return;
   // A report is not written over by what the pointer passes.
-  if (const auto* box = dynamic_cast<const ReportBox*>(place);
-      box != nullptr && box->showsReport()) {
+  if (auto* box = dynamic_cast<ReportBox*>(place); box != nullptr && box->showsReport()) {
+    box->ShowSentence(sentence);
     return;
   }
   if (place->kind() == ControlKind::Label) {
@@ -394,13 +421,10 @@ void Screen::ShowHelp(const std::string& sentence) {
 
 bool Screen::Perform(const std::function<void()>& command) {
   for (Control* control : controls_) control->SetMark(Mark::None);
-  if (UsesSharedValues()) context_.HandOver(metricShown_ ? this : nullptr);
-  if (MetricBox() != nullptr) {
-    block().MetricSwitch = metricShown_ ? 1 : 0;
-    context_.lastReader = this;
-  }
-  std::feclearexcept(FE_ALL_EXCEPT);
   try {
+    if (UsesSharedValues()) context_.HandOver(metricShown_ ? this : nullptr);
+    if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+    std::feclearexcept(FE_ALL_EXCEPT);
     command();
     return true;
   } catch (const CommandError& error) {
@@ -551,25 +575,31 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
   struct Converted {
     const MetricValue* value;
     double number;
+    bool shows;
   };
   std::vector<Converted> converted;
   std::vector<HeldValue> held;
   const std::vector<MetricValue> values = MetricValues();
+  using From = MetricValue::From;
   for (const MetricValue& value : values) {
+    const bool isShown = value.from == From::Shown && IsNumber(value.field->text(), mark());
+    if (value.from == From::Shown && !isShown && value.slot == nullptr) continue;
+    const double number = isShown ? Read(*value.field) : value.slot == nullptr ? 0 : *value.slot;
     if (toMetric && value.slot != nullptr) {
-      held.push_back({value.slot, value.rule, *value.slot, 0});
+      held.push_back({value.field, value.slot, value.rule, number, 0});
     }
-    double number = 0;
-    if (value.from == MetricValue::From::Slot) {
-      number = *value.slot;
-    } else if (value.from == MetricValue::From::Shown && IsNumber(value.field->text(), mark())) {
-      number = Read(*value.field);
-    } else {
-      continue;
+    if (value.from == From::Derived) continue;
+    double now = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
+    if (!toMetric && !isShown && (value.field == nullptr || value.from == From::Shown)) {
+      // No field tells otherwise: what it was in inches comes back to the last digit.
+      for (const HeldValue& was : context_.held_) {
+        if (was.slot == value.slot && was.metric == number) now = was.inches;
+      }
     }
-    number = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
-    if (value.field != nullptr) RequireResult(*value.field, number);
-    converted.push_back({&value, number});
+    // A field without a number is left alone, its slot is not.
+    const bool shows = value.field != nullptr && (value.from == From::Slot || isShown);
+    if (shows) RequireResult(*value.field, now);
+    converted.push_back({&value, now, shows});
   }
 
   const auto before = std::make_unique<ParameterBlock>(block());
@@ -581,16 +611,23 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
   block().MetricFactor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
   for (const Converted& c : converted) {
     if (c.value->slot != nullptr) *c.value->slot = c.number;
-    if (c.value->field != nullptr) ShowText(*c.value->field, c.value->format(c.number, mark()));
+    if (c.shows) ShowText(*c.value->field, c.value->format(c.number, mark()));
   }
   try {
     if (derive) derive();
   } catch (...) {
     block() = *before;
     for (auto& [control, text] : texts) control->SetText(std::move(text));
+    for (Control* control : controls_) control->SetMark(Mark::None);
     throw;
   }
-  for (HeldValue& value : held) value.metric = *value.slot;
+  for (HeldValue& value : held) {
+    value.metric = *value.slot;
+    const bool isDerived = std::any_of(values.begin(), values.end(), [&](const MetricValue& v) {
+      return v.slot == value.slot && v.from == From::Derived;
+    });
+    if (isDerived) value.inches = value.rule->toInches(value.metric);
+  }
   context_.held_ = std::move(held);
   context_.metricOwner_ = toMetric ? this : nullptr;
   SetMetricShown(toMetric);
@@ -601,8 +638,8 @@ void Screen::SwitchBlankUnits(bool toMetric) {
   for (const MetricValue& value : MetricValues()) {
     if (value.field == nullptr || !IsNumber(value.field->text(), mark())) continue;
     const double number = ParseNumber(value.field->text(), mark());
-    value.field->SetText(value.format(
-        toMetric ? value.rule->toMetric(number) : value.rule->toInches(number), mark()));
+    const double now = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
+    if (std::isfinite(now)) value.field->SetText(value.format(now, mark()));
   }
   MetricBox()->SetOn(toMetric);
   SetMetricShown(toMetric);

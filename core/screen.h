@@ -24,6 +24,7 @@ class Screen;
 
 /// A shared value while it is held in a screen's metric units.
 struct HeldValue {
+  Field* field;  ///< where the screen shows it, null for a value without a field
   double* slot;
   const UnitRule* rule;
   double inches;  ///< what it was before
@@ -44,14 +45,13 @@ struct ProgramContext {
   /// since comes back to the last digit.
   /// @param screen  a screen that shows metric units; null for inches, as files and all other
   ///                screens need them
+  /// @throws CommandError (Overflow) that names the field, with nothing changed, when a value
+  ///         is too large for the other units
   void HandOver(Screen* screen);
 
   Host& host;
   ParameterBlock block;
   FieldRules rules;
-  /// The screen with a "Metric" box that ran a command last: its fields agree with the shared
-  /// values.
-  Screen* lastReader = nullptr;
 
  private:
   friend class Screen;
@@ -217,6 +217,9 @@ class ReportBox : public TextControl {
   int fontSize() const { return fontSize_; }
   /// Empties and hides the box.
   void CloseReport();
+  /// A help sentence that is shown beside the report, where the box is the help place too.
+  void ShowSentence(std::string sentence);
+  const std::string& sentence() const { return sentence_; }
 
   /// A key while a report is shown: "." writes it to a file, "," prints it, and every key
   /// closes it, unless writing or printing failed. No key is ever taken as text.
@@ -227,6 +230,7 @@ class ReportBox : public TextControl {
   void PrintReport() const;
 
   std::string report_;
+  std::string sentence_;
   Control* before_ = nullptr;  // what had the focus when the report opened
   int fontSize_ = 0;
   bool showsReport_ = false;
@@ -255,6 +259,8 @@ class Command : public Control {
   /// Runs the command as the screen's Click does. False when it cannot be clicked or ended
   /// by an error.
   bool Click();
+  /// False for a command whose work is not built yet.
+  bool isBuilt() const { return handler_ != nullptr; }
 
  private:
   ScreenHandler handler_ = nullptr;
@@ -384,6 +390,8 @@ class Screen {
   Control* Find(std::string_view name) const;
 
   bool visible() const { return visible_; }
+  /// True once it has been shown.
+  bool wasOpened() const { return wasOpened_; }
   void SetVisible(bool visible);
   void SetFace(ScreenFace* face) { face_ = face; }
 
@@ -423,7 +431,8 @@ class Screen {
   };
   /// All values whose unit the "Metric" box changes.
   virtual std::vector<MetricValue> MetricValues() { return {}; }
-  /// A number of a field in inches, as the field shows it now, and the reverse.
+  /// A number of a field in inches, as the field shows it now, and the reverse. What is too
+  /// large for the other units stays as it is.
   double AsShown(const Field& field, double inches);
   double InInches(const Field& field, double shown);
   /// Ticks or unticks the "Metric" box of a screen with blank fields: what is a number is
@@ -513,6 +522,7 @@ class Screen {
   ScreenFace* face_ = nullptr;
   Control* focus_ = nullptr;
   bool visible_ = false;
+  bool wasOpened_ = false;
   bool metricShown_ = false;
 };
 

@@ -378,12 +378,13 @@ void Shell::Choose(const MenuItem& item) {
 }
 
 void Shell::Open(Screen& screen) {
-  if (block().FormsCleared != 1) screen.CopyShared();
+  // A value that is too large for the screen's units is told; the screen opens as it was.
+  if (block().FormsCleared != 1) screen.Perform([&] { screen.CopyShared(); });
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
     if (block().FormsCleared == 1) {
-      screen.SwitchBlankUnits(true);
+      screen.Perform([&] { screen.SwitchBlankUnits(true); });
     } else {
       box->Click();
     }
@@ -468,6 +469,7 @@ void Shell::SaveNotes() {
 
 void Shell::DropNotes() {
   Frame12.SetVisible(false);
+  ShowHelp({});
 }
 
 // ---------------------------------------------------------------- options of graphs
@@ -488,6 +490,7 @@ void Shell::Graph() {
 
 void Shell::CloseGraphOptions() {
   for (Frame* frame : GraphOptionFrames()) frame->SetVisible(false);
+  ShowHelp({});
   GraphOptionsChanged();
 }
 

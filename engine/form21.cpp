@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -51,6 +53,18 @@ std::vector<PickRow> RowsOfAllMakes() {
   return rows;
 }
 
+/// True while the values that the displacement screen shares are those of the start.
+bool IsFresh(const ParameterBlock& b) {
+  static const auto start = std::make_unique<const ParameterBlock>();
+  const auto shared = [](const ParameterBlock& from) {
+    return std::tie(from.WristPinOffset, from.Bore, from.Stroke, from.RodLength,
+                    from.NumberofCylinders, from.RPM, from.CubicInches, from.HorsePower,
+                    from.DeckClearance, from.CompressionRatio, from.PortDiameter,
+                    from.VolumetricEfficiency);
+  };
+  return shared(b) == shared(*start);
+}
+
 }  // namespace
 
 Form21::Form21(ProgramContext& context, Form1& form1)
@@ -64,9 +78,9 @@ void Form21::LoadList(std::string_view menuItem) {
   places_[list_] = Combo1.place();
   list_ = menuItem;
   Combo1.Offer({});
-  ShowHelp({});
+  ShowHelp(Combo1.help());
   if (menuItem == kUserList) {
-    Combo1.SetCaption("user_bsr.prm");
+    Combo1.SetCaption(std::string(Shell::FindMenuItem(kUserList)->caption));
     ReadUserRows();
     return;
   }
@@ -139,10 +153,9 @@ std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
 void Form21::Combo1_Click() {
   const std::string row = Combo1.chosenText();
   const std::vector<Figure> figures = FiguresOf(row);
-  // Where another screen has changed the shared values since, a closed screen holds old ones:
-  // it takes them as if it opened, so that its command puts nothing back.
-  const Screen* reader = context().lastReader;
-  const bool isOld = !form1_.visible() && reader != nullptr && reader != &form1_;
+  // A closed screen may hold old values: it takes the shared ones as if it opened, so that its
+  // command puts nothing back. Until anything has changed them, its own texts stand.
+  const bool isOld = !form1_.visible() && (form1_.wasOpened() || !IsFresh(block()));
   if (isOld && block().FormsCleared != 1) form1_.CopyShared();
   const std::array<Field*, kFigures> fields{&form1_.Text1, &form1_.Text3, &form1_.Text4,
                                             &form1_.Text2};

@@ -206,7 +206,8 @@ class Form8 : public Screen, public Grapher {
                      &Form8::Clear_Draw_Click};
   Command Graph_Move_Grid{Frame4, "Graph_Move_Grid", "Moveable Grid Lines -- Is OFF",
                           "Show Lines on the Graph that can be moved with the Mouse to read off "
-                          "Values.",
+                          "Values. On the Graph, the Space Bar takes hold of the next Line and "
+                          "the Arrow Keys move it.",
                           &Form8::Graph_Move_Grid_Click};
 
   Frame HelpFrame{*this, "HelpFrame", ""};

@@ -50,7 +50,9 @@ bool ModelDriver::TabInto(Control& control) {
   if (!screen.MoveFocus(&control)) return false;
   screen.Hover(&control);
   auto* field = dynamic_cast<TextControl*>(&control);
-  const bool selects = field != nullptr ? field->Enter() : control.kind() == ControlKind::PickList;
+  // Of a text over several lines, one key must not wipe all.
+  const bool selects = field == nullptr ? control.kind() == ControlKind::PickList
+                                        : control.kind() != ControlKind::TextArea && field->Enter();
   selected_ = selects ? &control : nullptr;
   return true;
 }

@@ -67,7 +67,8 @@ void Face::Follow() {
   widget_->setVisible(control_.visible());
   widget_->setEnabled(control_.enabled());
   const QString help = ToQt(control_.help());
-  if (control_.kind() == ControlKind::Command && !control_.enabled()) {
+  const auto* command = dynamic_cast<const Command*>(&control_);
+  if (command != nullptr && !command->isBuilt()) {
     widget_->setToolTip(QLatin1String(kNotAvailable));
   } else if (control_.kind() != ControlKind::Label) {
     widget_->setToolTip(InLines(help));

@@ -192,7 +192,12 @@ void LinesEdit::keyPressEvent(QKeyEvent* event) {
 
 void LinesEdit::focusInEvent(QFocusEvent* event) {
   QPlainTextEdit::focusInEvent(event);
-  if (!isReadOnly() && MovedOnPurpose(event->reason()) && control_.Enter()) selectAll();
+  update();  // its frame shows the focus
+}
+
+void LinesEdit::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  update();
 }
 
 }  // namespace veldox

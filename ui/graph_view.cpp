@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 
+#include "ui/face.h"
 #include "ui/painter_surface.h"
 #include "ui/qt_text.h"
 #include "ui/screen_window.h"
@@ -17,6 +18,9 @@ namespace veldox {
 namespace {
 
 /// How large the graph would like to be while the options do not ask for another size.
+constexpr const char* kKeyHelp =
+    "The Arrow Keys move the Read-out over the Graph, with Shift ten Pixels at a time; Escape "
+    "takes it away.";
 constexpr QSize kPreferredSize(900, 620);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kPixelsPerSizeUnit = 100;  ///< of the options "Graph Size"
@@ -342,7 +346,7 @@ void GraphView::DrawMoveableLines(QPainter& painter) const {
   for (std::size_t i = 0; i < grapher_.moveableLines().size(); ++i) {
     const bool vertical = grapher_.moveableLines()[i].vertical;
     const QLineF line = PlaceOfLine(i);
-    painter.setPen(QPen(accent, 1.5));
+    painter.setPen(QPen(accent, static_cast<int>(i) == held_ ? 4 : 1.5));
     painter.drawLine(line);
     const QString value = ToQt(FormatAxisValue(grapher_.GridLineValue(i), grapher_.mark()));
     const QSizeF size(metrics.horizontalAdvance(value) + 8, metrics.height() + 2);
@@ -416,6 +420,14 @@ void GraphView::mouseReleaseEvent(QMouseEvent* event) {
 
 void GraphView::keyPressEvent(QKeyEvent* event) {
   const int step = (event->modifiers() & Qt::ShiftModifier) != 0 ? kFarStep : 1;
+  const bool hasLines = grapher_.MoveableLinesShown() && grapher_.HasGraph();
+  if (event->key() == Qt::Key_Space && hasLines) {
+    // The next line, and behind the last one the cross again.
+    const int lines = static_cast<int>(grapher_.moveableLines().size());
+    held_ = held_ + 1 < lines ? held_ + 1 : -1;
+    update();
+    return;
+  }
   QPointF move;
   switch (event->key()) {
     case Qt::Key_Left: move = {-1, 0}; break;
@@ -425,13 +437,25 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Escape: DropPointer(); return;
     default: QWidget::keyPressEvent(event); return;
   }
+  if (held_ >= 0 && hasLines) {
+    const auto line = static_cast<std::size_t>(held_);
+    const QPointF place = PlaceOfLine(line).p1() + move * step;
+    grapher_.MoveGridLine(line, {place.x(), place.y()});
+    return;
+  }
   const QRectF frame = FrameRect();
   const QPointF place = pointer_ ? *pointer_ + move * step : frame.center();
   PointAt({std::clamp(place.x(), frame.left(), frame.right()),
            std::clamp(place.y(), frame.top(), frame.bottom())});
 }
 
+void GraphView::focusInEvent(QFocusEvent* event) {
+  if (MovedOnPurpose(event->reason())) grapher_.ShowHelp(kKeyHelp);
+  QWidget::focusInEvent(event);
+}
+
 void GraphView::focusOutEvent(QFocusEvent* event) {
+  held_ = -1;
   if (!underMouse()) DropPointer();
   QWidget::focusOutEvent(event);
 }

@@ -20,7 +20,8 @@ QRectF PlaceCard(QSizeF card, const QRectF& room, QPointF pointer,
 /// The grapher's surface in its window. It shows the graph, tells the pointer's place and
 /// the nearest point of each curve, takes strokes drawn by hand, and holds the lines that
 /// can be moved over the graph. With the keyboard focus the arrow keys move the pointer's
-/// cross, by a pixel or, with Shift, by ten; Escape takes it away.
+/// cross, by a pixel or, with Shift, by ten; Escape takes it away. Space takes hold of the
+/// moveable lines, one after another, and the arrow keys move the one that is held.
 class GraphView : public QWidget, public GraphFace {
  public:
   GraphView(Form8& grapher, QWidget* parent);
@@ -58,6 +59,7 @@ class GraphView : public QWidget, public GraphFace {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
@@ -81,6 +83,7 @@ class GraphView : public QWidget, public GraphFace {
   QSize askedSize_;
   std::optional<QPointF> pointer_;
   int dragged_ = -1;
+  int held_ = -1;  ///< the moveable line that the arrow keys move, -1 for none
 };
 
 }  // namespace veldox

@@ -55,9 +55,16 @@ void HelpFace::Follow() {
   label_->setAccessibleName(label_->text());
 }
 
-ReportHeads::ReportHeads(LinesEdit& rows) : QWidget(rows.viewport()), rows_(rows) {
+ReportHeads::ReportHeads(LinesEdit& rows) : QWidget(&rows), rows_(rows) {
   hide();
   connect(rows.verticalScrollBar(), &QScrollBar::valueChanged, this, &ReportHeads::Follow);
+  // Scrolled by the caret, the text box moves its bar without a word.
+  connect(&rows, &QPlainTextEdit::updateRequest, this, [this](const QRect& area, int dy) {
+    if (dy != 0 || area == rows_.viewport()->rect()) Follow();
+  });
+  // The caret has moved; the rows follow it, and then the heads must not lie over it.
+  connect(&rows, &QPlainTextEdit::cursorPositionChanged, this, &ReportHeads::KeepCaretInSight,
+          Qt::QueuedConnection);
   connect(rows.horizontalScrollBar(), &QScrollBar::valueChanged, this,
           qOverload<>(&QWidget::update));
 }
@@ -82,9 +89,22 @@ void ReportHeads::Follow() {
   const bool scrolledPast = lastLine_ >= 0 && rows_.verticalScrollBar()->value() > lastLine_;
   setVisible(scrolledPast);
   if (!scrolledPast) return;
-  const int height = static_cast<int>(lines_.size()) * QFontMetrics(rows_.font()).lineSpacing();
-  setGeometry(0, 0, rows_.viewport()->width(), height + 5);
+  // As many whole rows as there are heads lie under them.
+  const QRect firstRow = rows_.cursorRect(rows_.cursorForPosition(QPoint(0, 0)));
+  const int height = firstRow.top() + static_cast<int>(lines_.size()) * firstRow.height();
+  const QRect viewport = rows_.viewport()->geometry();
+  setGeometry(viewport.left(), viewport.top(), viewport.width(), height + 1);
+  raise();
   update();
+}
+
+void ReportHeads::KeepCaretInSight() {
+  if (!isVisible()) return;
+  const QRect caret = rows_.cursorRect();
+  const int hidden = height() - caret.top();
+  if (hidden <= 0 || caret.height() <= 0) return;
+  QScrollBar& bar = *rows_.verticalScrollBar();
+  bar.setValue(bar.value() - (hidden + caret.height() - 1) / caret.height());
 }
 
 void ReportHeads::paintEvent(QPaintEvent*) {
@@ -190,11 +210,30 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
 
 QPushButton* ReportPanel::AddButton(QBoxLayout& row, const char* caption, const char* tip) {
   auto* button = new QPushButton(QLatin1String(caption), this);
+  button->installEventFilter(this);
   button->setToolTip(QLatin1String(tip));
   button->setAccessibleDescription(QLatin1String(tip));
   button->setMinimumWidth(button->sizeHint().width() + 16);
   row.addWidget(button);
   return button;
+}
+
+bool ReportPanel::eventFilter(QObject* watched, QEvent* event) {
+  const auto* button = dynamic_cast<const QPushButton*>(watched);
+  if (button != nullptr && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)) {
+    box_.screen().ShowHelp(FromQt(button->accessibleDescription()));
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+std::vector<QWidget*> ReportPanel::TabChain() const {
+  std::vector<QWidget*> chain{edit_};
+  for (QLineEdit* line : find_->findChildren<QLineEdit*>()) chain.push_back(line);
+  for (QPushButton* button : find_->findChildren<QPushButton*>()) chain.push_back(button);
+  for (QPushButton* button : findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+    chain.push_back(button);
+  }
+  return chain;
 }
 
 void ReportPanel::SaveAsPdf() {
@@ -208,6 +247,8 @@ void ReportPanel::SaveAsPdf() {
 }
 
 void ReportPanel::Follow() {
+  if (box_.text() == shown_) return;
+  shown_ = box_.text();
   edit_->Show(ToQtLines(box_.text()));
   heads_->SetReport(box_.report());
   edit_->moveCursor(QTextCursor::Start);
@@ -233,7 +274,8 @@ void ReportFace::Follow() {
   const std::string& text = box_.text();
   const bool sentence = help_ != nullptr && std::count(text.begin(), text.end(), '\n') < kHelpLines;
   if (help_ != nullptr) {
-    help_->label()->setText(sentence && box_.visible() ? ToQtLines(text) : QString());
+    const bool shows = sentence && box_.visible();
+    help_->label()->setText(ToQtLines(shows ? text : box_.sentence()));
   }
   panel_->setVisible(box_.visible() && !sentence && !text.empty());
   panel_->Follow();

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QWidget>
 #include <string>
+#include <vector>
 
 #include "ui/face.h"
 #include "ui/field_edit.h"
@@ -46,6 +47,8 @@ class ReportHeads : public QWidget {
   void SetReport(const std::string& report);
   /// Shows the heads when the rows have been scrolled past them.
   void Follow();
+  /// Scrolls the row of the caret out from under the heads.
+  void KeepCaretInSight();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -80,8 +83,11 @@ class ReportPanel : public QWidget {
   LinesEdit* edit() const { return edit_; }
   /// Shows what the box holds.
   void Follow();
+  /// What the tab key walks through, in reading order.
+  std::vector<QWidget*> TabChain() const;
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -93,6 +99,7 @@ class ReportPanel : public QWidget {
   LinesEdit* edit_;
   ReportHeads* heads_;
   FindBar* find_;
+  std::string shown_;
 };
 
 /// Stands for a report box. Where it is the help place as well, sentences go into the

@@ -1,6 +1,7 @@
 #include "ui/menu_rows.h"
 
 #include <QActionEvent>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -46,9 +47,16 @@ void MenuRow::keyPressEvent(QKeyEvent* event) {
     }
   }
   QMenuBar::keyPressEvent(event);
+  if (event->key() == Qt::Key_Escape) static_cast<MenuRows*>(parentWidget())->Leave();
 }
 
 MenuRows::MenuRows(QWidget* parent) : QWidget(parent) {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+    const auto isRow = [this](const QWidget* widget) {
+      return std::find(rows_.begin(), rows_.end(), widget) != rows_.end();
+    };
+    if (isRow(now) && old != nullptr && !isRow(old)) before_ = old;
+  });
   QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
@@ -166,7 +174,12 @@ void MenuRows::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), palette().window());
 }
 
-void MenuRows::Cross(const MenuRow& from, bool forward) {
+void MenuRows::Leave() {
+  for (MenuRow* row : rows_) row->setActiveAction(nullptr);
+  if (before_ != nullptr) before_->setFocus(Qt::MenuBarFocusReason);
+}
+
+void MenuRows::Cross(MenuRow& from, bool forward) {
   const int at = static_cast<int>(std::find(rows_.begin(), rows_.end(), &from) - rows_.begin());
   for (int step = 1; step <= shownRows_; ++step) {
     const int index = (at + (forward ? step : shownRows_ - step)) % shownRows_;
@@ -175,6 +188,7 @@ void MenuRows::Cross(const MenuRow& from, bool forward) {
     if (!forward) std::reverse(items.begin(), items.end());
     for (QAction* action : items) {
       if (!action->isEnabled()) continue;
+      if (row != &from) from.setActiveAction(nullptr);
       row->setFocus(Qt::MenuBarFocusReason);
       row->setActiveAction(action);
       return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMenuBar>
+#include <QPointer>
 #include <vector>
 
 namespace veldox {
@@ -49,10 +50,13 @@ class MenuRows : public QWidget {
   int RowHeight() const;
   void Distribute();
   /// Goes on from an end of a row at the other row's end.
-  void Cross(const MenuRow& from, bool forward);
+  void Cross(MenuRow& from, bool forward);
+  /// The keyboard goes back to where it came from.
+  void Leave();
 
   std::vector<QAction*> actions_;
   std::vector<MenuRow*> rows_;
+  QPointer<QWidget> before_;  ///< what had the keyboard before the menu
   std::vector<int> breaks_;
   int shownRows_ = 0;
 };

@@ -21,7 +21,7 @@ constexpr int kRowAir = 5;      ///< above and below the text of a row together
 constexpr int kWantedRows = 23;
 constexpr int kFewestRows = 6;
 /// What a list would like to be wide, in digits of its font.
-constexpr int kWantedDigits = 78;
+constexpr int kWantedDigits = 94;
 constexpr int kFewestDigits = 30;
 constexpr int kMostFigures = 12;
 constexpr int kMostDigits = 12;
@@ -67,7 +67,7 @@ QVariant PickRowsModel::data(const QModelIndex& index, int role) const {
   const PickRow& row = list_.RowAt(index.row());
   switch (role) {
     case Qt::DisplayRole: return ToQt(row.text);
-    case Qt::ToolTipRole:
+    case Qt::ToolTipRole: return ToQt(list_.Told(index.row()));
     case Qt::AccessibleDescriptionRole: return ToQt(row.note);
     default: return {};
   }
@@ -302,6 +302,16 @@ bool PickView::viewportEvent(QEvent* event) {
   return QListView::viewportEvent(event);
 }
 
+void PickView::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (!list_.rows().empty() || list_.words().empty()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Active, QPalette::PlaceholderText));
+  painter.drawText(viewport()->rect().adjusted(0, RowHeight(), 0, 0),
+                   Qt::AlignHCenter | Qt::AlignTop,
+                   QStringLiteral("Nothing matches. Escape shows all rows."));
+}
+
 void PickView::mouseReleaseEvent(QMouseEvent* event) {
   QListView::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton) return;
@@ -320,7 +330,12 @@ void PickView::scrollContentsBy(int dx, int dy) {
 
 void PickView::Follow() {
   if (edition_ == list_.edition()) {
-    if (list_.current() >= 0) scrollTo(rows_.index(list_.current()));
+    if (list_.current() == list_.first()) {
+      // The headings over the first row that can be picked come into sight with it.
+      scrollToTop();
+    } else if (list_.current() >= 0) {
+      scrollTo(rows_.index(list_.current()));
+    }
     viewport()->update();
     return;
   }

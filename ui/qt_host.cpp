@@ -1,6 +1,7 @@
 #include "ui/qt_host.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QDateTime>
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
@@ -15,6 +17,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <algorithm>
 #include <vector>
 
 #include "ui/qt_printer.h"
@@ -43,6 +46,32 @@ QMessageBox::StandardButton QtButton(Button button) {
   }
   return QMessageBox::Ok;
 }
+
+/// A box that is left by its buttons only, where none of them means that nothing is done:
+/// Escape and the close box do not stand for a No.
+class AnsweredBox : public QMessageBox {
+ public:
+  AnsweredBox(const std::vector<veldox::Button>& buttons, QWidget* parent)
+      : QMessageBox(parent),
+        canEscape_(buttons.size() < 2 || std::find(buttons.begin(), buttons.end(),
+                                                   veldox::Button::Cancel) != buttons.end()) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape && !canEscape_) return;
+    QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (!canEscape_) {
+      event->ignore();
+      return;
+    }
+    QMessageBox::closeEvent(event);
+  }
+
+ private:
+  bool canEscape_;
+};
 
 /// Lets a text that is higher than the screen scroll inside its box.
 void KeepOnScreen(QMessageBox& box) {
@@ -98,7 +127,7 @@ bool ConfirmOverwrite(const QString& file) {
 }  // namespace
 
 Button QtHost::Ask(const Message& message) {
-  QMessageBox box(QApplication::activeWindow());
+  AnsweredBox box(message.buttons, QApplication::activeWindow());
   box.setIcon(QtIcon(message.icon));
   box.setWindowTitle(ToQt(message.title));
   box.setTextFormat(Qt::PlainText);

@@ -65,6 +65,13 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   }
   column->addLayout(foot);
   OrderTabs(faces_);
+  if (report_ != nullptr) {
+    // Behind the report come its buttons, and only then what stands under it.
+    const std::vector<QWidget*> chain = static_cast<ReportPanel*>(report_)->TabChain();
+    for (std::size_t i = 1; i < chain.size(); ++i) QWidget::setTabOrder(chain[i - 1], chain[i]);
+    Face* last = quit == nullptr ? nullptr : faces_.Of(*quit);
+    if (last != nullptr) QWidget::setTabOrder(chain.back(), last->widget());
+  }
   AddPictureKeys(*this, screen);
   SizeToScreen();
 }
@@ -172,6 +179,17 @@ void ScreenWindow::MakeRoomForReport() {
   if (below > 0) move(x(), std::max(room.top(), y() - below));
 }
 
+void ScreenWindow::ShareRoom() {
+  // The report gets what the frames have no use for.
+  const bool reads = report_ != nullptr && report_->isVisibleTo(this);
+  scroll_->setMaximumHeight(reads ? body_->WantedHeight(scroll_->width()) : QWIDGETSIZE_MAX);
+}
+
+void ScreenWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  ShareRoom();
+}
+
 void ScreenWindow::GiveRoomBack() {
   if (heightWithoutReport_ > 0 && !isMaximized()) resize(width(), heightWithoutReport_);
   heightWithoutReport_ = 0;
@@ -181,6 +199,9 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == report_) {
     if (event->type() == QEvent::ShowToParent) MakeRoomForReport();
     if (event->type() == QEvent::HideToParent) GiveRoomBack();
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+      ShareRoom();
+    }
   }
   if (event->type() == QEvent::MouseMove &&
       std::find(backgrounds_.begin(), backgrounds_.end(), watched) != backgrounds_.end()) {

@@ -24,6 +24,7 @@ class ScreenWindow : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -35,6 +36,8 @@ class ScreenWindow : public QWidget {
   /// A report opens: the window grows to the height of the screen while it is shown.
   void MakeRoomForReport();
   void GiveRoomBack();
+  /// Divides the height between the frames and an open report.
+  void ShareRoom();
 
   Screen& screen_;
   FaceSet faces_;

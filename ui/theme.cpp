@@ -45,6 +45,10 @@ QPalette MakePalette(const PaletteColors& c) {
   palette.setColor(QPalette::AlternateBase, Blend(QColor(c.base), text, 0.04));
   palette.setColor(QPalette::Highlight, QColor(c.accent));
   palette.setColor(QPalette::HighlightedText, QColor(c.highlightedText));
+  // What is selected where the keyboard is not stays pale.
+  palette.setColor(QPalette::Inactive, QPalette::Highlight,
+                   Blend(QColor(c.base), QColor(c.accent), 0.3));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, text);
   palette.setColor(QPalette::ToolTipBase, QColor(c.toolTip));
   palette.setColor(QPalette::ToolTipText, text);
   palette.setColor(QPalette::Link, QColor(c.link));
@@ -101,6 +105,14 @@ class FlatStyle : public QProxyStyle {
       case PE_FrameFocusRect:
         // The button's own border tells the focus.
         if (dynamic_cast<const QPushButton*>(widget) != nullptr) return;
+        DrawFocus(*option, painter);
+        return;
+      case PE_Frame:
+        if (const auto* lines = dynamic_cast<const LinesEdit*>(widget);
+            lines != nullptr && lines->hasFocus()) {
+          DrawFocus(*option, painter);
+          return;
+        }
         break;
       default: break;
     }
@@ -217,6 +229,13 @@ class FlatStyle : public QProxyStyle {
     painter->restore();
   }
 
+  static void DrawFocus(const QStyleOption& option, QPainter* painter) {
+    painter->save();
+    Panel(painter, option.rect, kControlRadius, Qt::transparent, ThemeColors(option.palette).accent,
+          2);
+    painter->restore();
+  }
+
   static void DrawButton(const QStyleOption& option, QPainter* painter) {
     const ThemeColors colors(option.palette);
     const QColor text = option.palette.color(QPalette::ButtonText);
@@ -286,7 +305,7 @@ class FlatStyle : public QProxyStyle {
     const ThemeColors colors(option.palette);
     const bool focused = (option.state & State_HasFocus) != 0;
     QColor fill = edit.output() ? colors.outputFill : option.palette.color(QPalette::Base);
-    QColor line = edit.output() ? colors.border : colors.fieldBorder;
+    QColor line = edit.output() ? colors.outputBorder : colors.fieldBorder;
     double width = 1;
     if (edit.mark() == Mark::Changed) fill = colors.changedFill;
     if (focused) {
@@ -323,8 +342,9 @@ ThemeColors::ThemeColors(const QPalette& palette) {
   accent = palette.color(QPalette::Active, QPalette::Highlight);
   card = dark ? Blend(window, text, 0.045) : Blend(window, base, 0.55);
   border = Blend(window, text, 0.16);
-  fieldBorder = Blend(window, text, dark ? 0.38 : 0.34);
-  outputFill = Blend(card, text, dark ? 0.05 : 0.045);
+  fieldBorder = Blend(window, text, 0.48);
+  outputBorder = Blend(window, text, 0.3);
+  outputFill = Blend(card, text, dark ? 0.07 : 0.065);
   changedFill = Blend(base, accent, dark ? 0.34 : 0.2);
   errorFill = Blend(base, QColor(0xe53935), dark ? 0.26 : 0.13);
   errorBorder = red;

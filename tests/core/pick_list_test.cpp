@@ -164,7 +164,7 @@ TEST_F(PickListTest, ScrollingThroughWhatWasFoundIsNotItsPlace) {
 
 TEST_F(PickListTest, TellsTheNoteOfTheRowUnderThePointer) {
   list_.HoverRow(2);
-  EXPECT_EQ(finder_.Help.caption(), "Source: a book");
+  EXPECT_EQ(finder_.Help.caption(), "302 | 4.00 3.00 5.09 8\r\nSource: a book");
   list_.HoverRow(3);
   EXPECT_EQ(finder_.Help.caption(), "not verified");
   list_.HoverRow(-1);

@@ -179,6 +179,107 @@ TEST_F(UnitsTest, FieldsThatStandForAValueAreWrittenInInches) {
   EXPECT_EQ(Line(WriteFile(), "Journal Diameter"), "Journal Diameter = 2.5");
 }
 
+TEST_F(UnitsTest, AValueTooLargeForTheOtherUnitsIsToldAndTheScreenOpensAsItWas) {
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  ReadFile("Bore = 1e308\n");
+  host_.Answer(Button::OK);
+  Menu("CubicInch");
+  EXPECT_EQ(host_.messages.back().text, "\"Bore\" holds too large a number for the other units.");
+  EXPECT_EQ(Text("Form1.Text1"), "101.6");
+  EXPECT_EQ(block().Bore, 1e308);
+}
+
+TEST_F(UnitsTest, APowerTooLargeInHorsepowerKeepsTheOtherScreenAsItWas) {
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  Set("Form1.Text27", "1.7e308");
+  Click("Form1.Command22");
+  host_.Answer(Button::OK);
+  Menu("CompRatio");
+  EXPECT_EQ(host_.messages.back().text,
+            "\"HorsePower\" holds too large a number for the other units.");
+  EXPECT_EQ(Text("Form1CR.Text27"), "0.0");
+  EXPECT_EQ(block().HorsePower, 1.7e308);
+  EXPECT_EQ(block().Bore, 4 * 25.4);
+}
+
+TEST_F(UnitsTest, BlankScreensTakeTooLargeNumbersToo) {
+  host_.Answer(Button::OK);
+  host_.Answer(Button::OK);
+  Menu("Clear");
+  Menu("CubicInch");
+  Set("Form1.Text1", "1e308");
+  Menu("Metric");
+  Menu("CubicInch");
+  EXPECT_EQ(Text("Form1.Text1"), "1e308");
+  EXPECT_TRUE(Find<CheckBox>("Form1.Check1").on());
+}
+
+TEST_F(UnitsTest, WhatATickWorksOutAnewReachesOtherScreensInInches) {
+  Menu("CubicInch");
+  Set("Form1.Text1", "4.5");
+  Set("Form1.Text33", "3");
+  Tick("Form1.Check1");
+  EXPECT_EQ(Text("Form1.Text6"), "6776.249");
+  Menu("GRAPHER");
+  EXPECT_EQ(block().Bore, 4.5);
+  EXPECT_EQ(block().JournalDiameter, 3);
+  // 4.5 x 4.5 / 4 x pi x 3.25 x 8
+  EXPECT_NEAR(block().CubicInches, 413.512134, 1e-6);
+  EXPECT_NEAR(block().PistonArea, 15.904313, 1e-6);
+  Menu("CubicInch");
+  EXPECT_EQ(Text("Form1.Text6"), "6776.249");
+}
+
+TEST_F(UnitsTest, AFieldWithoutANumberIsLeftAloneButItsValueIsNot) {
+  Menu("CubicInch");
+  Click("Form1.Command26");
+  Tick("Form1.Check1");
+  EXPECT_EQ(block().JournalDiameter, 63.5);
+  Set("Form1.Text33", "");
+  Tick("Form1.Check1");
+  EXPECT_EQ(block().JournalDiameter, 2.5);
+  EXPECT_EQ(Text("Form1.Text33"), "");
+}
+
+TEST_F(UnitsTest, AFailedTickLeavesNoMarks) {
+  Menu("CubicInch");
+  Set("Form1.Text1", "1e200");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(Find<CheckBox>("Form1.Check1").Click());
+  EXPECT_EQ(Text("Form1.Text1"), "1e200");
+  EXPECT_EQ(Find<Field>("Form1.Text3").mark(), Mark::None);
+  EXPECT_EQ(Find<Field>("Form1.Text4").mark(), Mark::None);
+}
+
+TEST_F(UnitsTest, AnEnginePickKeepsWhatAFileOrAnotherScreenHasSet) {
+  ReadFile("Horse Power = 628.161\nRPM = 7200\nDeck Clearance = 0.01\n");
+  Menu("Chevy_SB");
+  auto& list = Find<ComboList>("Form21.Combo1");
+  list.Choose(9);
+  EXPECT_EQ(list.chosenText(), "350 | 4.00 3.48 5.7 8");
+  EXPECT_EQ(block().HorsePower, 628.161);
+  EXPECT_EQ(block().RPM, 7200);
+  EXPECT_NEAR(block().DeckClearance, 0.01, 1e-12);
+  Menu("CubicInch");
+  Menu("CompRatio");
+  Set("Form1CR.Text27", "500");
+  Click("Form1CR.Command10");
+  Quit("Form1");
+  list.Choose(10);
+  EXPECT_EQ(block().HorsePower, 500);
+}
+
+TEST_F(UnitsTest, AFieldTooLargeToConvertDoesNotStopAFile) {
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  Set("Form1.Text5", "0");
+  Click("Form1.Command1");
+  Set("Form1.Text13", "1e308");
+  EXPECT_NE(Line(WriteFile(), "Bore"), "");
+}
+
 TEST_F(UnitsTest, FieldsThatNoOpenerFillsKeepTheirTextsAndShowAFileAtOnce) {
   Menu("CompGauge");
   Click("Form12.Command18");

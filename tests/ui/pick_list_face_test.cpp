@@ -92,9 +92,9 @@ TEST_F(PickListFaceTest, AClickPicksARowAndTheLineKeepsTheFocus) {
 TEST_F(PickListFaceTest, HoverTellsTheSourceBelowAndInATip) {
   const QPoint at = At(2);
   Mouse(*View().viewport(), QEvent::MouseMove, at);
-  EXPECT_EQ(Model<Label>("Form21.Label1").caption(), List().RowAt(2).note);
-  EXPECT_EQ(FromQt(View().model()->index(2, 0).data(Qt::ToolTipRole).toString()),
-            List().RowAt(2).note);
+  const std::string told = List().RowAt(2).text + "\r\n" + List().RowAt(2).note;
+  EXPECT_EQ(Model<Label>("Form21.Label1").caption(), told);
+  EXPECT_EQ(FromQt(View().model()->index(2, 0).data(Qt::ToolTipRole).toString()), told);
   EXPECT_EQ(List().RowAt(2).note.rfind("Source: ", 0), 0U);
   EXPECT_EQ(View().model()->index(11, 0).data(Qt::ToolTipRole).toString(),
             QStringLiteral("Values not verified - add your own row in user_bsr.prm"));

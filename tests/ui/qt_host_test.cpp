@@ -57,11 +57,20 @@ TEST_F(QtHostTest, BoxShowsWhatItIsGivenAndItsFirstButtonIsTheDefault) {
             Button::No);
 }
 
-TEST_F(QtHostTest, EnterGivesTheDefaultButtonAndEscapeTheLast) {
+TEST_F(QtHostTest, EnterGivesTheDefaultButtonAndEscapeNeverStandsForNo) {
   WhenOpen<QMessageBox>([](QMessageBox& box) { PressKey(box, Qt::Key_Return); });
   EXPECT_EQ(host.Ask({Icon::Question, "t", "x", {Button::OK, Button::Cancel}}), Button::OK);
   WhenOpen<QMessageBox>([](QMessageBox& box) { PressKey(box, Qt::Key_Escape); });
-  EXPECT_EQ(host.Ask({Icon::Question, "t", "x", {Button::Yes, Button::No}}), Button::No);
+  EXPECT_EQ(host.Ask({Icon::Question, "t", "x", {Button::OK, Button::Cancel}}), Button::Cancel);
+  // Yes and No alone have to be answered.
+  WhenOpen<QMessageBox>([](QMessageBox& box) {
+    PressKey(box, Qt::Key_Escape);
+    EXPECT_TRUE(box.isVisible());
+    box.close();
+    EXPECT_TRUE(box.isVisible());
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_EQ(host.Ask({Icon::Question, "t", "x", {Button::Yes, Button::No}}), Button::Yes);
   WhenOpen<QMessageBox>([](QMessageBox& box) { PressKey(box, Qt::Key_Escape); });
   EXPECT_EQ(host.Ask({Icon::Warning, "t", "x", {Button::OK}}), Button::OK);
 }

@@ -70,7 +70,9 @@ TEST_F(ReportPanelTest, EscapeClosesItAndCtrlKeysDoNot) {
 }
 
 TEST_F(ReportPanelTest, KeepsItsColumnHeadsInSight) {
-  auto* heads = Edit().viewport()->findChild<QWidget*>();
+  auto* heads = dynamic_cast<QWidget*>(
+      *std::find_if(Edit().children().begin(), Edit().children().end(),
+                    [](QObject* child) { return dynamic_cast<ReportHeads*>(child) != nullptr; }));
   ASSERT_NE(heads, nullptr);
   EXPECT_FALSE(heads->isVisible());
   Edit().verticalScrollBar()->setValue(100);
@@ -80,6 +82,37 @@ TEST_F(ReportPanelTest, KeepsItsColumnHeadsInSight) {
   Edit().verticalScrollBar()->setValue(0);
   Settle();
   EXPECT_FALSE(heads->isVisible());
+  // The keyboard keeps them too, and the row with the caret is never under them.
+  const QPoint top = Edit().viewport()->geometry().topLeft();
+  const auto expectInSight = [&] {
+    EXPECT_TRUE(heads->isVisible());
+    EXPECT_EQ(heads->pos(), top);
+    EXPECT_GE(Edit().cursorRect().top(), heads->height() - 2);
+  };
+  for (int i = 0; i < 40; ++i) PressKey(Edit(), Qt::Key_Down);
+  expectInSight();
+  for (int i = 0; i < 2; ++i) PressKey(Edit(), Qt::Key_PageDown);
+  expectInSight();
+  PressKey(Edit(), Qt::Key_PageUp);
+  expectInSight();
+  PressKey(Edit(), Qt::Key_End, {}, Qt::ControlModifier);
+  expectInSight();
+  for (int i = 0; i < 25; ++i) PressKey(Edit(), Qt::Key_Up);
+  expectInSight();
+}
+
+TEST_F(ReportPanelTest, TabGoesThroughItsButtonsBeforeWhatStandsUnderIt) {
+  Edit().setFocus(Qt::TabFocusReason);
+  QStringList visited;
+  for (int i = 0; i < 7; ++i) {
+    PressKey(*QApplication::focusWidget(), Qt::Key_Tab);
+    visited.append(static_cast<QPushButton*>(QApplication::focusWidget())->text().left(4));
+  }
+  EXPECT_EQ(visited.join(QLatin1Char(' ')), QStringLiteral("Find Save Prev Writ Prin Clos &Qui"));
+  EXPECT_EQ(Model<Label>("Form1.Label7").caption(), Model<Command>("Form1.subend").help());
+  ButtonOf("Preview").setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Model<Label>("Form1.Label7").caption(),
+            "Show the pages of this report as they would be printed.");
 }
 
 TEST_F(ReportPanelTest, FindsATextRoundItsEnd) {

@@ -9,6 +9,7 @@
 
 #include "tests/ui/window_test.h"
 #include "ui/field_edit.h"
+#include "ui/screen_window.h"
 
 namespace veldox::testing {
 namespace {
@@ -76,13 +77,25 @@ TEST_F(Form1WindowTest, LongHelpIsBrokenIntoLinesInATooltip) {
   EXPECT_EQ(FromQt(tip.replace(QLatin1Char('\n'), QLatin1Char(' '))), help);
 }
 
+/// A screen with a command that does nothing yet.
+class HalfBuilt : public Screen {
+ public:
+  explicit HalfBuilt(ProgramContext& context) : Screen(context, "HalfBuilt", "Half Built", "") {}
+  void Work() {}
+  Frame Frame1{*this, "Frame1", ""};
+  Command Later{Frame1, "Later", "Later", "Will work."};
+  Command Now{Frame1, "Now", "Now", "Works.", &HalfBuilt::Work};
+};
+
 TEST_F(Form1WindowTest, CommandThatIsNotBuiltSaysSo) {
-  // All commands of this screen are built; this one is made to look as if it were not.
-  QWidget& button = Child(window, "Command12");
-  EXPECT_TRUE(button.isEnabled());
-  Model<Command>("Form1.Command12").SetEnabled(false);
-  EXPECT_FALSE(button.isEnabled());
-  EXPECT_EQ(button.toolTip(), QStringLiteral("Not available yet"));
+  HalfBuilt screen(program->context());
+  ScreenWindow half(screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; });
+  EXPECT_FALSE(Child(half, "Later").isEnabled());
+  EXPECT_EQ(Child(half, "Later").toolTip(), QStringLiteral("Not available yet"));
+  // One that only cannot be used now keeps its own words.
+  screen.Now.SetEnabled(false);
+  EXPECT_FALSE(Child(half, "Now").isEnabled());
+  EXPECT_EQ(Child(half, "Now").toolTip(), QStringLiteral("Works."));
 }
 
 TEST_F(Form1WindowTest, TabKeyWalksInReadingOrder) {
