@@ -322,7 +322,6 @@ Control* Screen::Find(std::string_view name) const {
 void Screen::SetVisible(bool visible) {
   const bool changed = visible != visible_;
   visible_ = visible;
-  wasOpened_ = wasOpened_ || visible;
   // Opening an open screen brings its window to the front, so the face is told in any case.
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }

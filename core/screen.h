@@ -390,8 +390,6 @@ class Screen {
   Control* Find(std::string_view name) const;
 
   bool visible() const { return visible_; }
-  /// True once it has been shown.
-  bool wasOpened() const { return wasOpened_; }
   void SetVisible(bool visible);
   void SetFace(ScreenFace* face) { face_ = face; }
 
@@ -522,7 +520,6 @@ class Screen {
   ScreenFace* face_ = nullptr;
   Control* focus_ = nullptr;
   bool visible_ = false;
-  bool wasOpened_ = false;
   bool metricShown_ = false;
 };
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -51,18 +49,6 @@ std::vector<PickRow> RowsOfAllMakes() {
     std::move(ofGroup.begin(), ofGroup.end(), std::back_inserter(rows));
   }
   return rows;
-}
-
-/// True while the values that the displacement screen shares are those of the start.
-bool IsFresh(const ParameterBlock& b) {
-  static const auto start = std::make_unique<const ParameterBlock>();
-  const auto shared = [](const ParameterBlock& from) {
-    return std::tie(from.WristPinOffset, from.Bore, from.Stroke, from.RodLength,
-                    from.NumberofCylinders, from.RPM, from.CubicInches, from.HorsePower,
-                    from.DeckClearance, from.CompressionRatio, from.PortDiameter,
-                    from.VolumetricEfficiency);
-  };
-  return shared(b) == shared(*start);
 }
 
 }  // namespace
@@ -154,9 +140,8 @@ void Form21::Combo1_Click() {
   const std::string row = Combo1.chosenText();
   const std::vector<Figure> figures = FiguresOf(row);
   // A closed screen may hold old values: it takes the shared ones as if it opened, so that its
-  // command puts nothing back. Until anything has changed them, its own texts stand.
-  const bool isOld = !form1_.visible() && (form1_.wasOpened() || !IsFresh(block()));
-  if (isOld && block().FormsCleared != 1) form1_.CopyShared();
+  // command puts nothing back.
+  if (!form1_.visible() && block().FormsCleared != 1) form1_.CopyShared();
   const std::array<Field*, kFigures> fields{&form1_.Text1, &form1_.Text3, &form1_.Text4,
                                             &form1_.Text2};
   for (std::size_t i = 0; i < figures.size(); ++i) {

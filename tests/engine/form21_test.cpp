@@ -149,12 +149,16 @@ TEST_F(Form21Test, AClosedDisplacementScreenPutsNoOldValuesBack) {
   EXPECT_EQ(form1().Text10.text(), "0.01");
 }
 
-TEST_F(Form21Test, TheDisplacementScreensOwnTextsStandUntilSomethingElseChangesTheValues) {
+TEST_F(Form21Test, APickGivesTheSameWhetherTheDisplacementScreenWasOpenedOrNot) {
   Choose("AMC");
   Pick("I-151 (Pontiac) | 4.00 3.00 6.05 4");
-  // Half the stroke, the rod, 1.904 and 0.016 as the screen is made with.
-  EXPECT_EQ(form1().Text8.text(), "9.47");
-  EXPECT_EQ(form1().Text10.text(), "0.016");
+  // Half the stroke, the rod, 1.904 and no deck clearance.
+  EXPECT_EQ(form1().Text8.text(), "9.454");
+  EXPECT_EQ(block().HorsePower, ParameterBlock{}.HorsePower);
+  EXPECT_EQ(block().CompressionRatio, ParameterBlock{}.CompressionRatio);
+  Choose("CubicInch");
+  Pick("I-151 (Pontiac) | 4.00 3.00 6.05 4");
+  EXPECT_EQ(form1().Text8.text(), "9.454");
 }
 
 TEST_F(Form21Test, AnOpenDisplacementScreenKeepsWhatIsTypedInIt) {
