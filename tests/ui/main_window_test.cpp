@@ -105,13 +105,21 @@ TEST_F(MainWindowTest, ArrowKeysLeadFromRowToRow) {
   for (QAction* action : first->actions()) {
     if (action->isEnabled()) last = action;
   }
+  QWidget& before = Child(window, "Launch_CompRatio");
+  before.setFocus(Qt::TabFocusReason);
   first->setFocus(Qt::MenuBarFocusReason);
   first->setActiveAction(last);
   PressKey(*first, Qt::Key_Right);
   ASSERT_NE(second->activeAction(), nullptr);
   EXPECT_TRUE(second->activeAction()->isEnabled());
+  EXPECT_EQ(first->activeAction(), nullptr) << "one item is chosen, not one a row";
   PressKey(*second, Qt::Key_Left);
   EXPECT_EQ(first->activeAction(), last);
+  EXPECT_EQ(second->activeAction(), nullptr);
+  PressKey(*first, Qt::Key_Right);
+  PressKey(*second, Qt::Key_Escape);
+  EXPECT_EQ(second->activeAction(), nullptr);
+  EXPECT_TRUE(before.hasFocus()) << "the keyboard goes back to where it came from";
 }
 
 TEST_F(MainWindowTest, CaptionOfASwitchFollows) {
