@@ -116,6 +116,7 @@ void PickList::Narrow(std::string words) {
   if (words == words_) return;
   words_ = std::move(words);
   ShowRows();
+  HoverRow(words_.empty() ? -1 : current_);
 }
 
 void PickList::PrepareSearch() {

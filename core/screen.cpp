@@ -4,6 +4,7 @@
 #include <cfenv>
 #include <cmath>
 #include <exception>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -155,9 +156,11 @@ void ReportBox::CloseReport() {
   sentence_.clear();
   showsReport_ = false;
   Control* before = std::exchange(before_, nullptr);
-  if (screen().focus() == this && before != nullptr) before->Focus();
-  SetText({});
+  // The keyboard may also be on one of the buttons that a window has beside the report.
+  const bool hadFocus = screen().focus() == this || screen().focus() == nullptr;
+  if (hadFocus && before != nullptr) before->Focus();
   SetVisible(false);
+  SetText({});
 }
 
 char32_t ReportBox::FilterKey(char32_t key) {
@@ -328,16 +331,15 @@ void Screen::SetVisible(bool visible) {
 
 void ProgramContext::HandOver(Screen* screen) {
   if (screen == metricOwner_) return;
-  // All new values are worked out before the first is stored.
-  std::vector<std::pair<double*, double>> inches;
-  const auto require = [](double value, Field* field) {
-    if (std::isfinite(value)) return;
-    throw CommandError(ErrorKind::Overflow, "holds too large a number for the other units.", field);
+  // A number beyond all engines must not become an infinity, which nothing can show or save.
+  const auto limited = [](double value) {
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    return std::clamp(value, -kLargest, kLargest);
   };
+  std::vector<std::pair<double*, double>> inches;
   for (const HeldValue& value : held_) {
     const double now =
-        *value.slot == value.metric ? value.inches : value.rule->toInches(*value.slot);
-    require(now, value.field);
+        *value.slot == value.metric ? value.inches : limited(value.rule->toInches(*value.slot));
     inches.emplace_back(value.slot, now);
   }
   std::vector<HeldValue> held;
@@ -347,8 +349,7 @@ void ProgramContext::HandOver(Screen* screen) {
     const auto released = std::find_if(
         inches.begin(), inches.end(), [&](const auto& entry) { return entry.first == value.slot; });
     const double before = released == inches.end() ? *value.slot : released->second;
-    held.push_back({value.field, value.slot, value.rule, before, value.rule->toMetric(before)});
-    require(held.back().metric, value.field);
+    held.push_back({value.slot, value.rule, before, limited(value.rule->toMetric(before))});
   }
   for (const auto& [slot, value] : inches) *slot = value;
   for (const HeldValue& value : held) *value.slot = value.metric;
@@ -384,7 +385,7 @@ double Screen::InInches(const Field& field, double shown) {
 void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
-      Perform([this] { SwitchBlankUnits(false); });
+      SwitchBlankUnits(false);
     } else if (!box->Click()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
@@ -585,7 +586,7 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
     if (value.from == From::Shown && !isShown && value.slot == nullptr) continue;
     const double number = isShown ? Read(*value.field) : value.slot == nullptr ? 0 : *value.slot;
     if (toMetric && value.slot != nullptr) {
-      held.push_back({value.field, value.slot, value.rule, number, 0});
+      held.push_back({value.slot, value.rule, number, 0});
     }
     if (value.from == From::Derived) continue;
     double now = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
@@ -597,7 +598,12 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
     }
     // A field without a number is left alone, its slot is not.
     const bool shows = value.field != nullptr && (value.from == From::Slot || isShown);
-    if (shows) RequireResult(*value.field, now);
+    if (shows) {
+      RequireResult(*value.field, now);
+    } else if (!std::isfinite(now)) {
+      now = number;
+      std::feclearexcept(FE_OVERFLOW);
+    }
     converted.push_back({&value, now, shows});
   }
 

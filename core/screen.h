@@ -24,7 +24,6 @@ class Screen;
 
 /// A shared value while it is held in a screen's metric units.
 struct HeldValue {
-  Field* field;  ///< where the screen shows it, null for a value without a field
   double* slot;
   const UnitRule* rule;
   double inches;  ///< what it was before
@@ -45,8 +44,6 @@ struct ProgramContext {
   /// since comes back to the last digit.
   /// @param screen  a screen that shows metric units; null for inches, as files and all other
   ///                screens need them
-  /// @throws CommandError (Overflow) that names the field, with nothing changed, when a value
-  ///         is too large for the other units
   void HandOver(Screen* screen);
 
   Host& host;

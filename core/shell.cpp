@@ -378,13 +378,12 @@ void Shell::Choose(const MenuItem& item) {
 }
 
 void Shell::Open(Screen& screen) {
-  // A value that is too large for the screen's units is told; the screen opens as it was.
-  if (block().FormsCleared != 1) screen.Perform([&] { screen.CopyShared(); });
+  if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
     if (block().FormsCleared == 1) {
-      screen.Perform([&] { screen.SwitchBlankUnits(true); });
+      screen.SwitchBlankUnits(true);
     } else {
       box->Click();
     }

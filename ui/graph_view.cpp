@@ -21,6 +21,8 @@ namespace {
 constexpr const char* kKeyHelp =
     "The Arrow Keys move the Read-out over the Graph, with Shift ten Pixels at a time; Escape "
     "takes it away.";
+constexpr const char* kLineHelp =
+    " The Space Bar takes hold of the next moveable Line, which the Arrow Keys move then.";
 constexpr QSize kPreferredSize(900, 620);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kPixelsPerSizeUnit = 100;  ///< of the options "Graph Size"
@@ -450,7 +452,9 @@ void GraphView::keyPressEvent(QKeyEvent* event) {
 }
 
 void GraphView::focusInEvent(QFocusEvent* event) {
-  if (MovedOnPurpose(event->reason())) grapher_.ShowHelp(kKeyHelp);
+  if (MovedOnPurpose(event->reason())) {
+    grapher_.ShowHelp(std::string(kKeyHelp) + (grapher_.MoveableLinesShown() ? kLineHelp : ""));
+  }
   QWidget::focusInEvent(event);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/help_bar.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -57,6 +58,8 @@ void HelpFace::Follow() {
 
 ReportHeads::ReportHeads(LinesEdit& rows) : QWidget(&rows), rows_(rows) {
   hide();
+  // The wheel turns the rows here as well.
+  setAttribute(Qt::WA_TransparentForMouseEvents);
   connect(rows.verticalScrollBar(), &QScrollBar::valueChanged, this, &ReportHeads::Follow);
   // Scrolled by the caret, the text box moves its bar without a word.
   connect(&rows, &QPlainTextEdit::updateRequest, this, [this](const QRect& area, int dy) {
@@ -223,6 +226,7 @@ bool ReportPanel::eventFilter(QObject* watched, QEvent* event) {
   if (button != nullptr && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)) {
     box_.screen().ShowHelp(FromQt(button->accessibleDescription()));
   }
+  if (button != nullptr && event->type() == QEvent::Leave) box_.screen().Hover(nullptr);
   return QWidget::eventFilter(watched, event);
 }
 
@@ -277,7 +281,12 @@ void ReportFace::Follow() {
     const bool shows = sentence && box_.visible();
     help_->label()->setText(ToQtLines(shows ? text : box_.sentence()));
   }
-  panel_->setVisible(box_.visible() && !sentence && !text.empty());
+  const bool shows = box_.visible() && !sentence && !text.empty();
+  // The keyboard must not jump to what stands next when the panel goes.
+  if (!shows && panel_->isAncestorOf(QApplication::focusWidget())) {
+    panel_->window()->setFocus(Qt::OtherFocusReason);
+  }
+  panel_->setVisible(shows);
   panel_->Follow();
 }
 

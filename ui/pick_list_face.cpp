@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -67,7 +68,11 @@ QVariant PickRowsModel::data(const QModelIndex& index, int role) const {
   const PickRow& row = list_.RowAt(index.row());
   switch (role) {
     case Qt::DisplayRole: return ToQt(row.text);
-    case Qt::ToolTipRole: return ToQt(list_.Told(index.row()));
+    case Qt::ToolTipRole: {
+      const QString tip = ToQt(list_.Told(index.row()));
+      // What a user has written is no markup.
+      return Qt::mightBeRichText(tip) ? QStringLiteral("<p>%1</p>").arg(tip.toHtmlEscaped()) : tip;
+    }
     case Qt::AccessibleDescriptionRole: return ToQt(row.note);
     default: return {};
   }

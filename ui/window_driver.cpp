@@ -132,6 +132,7 @@ void WindowDriver::ChooseMenu(const MenuItem& item) {
 }
 
 void WindowDriver::Set(TextControl& field, const std::string& text) {
+  if (!field.enabled()) return;
   QWidget* widget = WidgetOf(field);
   if (widget == nullptr) {
     model_.Set(field, text);
@@ -144,6 +145,7 @@ void WindowDriver::Set(TextControl& field, const std::string& text) {
 }
 
 void WindowDriver::Type(Control& control, const std::vector<Key>& keys) {
+  if (!control.enabled()) return;
   QWidget* widget = WidgetOf(control);
   if (widget == nullptr) {
     model_.Type(control, keys);
@@ -202,6 +204,7 @@ void WindowDriver::Click(Control& control) {
 }
 
 void WindowDriver::Select(ComboList& list, int row) {
+  if (!list.enabled()) return;
   QWidget* widget = WidgetOf(list);
   if (widget == nullptr) {
     model_.Select(list, row);

@@ -101,6 +101,16 @@ TEST_F(ReportPanelTest, KeepsItsColumnHeadsInSight) {
   expectInSight();
 }
 
+TEST_F(ReportPanelTest, ItsCloseButtonGivesTheKeyboardBackToTheCommand) {
+  QPushButton& close = ButtonOf("Close");
+  close.setFocus(Qt::TabFocusReason);
+  close.click();
+  Settle();
+  EXPECT_FALSE(Edit().isVisible());
+  EXPECT_TRUE(Child(window_, "Command20").hasFocus());
+  EXPECT_NE(Model<Label>("Form1.Label7").caption(), Model<Command>("Form1.subend").help());
+}
+
 TEST_F(ReportPanelTest, TabGoesThroughItsButtonsBeforeWhatStandsUnderIt) {
   Edit().setFocus(Qt::TabFocusReason);
   QStringList visited;
