@@ -522,6 +522,10 @@ std::vector<Screen::MetricValue> Form1::MetricValues() {
 
 void Form1::Check1_Click() {
   ReadEngineFields();
+  ConvertEngineUnits();
+}
+
+void Form1::ConvertEngineUnits() {
   SwitchUnits([this] {
     ParameterBlock& b = block();
     Store(b.CubicInches, Text6, EngineSizeInFieldUnits());

@@ -60,6 +60,7 @@ class Form1 : public Screen {
   }
 
   void ReadEngineFields();
+  void ConvertEngineUnits();
   void DeriveEngineFields();
   void StoreMeanPistonSpeed();
   void StoreBoreAndStroke(const BoreAndStroke& size);

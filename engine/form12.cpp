@@ -358,6 +358,10 @@ void Form12::Command5_Click() {
 
 void Form12::Check1_Click() {
   ReadCompFields();
+  ConvertCompFields();
+}
+
+void Form12::ConvertCompFields() {
   SwitchUnits();
 }
 

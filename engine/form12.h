@@ -37,6 +37,7 @@ class Form12 : public Screen {
   void Check1_Click();
 
   void ReadCompFields();
+  void ConvertCompFields();
   void EstimateGauge(DosRule rule);
   void EstimateRatio(DosRule rule);
   void EstimateOctane();

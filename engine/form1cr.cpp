@@ -404,6 +404,10 @@ void Form1CR::Check3_Click() {
 
 void Form1CR::Check1_Click() {
   ReadRatioFields();
+  ConvertRatioUnits();
+}
+
+void Form1CR::ConvertRatioUnits() {
   SwitchUnits();
 }
 

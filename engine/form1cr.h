@@ -50,6 +50,7 @@ class Form1CR : public Screen {
   void Check3_Click();
 
   void ReadRatioFields();
+  void ConvertRatioUnits();
   void UpdateSweptVolume();
   void UpdateClearanceVolumes();
   void Warn(const std::string& text);
