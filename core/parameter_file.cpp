@@ -12,6 +12,7 @@
 #include "core/files.h"
 #include "core/host.h"
 #include "core/numbers.h"
+#include "core/text.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -137,20 +138,6 @@ std::string_view Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-bool IsContinuationByte(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
-
-/// The text with its tail cut off where it is too long for a message.
-std::string Clipped(std::string_view text) {
-  std::size_t characters = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (IsContinuationByte(text[i])) continue;
-    if (++characters > kShownCharacters) return std::string(text.substr(0, i)) + "...";
-  }
-  return std::string(text);
 }
 
 /// A text that must stay within its line of the file.
@@ -497,10 +484,10 @@ class ParameterFile::Reader {
     text += RecordNumber();
     text += kLineEnd;
     text += "Data --> ";
-    text += Clipped(line_);
+    text += Clipped(line_, kShownCharacters);
     text += kLineEnd;
     text += "The value ";
-    text += Clipped(*failure_);
+    text += Clipped(*failure_, kShownCharacters);
     context_.host.Ask(
         {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   }
@@ -780,7 +767,8 @@ class ParameterFile::Reader {
   std::string RecordNumber() const { return FormatValue<"#,##0">(records_, mark_); }
 
   std::string InvalidRecord() const {
-    return "Invalid Input Record # - " + RecordNumber() + "   Data --> " + Clipped(line_);
+    return "Invalid Input Record # - " + RecordNumber() + "   Data --> " +
+           Clipped(line_, kShownCharacters);
   }
 
   /// Tells a line that is no key; false when the user leaves the reading.
@@ -845,10 +833,11 @@ int ParameterFile::ReadParameterFile(const std::filesystem::path& path) {
     }
   }
   if (failure) {
-    context_.host.Ask({Icon::Warning,
-                       context_.rules.messages().MessageTitle,
-                       std::string(kReadingError) + std::string(kLineEnd) + Clipped(*failure),
-                       {Button::OK}});
+    context_.host.Ask(
+        {Icon::Warning,
+         context_.rules.messages().MessageTitle,
+         std::string(kReadingError) + std::string(kLineEnd) + Clipped(*failure, kShownCharacters),
+         {Button::OK}});
     return 0;
   }
   return ReadText(text, PathText(path));

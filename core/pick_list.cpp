@@ -4,23 +4,18 @@
 #include <numeric>
 #include <utility>
 
+#include "core/text.h"
+
 namespace veldox {
 namespace {
 
 /// Source of the rows that the program was made with.
 constexpr std::string_view kGiven = "given";
+/// A tip shows no more of a row.
+constexpr std::size_t kToldCharacters = 200;
 
 bool IsName(const PickRow& row) {
   return row.kind == PickRow::Kind::Choice || row.kind == PickRow::Kind::NameOnly;
-}
-
-/// A row for a tip: very long ones in part.
-std::string Quoted(const std::string& text) {
-  constexpr std::size_t kLongest = 200;
-  if (text.size() <= kLongest) return text;
-  std::size_t cut = kLongest;
-  while (cut > 0 && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) --cut;
-  return text.substr(0, cut) + "...";
 }
 
 /// A text as it is searched: in small letters, with points for commas.
@@ -103,6 +98,7 @@ void PickList::Offer(std::vector<PickRow> rows, PickPlace place) {
   place_ = {place.picked < size ? place.picked : -1,
             std::clamp(place.top, 0, std::max(size - 1, 0))};
   count_ = static_cast<int>(std::count_if(all_.begin(), all_.end(), IsName));
+  ++offers_;
   ShowRows();
 }
 
@@ -216,7 +212,7 @@ int PickList::first() const {
 std::string PickList::Told(int row) const {
   const PickRow& told = RowAt(row);
   if (told.kind != PickRow::Kind::Choice) return told.note;
-  return Quoted(told.text) + "\r\n" + told.note;
+  return Clipped(told.text, kToldCharacters) + "\r\n" + told.note;
 }
 
 void PickList::Step(int by) {
@@ -236,8 +232,7 @@ std::string PickList::chosenText() const {
 }
 
 void PickList::Choose(int row) {
-  if (!HasRow(row)) return;
-  if (RowAt(row).kind != PickRow::Kind::Choice) return;
+  if (!HasRow(row) || RowAt(row).kind != PickRow::Kind::Choice) return;
   picked_ = place_.picked = shown_[static_cast<std::size_t>(row)];
   current_ = row;
   SetChosen(row);

@@ -84,6 +84,8 @@ class PickList : public ComboList {
   int shownCount() const { return shownCount_; }
   /// Counts up whenever the rows in sight are others.
   unsigned edition() const { return edition_; }
+  /// Counts up whenever the list as a whole is another.
+  unsigned offers() const { return offers_; }
 
   /// The row that Enter picks: the one picked last, the first that was found, or where the
   /// arrow keys went; -1 for none.
@@ -121,6 +123,7 @@ class PickList : public ComboList {
   int count_ = 0;
   int shownCount_ = 0;
   unsigned edition_ = 0;
+  unsigned offers_ = 0;
 };
 
 }  // namespace veldox

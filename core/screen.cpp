@@ -336,25 +336,19 @@ void ProgramContext::HandOver(Screen* screen) {
     constexpr double kLargest = std::numeric_limits<double>::max();
     return std::clamp(value, -kLargest, kLargest);
   };
-  std::vector<std::pair<double*, double>> inches;
   for (const HeldValue& value : held_) {
-    const double now =
+    *value.slot =
         *value.slot == value.metric ? value.inches : limited(value.rule->toInches(*value.slot));
-    inches.emplace_back(value.slot, now);
   }
-  std::vector<HeldValue> held;
-  for (const Screen::MetricValue& value :
-       screen == nullptr ? std::vector<Screen::MetricValue>{} : screen->MetricValues()) {
-    if (value.slot == nullptr) continue;
-    const auto released = std::find_if(
-        inches.begin(), inches.end(), [&](const auto& entry) { return entry.first == value.slot; });
-    const double before = released == inches.end() ? *value.slot : released->second;
-    held.push_back({value.slot, value.rule, before, limited(value.rule->toMetric(before))});
-  }
-  for (const auto& [slot, value] : inches) *slot = value;
-  for (const HeldValue& value : held) *value.slot = value.metric;
-  held_ = std::move(held);
+  held_.clear();
   metricOwner_ = screen;
+  if (screen == nullptr) return;
+  for (const Screen::MetricValue& value : screen->MetricValues()) {
+    if (value.slot == nullptr) continue;
+    const double metric = limited(value.rule->toMetric(*value.slot));
+    held_.push_back({value.slot, value.rule, *value.slot, metric});
+    *value.slot = metric;
+  }
 }
 
 void Screen::CopyShared() {
@@ -362,24 +356,14 @@ void Screen::CopyShared() {
   CopyFromBlock();
 }
 
-double Screen::AsShown(const Field& field, double inches) {
-  if (!metric()) return inches;
+double Screen::Converted(const Field& field, double number, bool toMetric) {
+  if (!metric()) return number;
   for (const MetricValue& value : MetricValues()) {
     if (value.field != &field) continue;
-    const double metric = value.rule->toMetric(inches);
-    return std::isfinite(metric) ? metric : inches;
+    const double converted = value.rule->Convert(number, toMetric);
+    return std::isfinite(converted) ? converted : number;
   }
-  return inches;
-}
-
-double Screen::InInches(const Field& field, double shown) {
-  if (!metric()) return shown;
-  for (const MetricValue& value : MetricValues()) {
-    if (value.field != &field) continue;
-    const double inches = value.rule->toInches(shown);
-    return std::isfinite(inches) ? inches : shown;
-  }
-  return shown;
+  return number;
 }
 
 void Screen::Quit() {
@@ -589,7 +573,7 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
       held.push_back({value.slot, value.rule, number, 0});
     }
     if (value.from == From::Derived) continue;
-    double now = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
+    double now = value.rule->Convert(number, toMetric);
     if (!toMetric && !isShown && (value.field == nullptr || value.from == From::Shown)) {
       // No field tells otherwise: what it was in inches comes back to the last digit.
       for (const HeldValue& was : context_.held_) {
@@ -643,7 +627,7 @@ void Screen::SwitchBlankUnits(bool toMetric) {
   for (const MetricValue& value : MetricValues()) {
     if (value.field == nullptr || !IsNumber(value.field->text(), mark())) continue;
     const double number = ParseNumber(value.field->text(), mark());
-    const double now = toMetric ? value.rule->toMetric(number) : value.rule->toInches(number);
+    const double now = value.rule->Convert(number, toMetric);
     if (std::isfinite(now)) value.field->SetText(value.format(now, mark()));
   }
   MetricBox()->SetOn(toMetric);

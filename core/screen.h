@@ -428,8 +428,8 @@ class Screen {
   virtual std::vector<MetricValue> MetricValues() { return {}; }
   /// A number of a field in inches, as the field shows it now, and the reverse. What is too
   /// large for the other units stays as it is.
-  double AsShown(const Field& field, double inches);
-  double InInches(const Field& field, double shown);
+  double AsShown(const Field& field, double inches) { return Converted(field, inches, true); }
+  double InInches(const Field& field, double shown) { return Converted(field, shown, false); }
   /// Ticks or unticks the "Metric" box of a screen with blank fields: what is a number is
   /// converted, and no shared value is touched.
   void SwitchBlankUnits(bool toMetric);
@@ -506,6 +506,7 @@ class Screen {
   friend class Frame;
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
+  double Converted(const Field& field, double number, bool toMetric);
   void TakeFocus(Control* control);
 
   ProgramContext& context_;

@@ -17,6 +17,10 @@ inline constexpr double kGramsPerPound = 453.5923696;
 struct UnitRule {
   double (*toMetric)(double);
   double (*toInches)(double);
+
+  double Convert(double value, bool metric) const {
+    return metric ? toMetric(value) : toInches(value);
+  }
 };
 
 inline constexpr UnitRule kLengthRule{[](double inches) { return inches * kMillimetresPerInch; },

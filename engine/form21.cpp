@@ -7,6 +7,7 @@
 
 #include "core/files.h"
 #include "core/shell.h"
+#include "core/text.h"
 
 namespace veldox {
 namespace {
@@ -63,7 +64,6 @@ Form21::Form21(ProgramContext& context, Form1& form1)
 void Form21::LoadList(std::string_view menuItem) {
   places_[list_] = Combo1.place();
   list_ = menuItem;
-  Combo1.Offer({});
   ShowHelp(Combo1.help());
   if (menuItem == kUserList) {
     Combo1.SetCaption(std::string(Shell::FindMenuItem(kUserList)->caption));
@@ -83,6 +83,8 @@ void Form21::LoadList(std::string_view menuItem) {
 }
 
 void Form21::ReadUserRows() {
+  // A file that cannot be read leaves the list empty.
+  Combo1.Offer({});
   const std::string text =
       DecodeText(LoadFile(InFolder(context().host.ProgramFolder(), kUserFile)));
   std::vector<PickRow> rows;
@@ -102,7 +104,7 @@ void Form21::ReadUserRows() {
 std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
   constexpr std::array<const char*, kFigures> kNames{"Bore", "Stroke", "Rod Length",
                                                      "Number of Cylinders"};
-  const std::string where = "the row \"" + row.substr(0, kQuotedRow) + '"';
+  const std::string where = "the row \"" + Clipped(row, kQuotedRow) + '"';
   std::vector<Figure> figures;
   for (std::string& text : PickedFigures(row, kFigures)) {
     const std::size_t index = figures.size();

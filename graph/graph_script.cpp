@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "core/error.h"
+#include "core/text.h"
 
 namespace veldox {
 
@@ -261,13 +262,8 @@ std::optional<GraphScript> ReadGraphScript(std::string_view text, DecimalMark ma
     }
   } catch (const BadLine& bad) {
     failure = bad.failure;
-    constexpr std::size_t kLongest = 300;
-    if (failure.text.size() > kLongest) {
-      std::size_t cut = kLongest;
-      while (cut > 0 && (static_cast<unsigned char>(failure.text[cut]) & 0xC0) == 0x80) --cut;
-      failure.text.resize(cut);
-      failure.text += "...";
-    }
+    constexpr std::size_t kShownCharacters = 300;
+    failure.text = Clipped(failure.text, kShownCharacters);
     return std::nullopt;
   }
   return script;

@@ -335,7 +335,7 @@ void PickView::scrollContentsBy(int dx, int dy) {
 
 void PickView::Follow() {
   if (edition_ == list_.edition()) {
-    if (list_.current() == list_.first()) {
+    if (list_.current() >= 0 && list_.current() == list_.first()) {
       // The headings over the first row that can be picked come into sight with it.
       scrollToTop();
     } else if (list_.current() >= 0) {
@@ -347,7 +347,9 @@ void PickView::Follow() {
   edition_ = list_.edition();
   following_ = true;
   rows_.Reset();
-  Measure();
+  // Narrowing leaves the columns where they are.
+  if (offers_ != list_.offers()) Measure();
+  offers_ = list_.offers();
   const auto& shown = list_.shown();
   if (!list_.words().empty()) {
     scrollToTop();

@@ -99,6 +99,7 @@ class PickView : public QListView {
   PickColumns columns_;
   Heads* heads_;
   unsigned edition_ = 0;
+  unsigned offers_ = 0;
   bool following_ = false;
 };
 

@@ -1,0 +1,14 @@
+#include "core/text.h"
+
+namespace veldox {
+
+std::string Clipped(std::string_view text, std::size_t most) {
+  std::size_t characters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsContinuationByte(text[i])) continue;
+    if (++characters > most) return std::string(text.substr(0, i)) + "...";
+  }
+  return std::string(text);
+}
+
+}  // namespace veldox

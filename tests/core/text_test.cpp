@@ -1,0 +1,22 @@
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+namespace veldox {
+namespace {
+
+TEST(Clipped, LeavesAShortTextAsItIs) {
+  EXPECT_EQ(Clipped("", 3), "");
+  EXPECT_EQ(Clipped("abc", 3), "abc");
+  EXPECT_EQ(Clipped("abcd", 3), "abc...");
+}
+
+TEST(Clipped, CutsBetweenCharacters) {
+  const std::string text = "\xC3\xA9\xC3\xBC\xE2\x82\xAC";  // e acute, u umlaut, euro sign
+  EXPECT_EQ(Clipped(text, 3), text);
+  EXPECT_EQ(Clipped(text, 2), "\xC3\xA9\xC3\xBC...");
+  EXPECT_EQ(Clipped(text, 1), "\xC3\xA9...");
+}
+
+}  // namespace
+}  // namespace veldox
