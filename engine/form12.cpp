@@ -154,6 +154,7 @@ void Form12::EstimateGauge(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
   Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
+  Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
   const double base = AtmosphereBase(rule);
   Require(base > 0, Text30, kNoPressure);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
@@ -180,6 +181,12 @@ void Form12::EstimateRatio(DosRule rule) {
   ParameterBlock& b = block();
   const double base = AtmosphereBase(rule);
   Require(base > 0, Text30, kNoPressure);
+  if (rule == DosRule::On) {
+    Require(b.CompressionGauge > 0, Text35, "must be greater than 0 for this command.");
+  } else {
+    Require(b.CompressionGauge > base, Text35,
+            "must be greater than the pressure of the air for this command.");
+  }
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   Store(b.CompressionRatio, Text17,
         CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
@@ -205,6 +212,7 @@ void Form12::Command9_Click() {
 void Form12::Command7_Click() {
   ReadCompFields();
   ParameterBlock& b = block();
+  Require(b.DynamicCompressionRatio >= 1, Text45, "must be at least 1 for this command.");
   ClosedCylinder cylinder = CylinderGeometry();
   if (b.WristPinOffset == 0) cylinder.actualStroke = b.Stroke;
   Show(Text8, cylinder.dynamicStroke);

@@ -1,6 +1,9 @@
 #include "engine/form1cr.h"
 
+#include <algorithm>
+#include <array>
 #include <cfenv>
+#include <utility>
 #include <vector>
 
 #include "core/report.h"
@@ -70,6 +73,7 @@ double Form1CR::InchesForThousandth(double bore) const {
 
 void Form1CR::UpdateClearanceVolumes() {
   ParameterBlock& b = block();
+  Require(b.Bore > 0, Text1, "must be greater than 0 for this command.");
   if (!Check3.on()) {
     if (b.TopLandDiameter > b.Bore) {
       Store(b.TopLandDiameter, Text20, b.Bore * 0.99);
@@ -112,9 +116,23 @@ ClearanceVolumes Form1CR::Volumes() const {
   return {b.CombChamberVol, b.DomeVol, b.HeadGasketCC, deckCc_, b.RingCC};
 }
 
+Field& Form1CR::LargestTaker() {
+  const ClearanceVolumes volumes = Volumes();
+  const std::array<std::pair<double, Field*>, 5> given{
+      {{-volumes.dome, &Text16},
+       {volumes.deck, &Text10},
+       {volumes.gasket, Check2.on() ? &Text42 : &Text14},
+       {volumes.chamber, &Text15},
+       {volumes.ring, Check3.on() ? &Text43 : &Text19}}};
+  return *std::min_element(given.begin(), given.end())->second;
+}
+
 void Form1CR::SumVolumes() {
   ParameterBlock& b = block();
   ReadChamberAndDome();
+  Require(Volumes().Total() >= 0, LargestTaker(),
+          "takes more room than all the other volumes give: there would be no space left above "
+          "the piston.");
   Store(b.TotalVol, Text21, Volumes().Total());
   Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
   Show(Text44, sweptCc_);
@@ -134,10 +152,6 @@ void Form1CR::Command10_Click() {
   ReadRatioFields();
   UpdateSweptVolume();
   UpdateClearanceVolumes();
-  ReadChamberAndDome();
-  Require(Volumes().Total() >= 0, Text16,
-          "takes more room than all the other volumes give: there would be no space left above "
-          "the piston.");
   SumVolumes();
 }
 
@@ -175,6 +189,7 @@ void Form1CR::Command13_Click() {
   UpdateSweptVolume();
   ParameterBlock& b = block();
   ReadInto(b.TotalVol, Text21);
+  Require(b.TotalVol >= 0, Text21, "must not be negative for this command.");
   Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
 }
 
@@ -215,6 +230,7 @@ Dish Form1CR::ReadDish() {
   const ParameterBlock& b = block();
   Require(b.DishBore >= 0, Text5, "must not be negative for this command.");
   Require(b.DishDepth >= 0, Text6, "must not be negative for this command.");
+  Require(b.DishRadius >= 0, Text8, "must not be negative for this command.");
   return {b.DishBore, b.DishDepth, b.DishRadius};
 }
 
@@ -299,6 +315,7 @@ void Form1CR::Command6_Click() {
   ReadRatioFields();
   UpdateSweptVolume();
   ReadRatio();
+  Require(block().CompressionRatio > 0, Text17, "must be greater than 0 for this chart.");
   ShowChart([this] { return TotalVolumeChart(Input(), block().CompressionRatio, mark()); });
 }
 

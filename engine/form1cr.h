@@ -61,6 +61,8 @@ class Form1CR : public Screen {
   ClearanceVolumes Volumes() const;
   /// Ratio and total volume from all that forms it.
   void SumVolumes();
+  /// The field whose volume takes most from the room above the piston.
+  Field& LargestTaker();
   void StoreTotalForRatio();
   Dish ReadDish();
   /// Shows a radius that was limited, and says so.

@@ -167,3 +167,49 @@ set Form1CR.Text6 0.06
 set Form1CR.Text18 1e-300
 click Form1CR.Command19
 messages
+pause What takes more room than there is, whichever it is, changes no ratio, in the charts neither
+set Form1CR.Text1 4
+set Form1CR.Text18 4.01
+set Form1CR.Text17 9.5
+set Form1CR.Text21 61
+set Form1CR.Text16 90
+click Form1CR.Command8
+click Form1CR.Command9
+click Form1CR.Command18
+click Form1CR.Command19
+get Form1CR.Text17
+get Form1CR.Text21
+set Form1CR.Text16 19.5
+set Form1CR.Text10 -1
+click Form1CR.Command10
+set Form1CR.Text10 0
+set Form1CR.Text14 -1
+click Form1CR.Command10
+set Form1CR.Text14 .021
+set Form1CR.Text15 -70
+click Form1CR.Command10
+set Form1CR.Text15 65
+check Form1CR.Check2
+set Form1CR.Text42 -80
+click Form1CR.Command10
+uncheck Form1CR.Check2
+set Form1CR.Text21 -5
+click Form1CR.Command13
+set Form1CR.Text17 -3
+click Form1CR.Command6
+messages
+get Form1CR.Text17
+set Form1CR.Text17 9.5
+pause A bore of 0 leaves the ring land as it is
+set Form1CR.Text1 0
+click Form1CR.Command9
+get Form1CR.Text20
+messages
+set Form1CR.Text1 4
+pause A negative radius
+set Form1CR.Text8 -0.01
+click Form1CR.Command2
+click Form1CR.Command3
+click Form1CR.Command5
+messages
+set Form1CR.Text8 0

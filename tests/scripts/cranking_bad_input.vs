@@ -115,3 +115,23 @@ set Form12.Text32 500
 click Form12.Command8
 click Form12.Command9
 messages
+pause Ratios and readings that no engine has
+set Form12.Text31 59
+set Form12.Text32 5
+set Form12.Text17 0.5
+click Form12.Command18
+set Form12.Text17 0
+click Form12.Command8
+set Form12.Text17 11
+set Form12.Text35 14
+click Form12.Command19
+set Form12.Text35 0
+click Form12.Command9
+set Form12.Text35 15
+click Form12.Command19
+messages
+get Form12.Text17
+set Form12.Text45 0
+click Form12.Command7
+messages
+get Form12.Text17
