@@ -19,6 +19,8 @@ namespace {
 
 constexpr int kWindowMargin = 6;
 constexpr int kFrameGap = 5;
+/// What an open report has before the frames get all that they want.
+constexpr int kReadableLines = 30;
 /// What a window manager puts around a window.
 constexpr QSize kDecoration(10, 40);
 
@@ -180,9 +182,18 @@ void ScreenWindow::MakeRoomForReport() {
 }
 
 void ScreenWindow::ShareRoom() {
-  // The report gets what the frames have no use for.
-  const bool reads = report_ != nullptr && report_->isVisibleTo(this);
-  scroll_->setMaximumHeight(reads ? body_->WantedHeight(scroll_->width()) : QWIDGETSIZE_MAX);
+  int most = QWIDGETSIZE_MAX;
+  if (report_ != nullptr && report_->isVisibleTo(this)) {
+    // The report gets what the frames have no use for. Where that is little, reading goes
+    // first, and the frames scroll in what is left.
+    report_->updateGeometry();
+    layout()->activate();
+    const int room = height() - layout()->minimumSize().height() +
+                     scroll_->minimumSizeHint().height() + report_->minimumSizeHint().height();
+    const int lines = kReadableLines * fontMetrics().lineSpacing();
+    most = std::min(body_->WantedHeight(scroll_->width()), std::max(room - lines, room * 2 / 5));
+  }
+  scroll_->setMaximumHeight(most);
 }
 
 void ScreenWindow::resizeEvent(QResizeEvent* event) {

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <fstream>
 #include <iterator>
@@ -40,6 +41,22 @@ TEST_F(ReportPanelTest, OpensWithTheFocusAndFitsTheScreen) {
   EXPECT_TRUE(Edit().hasFocus());
   EXPECT_LE(window_.height(), kScreenHeight);
   EXPECT_GE(Edit().height(), 15 * QFontMetrics(Edit().font()).lineSpacing());
+}
+
+TEST_F(ReportPanelTest, ComesBeforeFramesThatDoNotFitBesideIt) {
+  QWidget& window = Open("CompRatio");
+  Child<QPushButton>(window, "Command8").click();
+  Settle();
+  const auto& edit = Child<QPlainTextEdit>(window, "Text38");
+  EXPECT_GE(edit.height(), 22 * QFontMetrics(edit.font()).lineSpacing());
+  // The frames have their two fifths, and all they want when it is closed.
+  const auto* frames = window.findChild<QScrollArea*>();
+  const int shared = frames->height();
+  EXPECT_GE(shared, edit.height() / 2);
+  Model<ReportBox>("Form1CR.Text38").CloseReport();
+  Settle();
+  EXPECT_GT(frames->height(), shared);
+  EXPECT_EQ(frames->verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ReportPanelTest, ShowsAllLinesOfALongReport) {
