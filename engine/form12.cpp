@@ -12,7 +12,6 @@ namespace veldox {
 namespace {
 
 constexpr double kSmallestStroke = 0.00001;
-constexpr const char* kNoPressure = "must be greater than the Vapor Pressure, and than 0.";
 constexpr double kCubicMillimetresPerCc = 1000;
 /// Of the exponents, the one nearest to that of cranking.
 constexpr int kUsualExponent = 6;
@@ -92,6 +91,14 @@ void Form12::RequireRod() {
           "is too short for this Stroke: the rod cannot follow the crank all the way round.");
 }
 
+void Form12::RequireAir(double base) {
+  const ParameterBlock& b = block();
+  if (base > 0) return;
+  Require(b.BarometricPressure > 0, Text30, "must be greater than 0.");
+  Require(false, b.Humidity > 100 ? Text32 : Text31,
+          "makes the Vapor Pressure as high as the Barometric Pressure: no air would be left.");
+}
+
 ClosedCylinder Form12::CylinderGeometry() {
   const ClosedCylinder cylinder = ClosedCylinderAt(Size(), block().IntakeClose);
   if (!std::isfinite(cylinder.dynamicStroke) || !std::isfinite(cylinder.actualStroke)) {
@@ -156,7 +163,7 @@ void Form12::EstimateGauge(DosRule rule) {
   Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
   const double base = AtmosphereBase(rule);
-  Require(base > 0, Text30, kNoPressure);
+  RequireAir(base);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   const double clearance = cylinder.sweptCc / (b.CompressionRatio - 1);
   const double ratio = (clearance + cylinder.closedCc) / clearance;
@@ -180,7 +187,7 @@ void Form12::EstimateRatio(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
   const double base = AtmosphereBase(rule);
-  Require(base > 0, Text30, kNoPressure);
+  RequireAir(base);
   if (rule == DosRule::On) {
     Require(b.CompressionGauge > 0, Text35, "must be greater than 0 for this command.");
   } else {
@@ -262,7 +269,7 @@ void Form12::Command2_Click() {
   const double base = GaugeBase(rule);
   Require(b.Bore != 0, Text1, "must not be 0 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
-  Require(base > 0, Text30, kNoPressure);
+  RequireAir(base);
   RequireRod();
   const std::string shown = Text35.text();
   const double reading = b.CompressionGauge;
@@ -318,8 +325,7 @@ CrankingGraphInput Form12::ReadGraphInput() {
             "must be greater than 0 for this graph: at the top no pressure turns the crank.");
   } else if (input.graph != CrankingGraph::DynamicRatio &&
              input.graph != CrankingGraph::CompressionRatio) {
-    Require(GaugeBase(input.rule) > 0, Text30,
-            "must be greater than the Vapor Pressure, and than 0.");
+    RequireAir(GaugeBase(input.rule));
   }
   if (Check3.on() && HasHighValue(input.graph)) {
     const double high = Read(Text13);

@@ -135,3 +135,9 @@ set Form12.Text45 0
 click Form12.Command7
 messages
 get Form12.Text17
+pause Air as hot as an oven
+set Form12.Text17 11
+set Form12.Text31 9999
+click Form12.Command8
+messages
+get Form12.Text17
