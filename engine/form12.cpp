@@ -91,9 +91,9 @@ void Form12::RequireRod() {
           "is too short for this Stroke: the rod cannot follow the crank all the way round.");
 }
 
-void Form12::RequireAir(double base) {
+void Form12::RequireAir(DosRule rule) {
   const ParameterBlock& b = block();
-  if (base > 0) return;
+  if (GaugeBase(rule) > 0) return;
   Require(b.BarometricPressure > 0, Text30, "must be greater than 0.");
   Require(false, b.Humidity > 100 ? Text32 : Text31,
           "makes the Vapor Pressure as high as the Barometric Pressure: no air would be left.");
@@ -162,8 +162,8 @@ void Form12::EstimateGauge(DosRule rule) {
   ParameterBlock& b = block();
   Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
+  RequireAir(rule);
   const double base = AtmosphereBase(rule);
-  RequireAir(base);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   const double clearance = cylinder.sweptCc / (b.CompressionRatio - 1);
   const double ratio = (clearance + cylinder.closedCc) / clearance;
@@ -186,14 +186,12 @@ void Form12::EstimateOctane() {
 void Form12::EstimateRatio(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
+  RequireAir(rule);
+  Require(rule == DosRule::Off || b.CompressionGauge > 0, Text35,
+          "must be greater than 0 for this command.");
+  Require(rule == DosRule::On || b.CompressionGauge > GaugeBase(rule), Text35,
+          "must be greater than the pressure of the air for this command.");
   const double base = AtmosphereBase(rule);
-  RequireAir(base);
-  if (rule == DosRule::On) {
-    Require(b.CompressionGauge > 0, Text35, "must be greater than 0 for this command.");
-  } else {
-    Require(b.CompressionGauge > base, Text35,
-            "must be greater than the pressure of the air for this command.");
-  }
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   Store(b.CompressionRatio, Text17,
         CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
@@ -269,7 +267,7 @@ void Form12::Command2_Click() {
   const double base = GaugeBase(rule);
   Require(b.Bore != 0, Text1, "must not be 0 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
-  RequireAir(base);
+  RequireAir(rule);
   RequireRod();
   const std::string shown = Text35.text();
   const double reading = b.CompressionGauge;
@@ -325,7 +323,7 @@ CrankingGraphInput Form12::ReadGraphInput() {
             "must be greater than 0 for this graph: at the top no pressure turns the crank.");
   } else if (input.graph != CrankingGraph::DynamicRatio &&
              input.graph != CrankingGraph::CompressionRatio) {
-    RequireAir(GaugeBase(input.rule));
+    RequireAir(input.rule);
   }
   if (Check3.on() && HasHighValue(input.graph)) {
     const double high = Read(Text13);

@@ -52,8 +52,8 @@ class Form12 : public Screen {
   double GaugeBase(DosRule rule) const;
   /// Ends a command for a rod that cannot follow the crank. @throws CommandError
   void RequireRod();
-  /// Refuses weather that leaves no pressure to the air, by `base` of it.
-  void RequireAir(double base);
+  /// Ends a command for weather that leaves no pressure to the air. @throws CommandError
+  void RequireAir(DosRule rule);
   /// A volume in the unit of the formulas in cc.
   double CcOf(double volume) const;
   double FahrenheitShown(double temperature) const;

@@ -141,3 +141,13 @@ set Form12.Text31 9999
 click Form12.Command8
 messages
 get Form12.Text17
+pause What is refused shows nothing of the weather
+set Form12.Text31 70
+set Form12.Text32 50
+set Form12.Text35 0
+click Form12.Command9
+messages
+get Form12.Text33
+set Form12.Text35 165.5
+click Form12.Command9
+get Form12.Text33
