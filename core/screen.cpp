@@ -540,6 +540,19 @@ void Screen::ShowText(TextControl& field, std::string text) {
   field.SetMark(Mark::Changed);
 }
 
+std::string Screen::BuildReport(const std::function<std::string()>& build, const char* impossible) {
+  const CommandError cannot(ErrorKind::InvalidArgument, impossible);
+  std::string report;
+  try {
+    report = build();
+  } catch (const CommandError& error) {
+    if (error.kind() == ErrorKind::Overflow) throw cannot;
+    throw;
+  }
+  if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) throw cannot;
+  return report;
+}
+
 void Screen::ShowReport(std::string report, int fontSize) {
   ReportPane()->ShowReport(std::move(report), fontSize);
 }

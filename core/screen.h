@@ -491,6 +491,10 @@ class Screen {
   void ShowText(TextControl& field, std::string text);
   /// Shows a report in the screen's report box. @param fontSize  points it is printed in
   void ShowReport(std::string report, int fontSize = 10);
+  /// A report that `build` makes of numbers no field has shown yet.
+  /// @param impossible  what is told when one of them divides by zero or is too large
+  /// @throws CommandError (InvalidArgument) with it, and what else `build` throws
+  static std::string BuildReport(const std::function<std::string()>& build, const char* impossible);
   /// Ends the command unless a condition on a field's value holds; the message follows the
   /// field's label. @throws CommandError (InvalidArgument)
   static void Require(bool holds, Field& field, const char* message) {

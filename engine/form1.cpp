@@ -1,6 +1,5 @@
 #include "engine/form1.h"
 
-#include <cfenv>
 #include <cmath>
 #include <vector>
 
@@ -335,16 +334,13 @@ void Form1::FailForGeometry(const CommandError& error) {
 }
 
 void Form1::ShowTable(const std::function<std::string(const PistonTable&)>& build) {
-  const CommandError impossible(ErrorKind::InvalidArgument,
-                                "The table cannot be computed for this engine. Please check the "
-                                "Bore, Stroke, Rod Length, Engine RPM, Wrist Pin Offset and "
-                                "weights.");
   std::string report;
   try {
-    report = build(Table());
-    if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) throw impossible;
+    report = BuildReport([&] { return build(Table()); },
+                         "The table cannot be computed for this engine. Please check the Bore, "
+                         "Stroke, Rod Length, Engine RPM, Wrist Pin Offset and weights.");
   } catch (const CommandError& error) {
-    FailForGeometry(error.kind() == ErrorKind::Overflow ? impossible : error);
+    FailForGeometry(error);
   }
   ShowReport(std::move(report));
   DeriveEngineFields();

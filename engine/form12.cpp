@@ -160,7 +160,6 @@ double Form12::AtmosphereBase(DosRule rule) {
 void Form12::EstimateGauge(DosRule rule) {
   ReadCompFields();
   ParameterBlock& b = block();
-  Require(b.CompressionRatio != 1, Text17, "must not be 1 for this command.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
   RequireAir(rule);
   const double base = AtmosphereBase(rule);

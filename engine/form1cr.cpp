@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cfenv>
 #include <utility>
 #include <vector>
 
@@ -297,18 +296,9 @@ void Form1CR::CalculateChartBase() {
 }
 
 void Form1CR::ShowChart(const std::function<std::string()>& build) {
-  const CommandError impossible(ErrorKind::InvalidArgument,
-                                "The chart cannot be computed for this engine. Please check the "
-                                "Bore, Stroke, Comp Ratio, Head Gasket Bore Size and the volumes.");
-  std::string report;
-  try {
-    report = build();
-  } catch (const CommandError& error) {
-    if (error.kind() == ErrorKind::Overflow) throw impossible;
-    throw;
-  }
-  if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) throw impossible;
-  ShowReport(std::move(report));
+  ShowReport(BuildReport(build,
+                         "The chart cannot be computed for this engine. Please check the Bore, "
+                         "Stroke, Comp Ratio, Head Gasket Bore Size and the volumes."));
 }
 
 void Form1CR::Command6_Click() {

@@ -185,7 +185,8 @@ void ScreenWindow::ShareRoom() {
   int most = QWIDGETSIZE_MAX;
   if (report_ != nullptr && report_->isVisibleTo(this)) {
     // The report gets what the frames have no use for. Where that is little, reading goes
-    // first, and the frames scroll in what is left.
+    // first, and the frames scroll in what is left. How little it can be is known only since
+    // it has its font.
     report_->updateGeometry();
     layout()->activate();
     const int room = height() - layout()->minimumSize().height() +

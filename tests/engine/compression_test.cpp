@@ -74,7 +74,8 @@ double Inches(double millimetres) {
   return millimetres / 25.4;
 }
 
-/// Engines by their makers' own figures, or by those that others quote from the makers' books.
+/// Engines by figures that go back to their makers: from the makers' papers, or as clubs and
+/// specialists give them of the standard engine.
 std::vector<PublishedEngine> EnginesOfTheirMakers() {
   return {
       // The maker's service table, as it stands at sysrk.wordpress.com: 62.4 cc with the plug in.
