@@ -17,12 +17,12 @@
 namespace veldox {
 namespace {
 
-/// How large the graph would like to be while the options do not ask for another size.
 constexpr const char* kKeyHelp =
     "The Arrow Keys move the Read-out over the Graph, with Shift ten Pixels at a time; Escape "
     "takes it away.";
 constexpr const char* kLineHelp =
     " The Space Bar takes hold of the next moveable Line, which the Arrow Keys move then.";
+/// How large the graph would like to be while the options do not ask for another size.
 constexpr QSize kPreferredSize(900, 620);
 constexpr QSize kSmallestSize(320, 240);
 constexpr int kPixelsPerSizeUnit = 100;  ///< of the options "Graph Size"
