@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "engine/form21.h"
+#include "engine/engine_finder_screen.h"
 #include "program/program.h"
 #include "script/script_host.h"
 

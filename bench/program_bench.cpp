@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "engine/form1.h"
+#include "engine/displacement_screen.h"
 #include "program/program.h"
 #include "script/script_host.h"
 

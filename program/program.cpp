@@ -1,9 +1,9 @@
 #include "program/program.h"
 
-#include "engine/form1.h"
-#include "engine/form12.h"
-#include "engine/form1cr.h"
-#include "engine/form21.h"
+#include "engine/compression_gauge_screen.h"
+#include "engine/compression_ratio_screen.h"
+#include "engine/displacement_screen.h"
+#include "engine/engine_finder_screen.h"
 
 namespace veldox {
 

@@ -3,9 +3,9 @@
 #include <memory>
 #include <vector>
 
-#include "core/form15.h"
+#include "core/about_screen.h"
 #include "core/shell.h"
-#include "graph/form8.h"
+#include "graph/grapher_screen.h"
 
 namespace veldox {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "graph/form8.h"
+#include "graph/grapher_screen.h"
 
 namespace veldox {
 

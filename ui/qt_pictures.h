@@ -5,7 +5,7 @@
 
 #include "core/host.h"
 #include "core/shell.h"
-#include "graph/form8.h"
+#include "graph/grapher_screen.h"
 
 namespace veldox {
 

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "core/report.h"
-#include "engine/form1.h"
-#include "graph/form8.h"
+#include "engine/displacement_screen.h"
+#include "graph/grapher_screen.h"
 #include "tests/support/test_host.h"
 
 namespace veldox {

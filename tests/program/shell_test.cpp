@@ -5,7 +5,7 @@
 #include <fstream>
 #include <set>
 
-#include "engine/form1.h"
+#include "engine/displacement_screen.h"
 #include "program/program.h"
 #include "tests/support/test_host.h"
 

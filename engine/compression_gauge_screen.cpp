@@ -1,4 +1,4 @@
-#include "engine/form12.h"
+#include "engine/compression_gauge_screen.h"
 
 #include <algorithm>
 #include <array>

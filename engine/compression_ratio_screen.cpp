@@ -1,4 +1,4 @@
-#include "engine/form1cr.h"
+#include "engine/compression_ratio_screen.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "engine/form1.h"
+#include "engine/displacement_screen.h"
 
 #include <cmath>
 #include <vector>

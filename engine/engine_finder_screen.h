@@ -7,7 +7,7 @@
 
 #include "core/pick_list.h"
 #include "core/screen.h"
-#include "engine/form1.h"
+#include "engine/displacement_screen.h"
 
 namespace veldox {
 

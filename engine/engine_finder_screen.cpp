@@ -1,4 +1,4 @@
-#include "engine/form21.h"
+#include "engine/engine_finder_screen.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "graph/form8.h"
+#include "graph/grapher_screen.h"
 
 #include <algorithm>
 #include <cmath>
