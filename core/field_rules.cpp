@@ -16,7 +16,7 @@ bool IsDigit(char32_t key) {
   return key >= U'0' && key <= U'9';
 }
 
-bool Holds(std::string_view text, char c) {
+bool Contains(std::string_view text, char c) {
   return text.find(c) != std::string_view::npos;
 }
 
@@ -84,7 +84,7 @@ void FieldRules::KeyDigits(char32_t& key) {
 void FieldRules::KeyUnsignedReal(std::string_view text, char32_t& key) {
   if (key == MarkKey()) {
     // The search is for the point in both modes; a second comma shows when the field is read.
-    if (Holds(text, '.')) {
+    if (Contains(text, '.')) {
       key = 0;
       Warn(messages_.MsgNumbersAndPoint);
     }
@@ -96,7 +96,7 @@ void FieldRules::KeyUnsignedReal(std::string_view text, char32_t& key) {
 
 void FieldRules::KeySignedReal(std::string_view text, char32_t& key) {
   if (key == MarkKey() || key == U'-') {
-    if (Holds(text, key == U'-' ? '-' : '.')) {
+    if (Contains(text, key == U'-' ? '-' : '.')) {
       key = 0;
       Warn(messages_.MsgNumbersPointMinus);
     }
@@ -108,7 +108,7 @@ void FieldRules::KeySignedReal(std::string_view text, char32_t& key) {
 
 void FieldRules::KeySignedDigits(std::string_view text, char32_t& key) {
   if (key == U'-') {
-    if (Holds(text, '-')) key = 0;
+    if (Contains(text, '-')) key = 0;
   } else if (!IsControlKey(key) && !IsDigit(key)) {
     key = 0;
   }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <memory>
 #include <tuple>
 #include <type_traits>
 #include <unordered_map>
@@ -259,8 +261,8 @@ constexpr KeyRow kTable[] = {
     Comment(";   Data for Compression Gauge"),
     Key("Dynamic Compression Ratio", KeyForm::Number, &P::DynamicCompressionRatio, "Form12.Text45"),
     Key("Compression Gauge", KeyForm::NumberOrField, &P::CompressionGauge, "Form12.Text35"),
-    Key("Crank Angle CG", KeyForm::NumberAtOnce, &P::CrankAngleCG, "Form12.Text10"),
-    Key("Base Exponent", KeyForm::NumberAtOnce, &P::BaseExponent, "Form12.Combo1"),
+    Key("Crank Angle CG", KeyForm::Number, &P::CrankAngleCG, "Form12.Text10"),
+    Key("Base Exponent", KeyForm::Number, &P::BaseExponent, "Form12.Combo1"),
     Comment(";   Data for Gears"),
     Key("Front Sprocket", KeyForm::IntegerOrField, &P::FrontSprocket, "Form5"),
     Key("Rear Sprocket", KeyForm::IntegerOrField, &P::RearSprocket, "Form5"),
@@ -552,6 +554,34 @@ const KeyRow* FindKey(std::string_view key) {
     return rows;
   }();
   const auto found = kRows.find(Lower(key));
+  return found == kRows.end() ? nullptr : found->second;
+}
+
+const KeyRow* FindKeyOfSlot(ParameterBlock& block, const void* slot) {
+  static const std::unordered_map<std::ptrdiff_t, const KeyRow*> kRows = [] {
+    std::unordered_map<std::ptrdiff_t, const KeyRow*> rows;
+    const auto model = std::make_unique<ParameterBlock>();
+    const auto add = [&](const void* place, const KeyRow& row) {
+      rows.emplace(static_cast<const char*>(place) - reinterpret_cast<const char*>(model.get()),
+                   &row);
+    };
+    for (const KeyRow& row : kTable) {
+      std::visit(
+          [&](auto member) {
+            if constexpr (!std::is_same_v<decltype(member), std::monostate>) {
+              add(&((*model).*member), row);
+            }
+          },
+          row.member);
+      if (row.cell == nullptr) continue;
+      for (int i = 0; i < row.rows; ++i) {
+        for (int j = 0; j < row.rowWidth; ++j) add(&row.cell(*model, i, j), row);
+      }
+    }
+    return rows;
+  }();
+  const auto found =
+      kRows.find(static_cast<const char*>(slot) - reinterpret_cast<const char*>(&block));
   return found == kRows.end() ? nullptr : found->second;
 }
 

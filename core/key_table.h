@@ -14,7 +14,6 @@ namespace veldox {
 enum class KeyForm {
   Comment,         ///< a comment line that stands in the file as it is
   Number,          ///< FormatSmart of the value, always
-  NumberAtOnce,    ///< the same; what is read shows at once, since no opener shows it
   NumberOrField,   ///< the value; when it is 0 the owning field's text; else "0.0"
   Integer,         ///< the value by "0"
   IntegerOrField,  ///< as NumberOrField by "0"
@@ -67,6 +66,10 @@ std::span<const KeyRow> KeyTable();
 
 /// The row of a key, without regard to case; null when there is none. Comments are no keys.
 const KeyRow* FindKey(std::string_view key);
+
+/// The row of the key whose value, or number of a table, lies at this place of the block; null
+/// when it belongs to none.
+const KeyRow* FindKeyOfSlot(ParameterBlock& block, const void* slot);
 
 /// The value of a key as a plain text: numbers in their shortest form.
 /// @param index  row of an array key

@@ -214,6 +214,19 @@ void CheckRange(const KeyRow& row, double value) {
   if (std::holds_alternative<std::int32_t ParameterBlock::*>(row.member)) RoundToInt32(value);
 }
 
+/// Where the block keeps the value of a key that is no table.
+const void* PlaceOf(const KeyRow& row, ParameterBlock& block) {
+  return std::visit(
+      [&](auto member) -> const void* {
+        if constexpr (std::is_same_v<decltype(member), std::monostate>) {
+          return nullptr;
+        } else {
+          return &(block.*member);
+        }
+      },
+      row.member);
+}
+
 std::string* TextOf(const KeyRow& row, ParameterBlock& block) {
   const auto* member = std::get_if<std::string ParameterBlock::*>(&row.member);
   return member == nullptr ? nullptr : &(block.**member);
@@ -304,8 +317,7 @@ class ParameterFile::Writer {
         written_.bytes += row.key;
         EndLine();
         return;
-      case KeyForm::Number:
-      case KeyForm::NumberAtOnce: Record(row.key, FormatSmart(value, mark_)); return;
+      case KeyForm::Number: Record(row.key, FormatSmart(value, mark_)); return;
       case KeyForm::NumberOrField:
         Record(row.key,
                value != 0 ? FormatSmart(value, mark_) : FieldText(row, FormatSmart(0, mark_)));
@@ -315,8 +327,8 @@ class ParameterFile::Writer {
         Record(row.key, value != 0 ? FormatInt(value, mark_) : FieldText(row, FormatInt(0, mark_)));
         return;
       case KeyForm::FieldText:
-        // A value whose screen is not there yet is kept as it was read.
-        Record(row.key, AsField(owner) == nullptr && value != 0
+        // A value whose screen is not there, or whose form was cleared, is kept as it was read.
+        Record(row.key, !HasText(AsField(owner)) && value != 0
                             ? FormatField(value, mark_)
                             : FieldText(row, FormatSmart(0, mark_)));
         return;
@@ -335,6 +347,11 @@ class ParameterFile::Writer {
     }
   }
 
+  /// False where no field tells the value: it is not there, or cleared.
+  bool HasText(const Field* field) const {
+    return field != nullptr && !(block_.FormsCleared == 1 && field->text().empty());
+  }
+
   void WriteInteger(const KeyRow& row, const OptionGroup* group, double value) {
     if (group == nullptr) {
       Record(row.key, FormatInt(value, mark_));
@@ -348,8 +365,18 @@ class ParameterFile::Writer {
     return box != nullptr ? box->on() : value != 0;
   }
 
+  /// A number of a table: what its field says where the file tells the fields of a table, and
+  /// where that is a number.
+  double CellOf(const KeyRow& row, int index, int column) const {
+    const double& value = row.cell(block_, index, column);
+    if (row.tableForm != TableForm::Fields && row.tableForm != TableForm::Smart) return value;
+    const Field* field = AsField(file_.OwnerOf(row, &value));
+    if (field == nullptr || !IsNumber(field->text(), mark_)) return value;
+    return field->screen().InInches(*field, ParseNumber(field->text(), mark_));
+  }
+
   void WriteTableRow(const KeyRow& row, int index) {
-    const auto cell = [&](int column) { return row.cell(block_, index, column); };
+    const auto cell = [&](int column) { return CellOf(row, index, column); };
     std::string& text = written_.bytes;
     text += row.key;
     if (IsGearForm(row.tableForm)) {
@@ -588,25 +615,22 @@ class ParameterFile::Reader {
       }
     }
     StoreNumber(row, block_, number);
-    // 0 is what the file says of a value that no command has read yet.
-    if (row.form == KeyForm::NumberAtOnce && number != 0) ShowNumber(owner, number);
-    if (Field* field = AsField(owner)) {
-      if (row.form == KeyForm::NumberOrField || row.form == KeyForm::FieldText) {
-        field->SetText(FormatField(field->screen().AsShown(*field, number), mark_));
-      } else if (row.form == KeyForm::IntegerOrField) {
-        field->SetText(FormatInt(number, mark_));
-      }
-    }
+    ShowAtOnce(row, PlaceOf(row, block_), number);
   }
 
-  void ShowNumber(Control* owner, double number) const {
-    if (Field* field = AsField(owner)) field->SetText(FormatField(number, mark_));
-    auto* list = dynamic_cast<ComboList*>(owner);
-    if (list == nullptr) return;
-    for (std::size_t row = 0; row < list->rows().size(); ++row) {
-      const std::string& text = list->rows()[row];
-      if (IsNumber(text, DecimalMark::Point) && ParseNumber(text, DecimalMark::Point) == number) {
-        list->Choose(static_cast<int>(row));
+  /// Shows a value that was read: on all screens that are open, so that none of their commands
+  /// puts an old text back, and in the field of its key where no opener does. After Clear the
+  /// forms stay blank.
+  void ShowAtOnce(const KeyRow& row, const void* place, double number) const {
+    if (block_.FormsCleared == 1) return;
+    const Control* owner = file_.OwnerOf(row, place);
+    const bool isPlain = row.form == KeyForm::Number || row.form == KeyForm::Integer;
+    if (owner != nullptr && isPlain && Screen::ShowsAtOpening(*owner)) owner = nullptr;
+    const auto [first, last] = file_.holders_.equal_range(place);
+    for (auto holder = first; holder != last; ++holder) {
+      Control* const control = holder->second;
+      if (control == owner || control->screen().visible()) {
+        control->screen().ShowShared(*control, number);
       }
     }
   }
@@ -629,9 +653,15 @@ class ParameterFile::Reader {
     int& next = nextRow_[static_cast<std::size_t>(&row - KeyTable().data())];
     if (next >= row.rows) ThrowTableIsFull();
     for (std::size_t i = 0; i < width; ++i) {
-      row.cell(block_, next, static_cast<int>(i)) = numbers.values[i];
+      StoreCell(row, next, static_cast<int>(i), numbers.values[i]);
     }
     ++next;
+  }
+
+  void StoreCell(const KeyRow& row, int index, int column, double number) const {
+    double& cell = row.cell(block_, index, column);
+    cell = number;
+    ShowAtOnce(row, &cell, number);
   }
 
   [[noreturn]] static void ThrowTableIsFull() {
@@ -746,7 +776,7 @@ class ParameterFile::Reader {
         throw CommandError(ErrorKind::IndexOutOfRange, "belongs to a gear that is not there.");
       }
       const std::string_view value = Trim(text.substr(equals + 1));
-      row->cell(block_, index, 0) = value.empty() ? 0 : ParseNumber(value, mark_);
+      StoreCell(*row, index, 0, value.empty() ? 0 : ParseNumber(value, mark_));
       return true;
     }
     return false;
@@ -794,8 +824,14 @@ class ParameterFile::Reader {
   std::vector<int> nextRow_;  // of every array key: the row that its next line fills
 };
 
-void ParameterFile::BindOwners(const ControlFinder& find) {
+void ParameterFile::BindOwners(const ControlFinder& find, std::span<Screen* const> screens) {
   owners_.clear();
+  holders_.clear();
+  for (const Screen* screen : screens) {
+    for (Control* control : screen->controls()) {
+      if (const void* place = Screen::SharedPlace(*control)) holders_.emplace(place, control);
+    }
+  }
   for (const KeyRow& row : KeyTable()) {
     Control* const owner = find(row.owner);
     owners_.push_back(owner);
@@ -808,6 +844,16 @@ void ParameterFile::BindOwners(const ControlFinder& find) {
 
 Control* ParameterFile::Owner(const KeyRow& row) const {
   return owners_.empty() ? nullptr : owners_[static_cast<std::size_t>(&row - KeyTable().data())];
+}
+
+Control* ParameterFile::OwnerOf(const KeyRow& row, const void* place) const {
+  if (row.form != KeyForm::Table) return Owner(row);
+  // A table is owned by a screen; each of its numbers by the field there that holds it.
+  const std::string_view screen = row.owner.substr(0, row.owner.find('.'));
+  const auto [first, last] = holders_.equal_range(place);
+  const auto found = std::find_if(
+      first, last, [&](const auto& holder) { return holder.second->screen().name() == screen; });
+  return found == last ? nullptr : found->second;
 }
 
 ParameterFile::Written ParameterFile::Compose() const {

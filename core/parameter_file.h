@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/key_table.h"
@@ -22,9 +24,10 @@ class ParameterFile {
 
   explicit ParameterFile(ProgramContext& context) : context_(context) {}
 
-  /// Looks up the owning control of every key, once all screens are there, and ties
-  /// boxes and option groups to their switches.
-  void BindOwners(const ControlFinder& find);
+  /// Looks up the owning control of every key, and all controls that show shared values, once
+  /// all screens are there; ties boxes and option groups to their switches.
+  /// @param screens  the screens on which what is read shows at once while they are open
+  void BindOwners(const ControlFinder& find, std::span<Screen* const> screens = {});
 
   struct Written {
     std::string bytes;
@@ -50,10 +53,13 @@ class ParameterFile {
 
   /// The control that owns a key; null when there is none.
   Control* Owner(const KeyRow& row) const;
+  /// The control that owns one value of a key: for a number of a table its field.
+  Control* OwnerOf(const KeyRow& row, const void* place) const;
   int ReadText(std::string_view text, const std::string& fileName);
 
   ProgramContext& context_;
-  std::vector<Control*> owners_;  // one for each row of the key table
+  std::vector<Control*> owners_;                            // one for each row of the key table
+  std::unordered_multimap<const void*, Control*> holders_;  // by the place of their value
 };
 
 }  // namespace veldox

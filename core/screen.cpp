@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "core/files.h"
+#include "core/key_table.h"
 #include "core/pages.h"
 #include "core/report.h"
 
@@ -118,11 +119,17 @@ bool TextControl::Leave() {
 }
 
 Field::Field(Frame& frame, std::string name, std::string label, std::string defaultText,
-             KeyRule rule, Unit unit, std::string help, LeaveCheck check)
+             const Entry& entry, std::string help)
     : TextControl(frame, ControlKind::Field, std::move(name), std::move(label),
-                  std::move(defaultText), rule, std::move(help)),
-      unit_(unit) {
-  SetLeaveCheck(check);
+                  std::move(defaultText), entry.rule, std::move(help)),
+      unit_(entry.unit),
+      holds_(entry.holds) {
+  SetLeaveCheck(entry.check);
+}
+
+const UnitRule* Field::conversion() const {
+  if (holds_.conversion() == Holds::Conversion::None) return nullptr;
+  return holds_.rule() != nullptr ? holds_.rule() : RuleOf(unit_);
 }
 
 TextArea::TextArea(Frame& frame, std::string name, std::string label)
@@ -282,8 +289,17 @@ void OptionGroup::Bind(std::int16_t& slot) {
   *slot_ = static_cast<std::int16_t>(chosen_);
 }
 
-ComboList::ComboList(Frame& frame, std::string name, std::string caption)
-    : ComboList(frame, ControlKind::ComboList, std::move(name), std::move(caption), {}) {}
+ComboList::ComboList(Frame& frame, std::string name, std::string caption, Holds holds)
+    : ComboList(frame, ControlKind::ComboList, std::move(name), std::move(caption), {}) {
+  holds_ = holds;
+}
+
+void ComboList::ChooseNumber(double number) {
+  const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const std::string& row) {
+    return IsNumber(row, DecimalMark::Point) && ParseNumber(row, DecimalMark::Point) == number;
+  });
+  if (found != rows_.end()) Choose(static_cast<int>(found - rows_.begin()));
+}
 
 ComboList::ComboList(Frame& frame, ControlKind kind, std::string name, std::string caption,
                      std::string help)
@@ -310,6 +326,24 @@ void ComboList::Choose(int row) {
 }
 
 // ---------------------------------------------------------------- Screen
+
+namespace {
+
+Holds HeldBy(const Control& control) {
+  if (control.kind() == ControlKind::Field) return static_cast<const Field&>(control).holds();
+  if (control.kind() == ControlKind::ComboList) {
+    return static_cast<const ComboList&>(control).holds();
+  }
+  return {};
+}
+
+/// The key of the shared value that a control shows; null where there is none.
+const KeyRow* KeyOf(const Control& control) {
+  const void* place = Screen::SharedPlace(control);
+  return place == nullptr ? nullptr : FindKeyOfSlot(control.screen().block(), place);
+}
+
+}  // namespace
 
 Screen::Screen(ProgramContext& context, std::string name, std::string title, std::string tag)
     : context_(context), name_(std::move(name)), title_(std::move(title)), tag_(std::move(tag)) {}
@@ -343,7 +377,7 @@ void ProgramContext::HandOver(Screen* screen) {
   held_.clear();
   metricOwner_ = screen;
   if (screen == nullptr) return;
-  for (const Screen::MetricValue& value : screen->MetricValues()) {
+  for (const auto& value : screen->MetricValues()) {
     if (value.slot == nullptr) continue;
     const double metric = limited(value.rule->toMetric(*value.slot));
     held_.push_back({value.slot, value.rule, *value.slot, metric});
@@ -351,19 +385,70 @@ void ProgramContext::HandOver(Screen* screen) {
   }
 }
 
-void Screen::CopyShared() {
-  context_.HandOver(metric() ? this : nullptr);
-  CopyFromBlock();
+const void* Screen::SharedPlace(const Control& control) {
+  const Holds holds = HeldBy(control);
+  if (!holds.isShared()) return nullptr;
+  return std::visit(
+      [](auto slot) -> const void* {
+        if constexpr (std::is_same_v<decltype(slot), std::monostate>) {
+          return nullptr;
+        } else {
+          return slot;
+        }
+      },
+      holds.In(control.screen().block()));
 }
 
-double Screen::Converted(const Field& field, double number, bool toMetric) {
-  if (!metric()) return number;
-  for (const MetricValue& value : MetricValues()) {
-    if (value.field != &field) continue;
-    const double converted = value.rule->Convert(number, toMetric);
-    return std::isfinite(converted) ? converted : number;
+bool Screen::ShowsAtOpening(const Control& control) {
+  const Holds holds = HeldBy(control);
+  if (!holds.isShared()) return false;
+  if (holds.opening() != Holds::Opening::ByKey) return holds.opening() == Holds::Opening::Shown;
+  const KeyRow* row = KeyOf(control);
+  return row != nullptr && (row->form == KeyForm::Number || row->form == KeyForm::Integer);
+}
+
+void Screen::ShowShared(Control& control, double number) const {
+  if (number == 0 && HeldBy(control).zeroKeepsText()) return;
+  if (control.kind() == ControlKind::ComboList) {
+    static_cast<ComboList&>(control).ChooseNumber(number);
+    return;
   }
-  return number;
+  auto& field = static_cast<Field&>(control);
+  const KeyRow* row = KeyOf(control);
+  const KeyForm form = row == nullptr ? KeyForm::Number : row->form;
+  if (form == KeyForm::Integer || form == KeyForm::IntegerOrField) {
+    field.SetText(FormatInt(number, mark()));
+  } else if (form == KeyForm::Table && row->tableForm == TableForm::Smart) {
+    field.SetText(FormatSmart(number, mark()));
+  } else {
+    field.SetText(FormatField(AsShown(field, number), mark()));
+  }
+}
+
+void Screen::CopyFromBlock() {
+  for (Control* control : controls_) {
+    if (!ShowsAtOpening(*control)) continue;
+    std::visit(
+        [&](auto slot) {
+          if constexpr (!std::is_same_v<decltype(slot), std::monostate>) {
+            ShowShared(*control, static_cast<double>(*slot));
+          }
+        },
+        HeldBy(*control).In(block()));
+  }
+}
+
+void Screen::CopyShared() {
+  context_.HandOver(nullptr);
+  CopyFromBlock();
+  context_.HandOver(metric() ? this : nullptr);
+}
+
+double Screen::Converted(const Field& field, double number, bool toMetric) const {
+  const UnitRule* rule = field.conversion();
+  if (!metric() || rule == nullptr) return number;
+  const double converted = rule->Convert(number, toMetric);
+  return std::isfinite(converted) ? converted : number;
 }
 
 void Screen::Quit() {
@@ -510,6 +595,26 @@ void Screen::ReadCount(std::int16_t& slot, Field& field) const {
   }
 }
 
+void Screen::ReadFields(std::initializer_list<Field*> fields) {
+  for (Field* field : fields) {
+    const Holds::Slot slot = field->holds().In(block());
+    if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
+      ReadCount(**count, *field);
+    } else if (auto* const* value = std::get_if<double*>(&slot)) {
+      const double shown = Read(*field);
+      const bool keptInUs = field->holds().conversion() == Holds::Conversion::ShownOnly;
+      **value = keptInUs ? InInches(*field, shown) : shown;
+    } else {
+      Read(*field);
+    }
+  }
+}
+
+void Screen::ReadChoice(const ComboList& list) {
+  const Holds::Slot slot = list.holds().In(block());
+  *std::get<double*>(slot) = ParseNumber(list.chosenText(), DecimalMark::Point);
+}
+
 void Screen::RequireResult(Field& field, double value, DividesBy divisors) const {
   const int flags = std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID);
   if (flags == 0 && std::isfinite(value)) return;
@@ -557,92 +662,197 @@ void Screen::ShowReport(std::string report, int fontSize) {
   ReportPane()->ShowReport(std::move(report), fontSize);
 }
 
+std::string Screen::TextOf(const Field& field, double value) const {
+  const NumberFormat format = field.holds().format();
+  return (format != nullptr ? format : pattern_)(value, mark());
+}
+
 void Screen::Show(Field& field, double value, DividesBy divisors) {
   RequireResult(field, value, divisors);
-  ShowText(field, FormatField(value, mark()));
+  const bool keptInUs = field.holds().conversion() == Holds::Conversion::ShownOnly;
+  ShowText(field, TextOf(field, keptInUs ? AsShown(field, value) : value));
 }
 
-void Screen::Store(double& slot, Field& field, double value, DividesBy divisors) {
+void Screen::Store(Field& field, double value, DividesBy divisors) {
+  const Holds::Slot slot = field.holds().In(block());
+  if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
+    RequireResult(field, value, divisors);
+    std::int16_t rounded = 0;
+    try {
+      rounded = RoundToInt16(value);
+    } catch (const CommandError&) {
+      throw CommandError(ErrorKind::Overflow, "cannot be computed: the result is too large.",
+                         &field);
+    }
+    Show(field, value);
+    **count = rounded;
+    return;
+  }
   Show(field, value, divisors);
-  slot = value;
+  if (auto* const* number = std::get_if<double*>(&slot)) **number = value;
 }
 
-void Screen::SwitchUnits(const std::function<void()>& derive) {
-  const bool toMetric = !metric();
-  struct Converted {
-    const MetricValue* value;
-    double number;
-    bool shows;
-  };
-  std::vector<Converted> converted;
-  std::vector<HeldValue> held;
-  const std::vector<MetricValue> values = MetricValues();
-  using From = MetricValue::From;
-  for (const MetricValue& value : values) {
-    const bool isShown = value.from == From::Shown && IsNumber(value.field->text(), mark());
-    if (value.from == From::Shown && !isShown && value.slot == nullptr) continue;
-    const double number = isShown ? Read(*value.field) : value.slot == nullptr ? 0 : *value.slot;
-    if (toMetric && value.slot != nullptr) {
-      held.push_back({value.slot, value.rule, number, 0});
+// ---------------------------------------------------------------- units
+
+std::vector<Field*> Screen::Fields() const {
+  std::vector<Field*> fields;
+  for (Control* control : controls_) {
+    if (control->kind() == ControlKind::Field) fields.push_back(static_cast<Field*>(control));
+  }
+  return fields;
+}
+
+std::vector<Screen::MetricValue> Screen::MetricValues() {
+  using Conversion = Holds::Conversion;
+  std::vector<MetricValue> values;
+  for (const UnshownValue& unshown : unshown_) {
+    values.push_back({nullptr, &(block().*unshown.value), unshown.rule, Conversion::ByUnit});
+  }
+  for (Field* field : Fields()) {
+    const UnitRule* rule = field->conversion();
+    if (rule == nullptr) continue;
+    Conversion conversion = field->holds().conversion();
+    double* value = nullptr;
+    if (conversion != Conversion::ShownOnly) {
+      const Holds::Slot slot = field->holds().In(block());
+      if (auto* const* number = std::get_if<double*>(&slot)) value = *number;
     }
-    if (value.from == From::Derived) continue;
-    double now = value.rule->Convert(number, toMetric);
-    if (!toMetric && !isShown && (value.field == nullptr || value.from == From::Shown)) {
-      // No field tells otherwise: what it was in inches comes back to the last digit.
-      for (const HeldValue& was : context_.held_) {
-        if (was.slot == value.slot && was.metric == number) now = was.inches;
+    if (value == nullptr && conversion == Conversion::ByUnit) conversion = Conversion::AsShown;
+    values.push_back({field, value, rule, conversion});
+  }
+  return values;
+}
+
+const Screen::UnitSwitch::Text* Screen::UnitSwitch::Find(const Field* field) const {
+  const auto found =
+      std::find_if(texts.begin(), texts.end(), [&](const Text& t) { return t.field == field; });
+  return found == texts.end() ? nullptr : &*found;
+}
+
+const Screen::UnitSwitch::Value* Screen::UnitSwitch::Find(const double* slot) const {
+  const auto found =
+      std::find_if(values.begin(), values.end(), [&](const Value& v) { return v.slot == slot; });
+  return found == values.end() ? nullptr : &*found;
+}
+
+bool Screen::UnitSwitch::Stands(const Field& field) const {
+  const Text* text = Find(&field);
+  return text != nullptr && text->after == field.text();
+}
+
+bool Screen::UnitSwitch::Stands() const {
+  return !texts.empty() && std::all_of(texts.begin(), texts.end(), [](const Text& text) {
+    return text.after == text.field->text();
+  });
+}
+
+void Screen::ConvertValues(bool toMetric) {
+  using Conversion = Holds::Conversion;
+  for (const MetricValue& value : MetricValues()) {
+    if (value.conversion == Conversion::Derived) continue;
+    const UnitSwitch::Value* was = value.slot == nullptr ? nullptr : lastSwitch_.Find(value.slot);
+    if (value.field != nullptr && lastSwitch_.Stands(*value.field)) {
+      ShowText(*value.field, lastSwitch_.Find(value.field)->before);
+      if (was != nullptr) {
+        *value.slot = was->before;
+        continue;
       }
+      if (value.slot == nullptr) continue;
     }
-    // A field without a number is left alone, its slot is not.
-    const bool shows = value.field != nullptr && (value.from == From::Slot || isShown);
-    if (shows) {
+    const bool readsText = value.conversion != Conversion::ByUnit;
+    const bool isShown = readsText && IsNumber(value.field->text(), mark());
+    if (value.slot == nullptr && !isShown) continue;
+    const double number = isShown ? Read(*value.field) : *value.slot;
+    double now = value.rule->Convert(number, toMetric);
+    // No field tells otherwise: what it was comes back to the last digit.
+    if (!isShown && (value.field == nullptr || readsText) && was != nullptr &&
+        was->after == number) {
+      now = was->before;
+    }
+    // A field without a number is left alone, its value is not.
+    if (value.field != nullptr && (isShown || !readsText)) {
       RequireResult(*value.field, now);
+      ShowText(*value.field, TextOf(*value.field, now));
     } else if (!std::isfinite(now)) {
       now = number;
       std::feclearexcept(FE_OVERFLOW);
     }
-    converted.push_back({&value, now, shows});
+    if (value.slot != nullptr) *value.slot = now;
   }
+}
 
-  const auto before = std::make_unique<ParameterBlock>(block());
-  std::vector<std::pair<TextControl*, std::string>> texts;
-  for (Control* control : controls_) {
-    if (auto* text = dynamic_cast<TextControl*>(control)) texts.emplace_back(text, text->text());
+void Screen::SwitchUnits(const std::function<void()>& derive) {
+  const bool toMetric = !metric();
+  const std::vector<MetricValue> values = MetricValues();
+  UnitSwitch made;
+  for (Field* field : Fields()) made.texts.push_back({field, field->text(), {}});
+  std::vector<double> numbers;  // as they are now, for a switch that fails
+  for (const MetricValue& value : values) {
+    if (value.slot == nullptr) continue;
+    numbers.push_back(*value.slot);
+    double before = *value.slot;
+    const UnitSwitch::Value* was = lastSwitch_.Find(value.slot);
+    if (value.field != nullptr && was != nullptr && lastSwitch_.Stands(*value.field)) {
+      // The text may hold fewer digits than the value that it shows.
+      before = was->after;
+    } else if (value.conversion == Holds::Conversion::AsShown &&
+               IsNumber(value.field->text(), mark())) {
+      before = Read(*value.field);
+    }
+    made.values.push_back({value.slot, before, 0});
   }
+  const bool comesBack = lastSwitch_.Stands();
+  const auto blockBefore = std::make_unique<ParameterBlock>(block());
   block().MetricSwitch = toMetric ? 1 : 0;
   block().MetricFactor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;
-  for (const Converted& c : converted) {
-    if (c.value->slot != nullptr) *c.value->slot = c.number;
-    if (c.shows) ShowText(*c.value->field, c.value->format(c.number, mark()));
-  }
   try {
-    if (derive) derive();
+    if (comesBack) {
+      for (const UnitSwitch::Text& text : lastSwitch_.texts) ShowText(*text.field, text.before);
+      for (const UnitSwitch::Value& value : lastSwitch_.values) *value.slot = value.before;
+    } else {
+      ConvertValues(toMetric);
+      if (derive) derive();
+    }
   } catch (...) {
-    block() = *before;
-    for (auto& [control, text] : texts) control->SetText(std::move(text));
+    block() = *blockBefore;
+    for (std::size_t i = 0; i < numbers.size(); ++i) *made.values[i].slot = numbers[i];
+    for (const UnitSwitch::Text& text : made.texts) text.field->SetText(text.before);
     for (Control* control : controls_) control->SetMark(Mark::None);
     throw;
   }
-  for (HeldValue& value : held) {
-    value.metric = *value.slot;
-    const bool isDerived = std::any_of(values.begin(), values.end(), [&](const MetricValue& v) {
-      return v.slot == value.slot && v.from == From::Derived;
-    });
-    if (isDerived) value.inches = value.rule->toInches(value.metric);
+  for (UnitSwitch::Text& text : made.texts) text.after = text.field->text();
+  for (UnitSwitch::Value& value : made.values) value.after = *value.slot;
+  context_.held_.clear();
+  if (toMetric) {
+    for (const MetricValue& value : values) {
+      if (value.slot == nullptr) continue;
+      const double now = *value.slot;
+      const bool isNew = value.conversion == Holds::Conversion::Derived && !comesBack;
+      context_.held_.push_back({value.slot, value.rule,
+                                isNew ? value.rule->toInches(now) : made.Find(value.slot)->before,
+                                now});
+    }
   }
-  context_.held_ = std::move(held);
   context_.metricOwner_ = toMetric ? this : nullptr;
+  lastSwitch_ = std::move(made);
   SetMetricShown(toMetric);
 }
 
 void Screen::SwitchBlankUnits(bool toMetric) {
   context_.HandOver(nullptr);
-  for (const MetricValue& value : MetricValues()) {
-    if (value.field == nullptr || !IsNumber(value.field->text(), mark())) continue;
-    const double number = ParseNumber(value.field->text(), mark());
-    const double now = value.rule->Convert(number, toMetric);
-    if (std::isfinite(now)) value.field->SetText(value.format(now, mark()));
+  UnitSwitch made;
+  for (Field* field : Fields()) {
+    std::string before = field->text();
+    const UnitRule* rule = field->conversion();
+    if (lastSwitch_.Stands(*field)) {
+      field->SetText(lastSwitch_.Find(field)->before);
+    } else if (rule != nullptr && IsNumber(before, mark())) {
+      const double now = rule->Convert(ParseNumber(before, mark()), toMetric);
+      if (std::isfinite(now)) field->SetText(TextOf(*field, now));
+    }
+    made.texts.push_back({field, std::move(before), field->text()});
   }
+  lastSwitch_ = std::move(made);
   MetricBox()->SetOn(toMetric);
   SetMetricShown(toMetric);
 }

@@ -10,6 +10,7 @@
 
 #include "core/error.h"
 #include "core/field_rules.h"
+#include "core/holds.h"
 #include "core/host.h"
 #include "core/numbers.h"
 #include "core/parameter_block.h"
@@ -178,19 +179,39 @@ class TextControl : public Control {
   LeaveCheck leaveCheck_ = LeaveCheck::None;
 };
 
+/// What may be entered into a field, and what the number in it means.
+struct Entry {
+  // NOLINTNEXTLINE(google-explicit-constructor): a rule alone is an entry
+  Entry(KeyRule keys) : rule(keys) {}
+  Entry(KeyRule keys, Unit inUnit, Holds held = {}, LeaveCheck onLeaving = LeaveCheck::None)
+      : rule(keys), unit(inUnit), holds(held), check(onLeaving) {}
+  Entry(KeyRule keys, Holds held, LeaveCheck onLeaving = LeaveCheck::None)
+      : rule(keys), holds(held), check(onLeaving) {}
+  Entry(KeyRule keys, LeaveCheck onLeaving) : rule(keys), check(onLeaving) {}
+
+  KeyRule rule;
+  Unit unit = Unit::None;
+  Holds holds;
+  LeaveCheck check = LeaveCheck::None;
+};
+
 /// A one-line text box that holds a number as the user sees it.
 class Field : public TextControl {
  public:
-  Field(Frame& frame, std::string name, std::string label, std::string defaultText, KeyRule rule,
-        Unit unit = Unit::None, std::string help = {}, LeaveCheck check = LeaveCheck::None);
+  Field(Frame& frame, std::string name, std::string label, std::string defaultText,
+        const Entry& entry, std::string help = {});
 
   Unit unit() const { return unit_; }
+  const Holds& holds() const { return holds_; }
+  /// How "Metric" converts what it shows; null for what is the same in both units.
+  const UnitRule* conversion() const;
   /// Options of the main window: typing in them is no change of the data.
   bool isOption() const { return isOption_; }
   void SetIsOption() { isOption_ = true; }
 
  private:
   Unit unit_;
+  Holds holds_;
   bool isOption_ = false;
 };
 
@@ -333,7 +354,11 @@ class OptionGroup : public Control {
 /// A drop-down list of rows.
 class ComboList : public Control {
  public:
-  ComboList(Frame& frame, std::string name, std::string caption);
+  /// @param holds  the shared value of a list whose rows are numbers
+  ComboList(Frame& frame, std::string name, std::string caption, Holds holds = {});
+  const Holds& holds() const { return holds_; }
+  /// Chooses the row that is this number; nothing changes where there is none.
+  void ChooseNumber(double number);
   const std::vector<std::string>& rows() const { return rows_; }
   void SetRows(std::vector<std::string> rows);
   /// Index of the chosen row, -1 for none.
@@ -355,6 +380,7 @@ class ComboList : public Control {
  private:
   std::vector<std::string> rows_;
   int chosen_ = -1;
+  Holds holds_;
 };
 
 /// Told when a screen opens or closes.
@@ -390,10 +416,17 @@ class Screen {
   void SetVisible(bool visible);
   void SetFace(ScreenFace* face) { face_ = face; }
 
-  /// Copies the shared values into the fields that show them.
-  virtual void CopyFromBlock() {}
+  /// Copies the shared values into the fields that show them at opening, by their declarations.
+  virtual void CopyFromBlock();
   /// The same in the units that this screen shows, whatever the shared values are in now.
   void CopyShared();
+  /// Shows the shared value of a control, in this screen's units, as opening the screen does.
+  /// @param number  the value in US units
+  void ShowShared(Control& control, double number) const;
+  /// True for a control whose shared value opening the screen shows.
+  static bool ShowsAtOpening(const Control& control);
+  /// The place of the shared value that a control shows; null where it shows none.
+  static const void* SharedPlace(const Control& control);
   /// Puts a list into the screen's pick list.
   /// @param menuItem  the menu entry of the list
   /// @throws CommandError (File) where the list is a file that cannot be read
@@ -411,25 +444,10 @@ class Screen {
   /// True while the fields show metric units.
   bool metric() const { return metricShown_; }
 
-  /// A value whose unit the "Metric" box changes.
-  struct MetricValue {
-    enum class From {
-      Slot,     ///< the box converts what the read-all routine has parsed into its slot
-      Shown,    ///< the box converts the number that its field shows then, if it is one
-      Derived,  ///< the box works it out anew
-    };
-    Field* field;  ///< where it is shown; null for a value without a field here
-    double* slot;  ///< where it is kept; null for one that only its field holds
-    const UnitRule* rule;
-    From from = From::Slot;
-    std::string (*format)(double, DecimalMark) = &FormatField;
-  };
-  /// All values whose unit the "Metric" box changes.
-  virtual std::vector<MetricValue> MetricValues() { return {}; }
   /// A number of a field in inches, as the field shows it now, and the reverse. What is too
   /// large for the other units stays as it is.
-  double AsShown(const Field& field, double inches) { return Converted(field, inches, true); }
-  double InInches(const Field& field, double shown) { return Converted(field, shown, false); }
+  double AsShown(const Field& field, double inches) const { return Converted(field, inches, true); }
+  double InInches(const Field& field, double shown) const { return Converted(field, shown, false); }
   /// Ticks or unticks the "Metric" box of a screen with blank fields: what is a number is
   /// converted, and no shared value is touched.
   void SwitchBlankUnits(bool toMetric);
@@ -465,26 +483,44 @@ class Screen {
   Control* NextInTabOrder(const Control& from) const;
 
  protected:
+  using P = ParameterBlock;
+
   /// Parses a field. @throws CommandError (NotANumber) that names the field.
   double Read(Field& field) const;
-  void ReadInto(double& slot, Field& field) const { slot = Read(field); }
   /// Parses a field into a 16-bit count. @throws CommandError (Overflow) as well
   void ReadCount(std::int16_t& slot, Field& field) const;
+  /// Parses fields into the values that they hold, in this order.
+  /// @throws CommandError (NotANumber, Overflow) that names the field; what stands before it in
+  ///         the list is read
+  void ReadFields(std::initializer_list<Field*> fields);
+  /// Takes the number of a list's chosen row into the value that the list holds.
+  void ReadChoice(const ComboList& list);
 
   /// The fields a formula divides by, so that an error can name the one that is 0.
   using DividesBy = std::initializer_list<Field*>;
 
-  /// Stores a result and shows it in its field by FormatField. Refuses what is no
-  /// finite number, and any division by zero or overflow since the command began.
-  void Store(double& slot, Field& field, double value, DividesBy divisors = {});
-  /// The same for a result without a slot.
+  /// Stores a result in the value that its field holds and shows it by the field's pattern.
+  /// Refuses what is no finite number, and any division by zero or overflow since the command
+  /// began.
+  void Store(Field& field, double value, DividesBy divisors = {});
+  /// Shows a result and stores it nowhere.
   void Show(Field& field, double value, DividesBy divisors = {});
-  /// Shows a result in a pattern other than the fields' own.
+  /// Shows a result in a pattern other than the field's own.
   template <PatternText Pattern>
   void ShowAs(Field& field, double value, DividesBy divisors = {}) {
     RequireResult(field, value, divisors);
     ShowText(field, FormatValue<Pattern>(value, mark()));
   }
+  /// All results of the screen go by another pattern than FormatField; called at construction.
+  void SetPattern(NumberFormat format) { pattern_ = format; }
+  /// A shared value that "Metric" converts though no field of the screen shows it; called at
+  /// construction.
+  void AlsoConverts(double ParameterBlock::*value, Unit unit) {
+    unshown_.push_back({value, RuleOf(unit)});
+  }
+  /// The screen knows no inches: it shows the shared values in metric units all the time and
+  /// hands them over in US units; called at construction.
+  void SetAlwaysMetric() { metricShown_ = true; }
   /// Throws unless the value is finite and no division by zero or overflow has
   /// happened since the command began.
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
@@ -501,16 +537,58 @@ class Screen {
     if (!holds) throw CommandError(ErrorKind::InvalidArgument, message, &field);
   }
   /// The Click of the "Metric" box, after the read-all routine: changes all values to the
-  /// other units. A failure leaves everything as it was.
+  /// other units. What nobody has changed since the last switch comes back as it stood before
+  /// it, text and value; with no change at all so does what is derived. A failure leaves
+  /// everything as it was.
   /// @param derive  works out the values that are derived
   void SwitchUnits(const std::function<void()>& derive = {});
 
  private:
   friend class Control;
   friend class Frame;
+  friend struct ProgramContext;
+
+  /// A value whose unit the "Metric" box changes.
+  struct MetricValue {
+    Field* field;  ///< where it is shown; null for a value without a field here
+    double* slot;  ///< where it is kept; null for one that only its field holds
+    const UnitRule* rule;
+    Holds::Conversion conversion;
+  };
+  struct UnshownValue {
+    double ParameterBlock::*value;
+    const UnitRule* rule;
+  };
+  /// What a switch of the units has made of the fields and values, so that it can be undone.
+  struct UnitSwitch {
+    struct Text {
+      Field* field;
+      std::string before;
+      std::string after;
+    };
+    struct Value {
+      double* slot;
+      double before;
+      double after;
+    };
+    std::vector<Text> texts;
+    std::vector<Value> values;
+
+    const Text* Find(const Field* field) const;
+    const Value* Find(const double* slot) const;
+    /// The field's text is as the switch has left it.
+    bool Stands(const Field& field) const;
+    /// All texts are.
+    bool Stands() const;
+  };
+
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
-  double Converted(const Field& field, double number, bool toMetric);
+  double Converted(const Field& field, double number, bool toMetric) const;
+  std::vector<MetricValue> MetricValues();
+  std::vector<Field*> Fields() const;
+  std::string TextOf(const Field& field, double value) const;
+  void ConvertValues(bool toMetric);
   void TakeFocus(Control* control);
 
   ProgramContext& context_;
@@ -521,6 +599,9 @@ class Screen {
   std::vector<Control*> controls_;
   ScreenFace* face_ = nullptr;
   Control* focus_ = nullptr;
+  NumberFormat pattern_ = &FormatField;
+  std::vector<UnshownValue> unshown_;
+  UnitSwitch lastSwitch_;
   bool visible_ = false;
   bool metricShown_ = false;
 };

@@ -275,7 +275,7 @@ void Shell::Start() {
   ProbeLargeScreenFile();
   ProbeFullScreenFile();
   InitParameterBlock();
-  parameterFile_.BindOwners([this](std::string_view name) { return FindControl(name); });
+  parameterFile_.BindOwners([this](std::string_view name) { return FindControl(name); }, screens_);
   SetVisible(true);
   ReadStartUpFile();
 }

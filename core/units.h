@@ -12,6 +12,9 @@ inline constexpr double kKilowattsPerHorsepower = 0.745701;
 inline constexpr double kNewtonsPerPound = 4.448222;
 inline constexpr double kNewtonMetresPerFootPound = 1.3558179;
 inline constexpr double kGramsPerPound = 453.5923696;
+inline constexpr double kMillibarsPerInchMercury = 33.8638867;
+/// Centimetres of mercury in a pound a square inch: the unit of gauges in metric.
+inline constexpr double kGaugeUnitsPerPsi = 5.171507;
 
 /// How a value changes between inches, pounds and Fahrenheit and the metric units.
 struct UnitRule {
@@ -25,8 +28,35 @@ struct UnitRule {
 
 inline constexpr UnitRule kLengthRule{[](double inches) { return inches * kMillimetresPerInch; },
                                       [](double mm) { return mm * (1 / kMillimetresPerInch); }};
+inline constexpr UnitRule kAreaRule{
+    [](double inches) { return inches * (kMillimetresPerInch * kMillimetresPerInch); },
+    [](double mm) { return mm / (kMillimetresPerInch * kMillimetresPerInch); }};
+inline constexpr double kCcPerCubicInch =
+    kMillimetresPerInch * kMillimetresPerInch * kMillimetresPerInch / 1000;
+inline constexpr UnitRule kVolumeRule{[](double inches) { return inches * kCcPerCubicInch; },
+                                      [](double cc) { return cc / kCcPerCubicInch; }};
+inline constexpr UnitRule kSurfaceSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
+                                            [](double metres) { return metres * kFeetPerMetre; }};
+inline constexpr UnitRule kPistonSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
+                                           [](double metres) { return metres / kMetresPerFoot; }};
 inline constexpr UnitRule kPowerRule{[](double hp) { return hp * kKilowattsPerHorsepower; },
                                      [](double kw) { return kw / kKilowattsPerHorsepower; }};
+inline constexpr UnitRule kBarometerRule{
+    [](double inHg) { return inHg * kMillibarsPerInchMercury; },
+    [](double mbar) { return mbar * (1 / kMillibarsPerInchMercury); }};
+inline constexpr UnitRule kGaugePressureRule{
+    [](double psi) { return psi * kGaugeUnitsPerPsi; },
+    [](double units) { return units * (1 / kGaugeUnitsPerPsi); }};
+
+/// Temperature in degrees Celsius.
+inline constexpr double CelsiusOf(double fahrenheit) {
+  return (fahrenheit - 32) * 5 / 9;
+}
+/// Temperature in degrees Fahrenheit.
+inline constexpr double FahrenheitOf(double celsius) {
+  return celsius * 9 / 5 + 32;
+}
+inline constexpr UnitRule kTemperatureRule{&CelsiusOf, &FahrenheitOf};
 
 /// What a field measures; the face shows the unit's sign beside it.
 enum class Unit {
@@ -69,6 +99,22 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Percent: return "%";
   }
   return "";
+}
+
+/// How "Metric" converts a unit; null for those that are the same in both.
+constexpr const UnitRule* RuleOf(Unit unit) {
+  switch (unit) {
+    case Unit::Length: return &kLengthRule;
+    case Unit::Area: return &kAreaRule;
+    case Unit::Volume: return &kVolumeRule;
+    case Unit::PistonSpeed: return &kPistonSpeedRule;
+    case Unit::SurfaceSpeed: return &kSurfaceSpeedRule;
+    case Unit::Power: return &kPowerRule;
+    case Unit::Barometer: return &kBarometerRule;
+    case Unit::GaugePressure: return &kGaugePressureRule;
+    case Unit::Temperature: return &kTemperatureRule;
+    default: return nullptr;
+  }
 }
 
 }  // namespace veldox

@@ -16,13 +16,6 @@ constexpr double kCubicMillimetresPerCc = 1000;
 /// Of the exponents, the one nearest to that of cranking.
 constexpr int kUsualExponent = 6;
 
-constexpr UnitRule kBarometerRule{
-    [](double inHg) { return inHg * kMillibarsPerInchMercury; },
-    [](double mbar) { return mbar * (1 / kMillibarsPerInchMercury); }};
-constexpr UnitRule kGaugeRule{[](double psi) { return psi * kGaugeUnitsPerPsi; },
-                              [](double units) { return units * (1 / kGaugeUnitsPerPsi); }};
-constexpr UnitRule kTemperatureRule{&CelsiusOf, &FahrenheitOf};
-
 }  // namespace
 
 Form12::Form12(ProgramContext& context, Grapher& grapher)
@@ -33,39 +26,11 @@ Form12::Form12(ProgramContext& context, Grapher& grapher)
   Combo1.Choose(kUsualExponent);
 }
 
-void Form12::CopyFromBlock() {
-  const ParameterBlock& b = block();
-  Text1.SetText(FormatField(b.Bore, mark()));
-  Text3.SetText(FormatField(b.Stroke, mark()));
-  Text4.SetText(FormatField(b.RodLength, mark()));
-  Text17.SetText(FormatField(b.CompressionRatio, mark()));
-  Text36.SetText(FormatField(b.IntakeClose, mark()));
-  Text31.SetText(FormatField(b.Temperature, mark()));
-  Text32.SetText(FormatField(b.Humidity, mark()));
-  Text30.SetText(FormatField(b.BarometricPressure, mark()));
-  Text45.SetText(FormatField(b.DynamicCompressionRatio, mark()));
-  Text22.SetText(FormatField(b.WristPinOffset, mark()));
-}
-
 void Form12::ReadCompFields() {
   ParameterBlock& b = block();
-  ReadInto(b.Bore, Text1);
-  ReadInto(b.Stroke, Text3);
-  ReadInto(b.RodLength, Text4);
-  ReadInto(b.WristPinOffset, Text22);
-  ReadInto(b.CompressionRatio, Text17);
-  ReadInto(b.IntakeClose, Text36);
-  ReadInto(b.DynamicCompressionRatio, Text45);
-  ReadInto(b.CompressionGauge, Text35);
-  ReadInto(b.BarometricPressure, Text30);
-  ReadInto(b.Temperature, Text31);
-  ReadInto(b.Humidity, Text32);
-  ReadInto(dewPoint_, Text34);
-  ReadInto(inletAir_, Text6);
-  ReadInto(water_, Text2);
-  ReadInto(b.CrankAngleCG, Text10);
-  b.BaseExponent =
-      ParseNumber(Combo1.rows().at(static_cast<std::size_t>(Combo1.chosen())), DecimalMark::Point);
+  ReadFields({&Text1, &Text3, &Text4, &Text22, &Text17, &Text36, &Text45, &Text35, &Text30, &Text31,
+              &Text32, &Text34, &Text6, &Text2, &Text10});
+  ReadChoice(Combo1);
   if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
 }
 
@@ -166,8 +131,8 @@ void Form12::EstimateGauge(DosRule rule) {
   const ClosedCylinder cylinder = ShowCylinderGeometry();
   const double clearance = cylinder.sweptCc / (b.CompressionRatio - 1);
   const double ratio = (clearance + cylinder.closedCc) / clearance;
-  Store(b.CompressionGauge, Text35, CrankingPressure(ratio, base, rule), {&Text1});
-  Store(b.DynamicCompressionRatio, Text45, ratio);
+  Store(Text35, CrankingPressure(ratio, base, rule), {&Text1});
+  Store(Text45, ratio);
   Show(Text46, cylinder.closedCc / cylinder.sweptCc * 100);
   const double closed = CcOf(cylinder.closedCc);
   Show(Text7, closed);
@@ -192,45 +157,41 @@ void Form12::EstimateRatio(DosRule rule) {
           "must be greater than the pressure of the air for this command.");
   const double base = AtmosphereBase(rule);
   const ClosedCylinder cylinder = ShowCylinderGeometry();
-  Store(b.CompressionRatio, Text17,
-        CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
+  Store(Text17, CompressionRatioForPressure(b.CompressionGauge, base, rule, cylinder), {&Text1});
   EstimateOctane();
 }
 
-void Form12::Command18_Click() {
+void Form12::EstimateGaugeReading() {
   EstimateGauge(DosRule::Off);
 }
 
-void Form12::Command8_Click() {
+void Form12::EstimateGaugeReadingDos() {
   EstimateGauge(DosRule::On);
 }
 
-void Form12::Command19_Click() {
+void Form12::EstimateRatioOfReading() {
   EstimateRatio(DosRule::Off);
 }
 
-void Form12::Command9_Click() {
+void Form12::EstimateRatioOfReadingDos() {
   EstimateRatio(DosRule::On);
 }
 
-void Form12::Command7_Click() {
+void Form12::SolveRatioForDynamicRatio() {
   ReadCompFields();
   ParameterBlock& b = block();
   Require(b.DynamicCompressionRatio >= 1, Text45, "must be at least 1 for this command.");
   ClosedCylinder cylinder = CylinderGeometry();
   if (b.WristPinOffset == 0) cylinder.actualStroke = b.Stroke;
   Show(Text8, cylinder.dynamicStroke);
-  Store(b.CompressionRatio, Text17,
-        CompressionRatioForDynamicRatio(b.DynamicCompressionRatio, cylinder));
+  Store(Text17, CompressionRatioForDynamicRatio(b.DynamicCompressionRatio, cylinder));
 }
 
-void Form12::Command10_Click() {
+void Form12::SolveOffset() {
   ReadCompFields();
   ParameterBlock& b = block();
   const double offset = OffsetForTopAngle(b.CrankAngleCG, b.Stroke, b.RodLength);
-  RequireResult(Text22, offset);
-  b.WristPinOffset = offset;
-  ShowText(Text22, FormatField11(offset, mark()));
+  Store(Text22, offset);
 }
 
 void Form12::ShowIntakeClose(double degrees) {
@@ -241,7 +202,7 @@ void Form12::ShowIntakeClose(double degrees) {
   }
 }
 
-void Form12::Command1_Click() {
+void Form12::SolveClosingForDynamicRatio() {
   ReadCompFields();
   ParameterBlock& b = block();
   if (b.CompressionRatio <= b.DynamicCompressionRatio) {
@@ -259,7 +220,7 @@ void Form12::Command1_Click() {
   b.IntakeClose = degrees;
 }
 
-void Form12::Command2_Click() {
+void Form12::SolveClosingForReading() {
   ReadCompFields();
   ParameterBlock& b = block();
   const DosRule rule = Check2.on() ? DosRule::On : DosRule::Off;
@@ -359,40 +320,17 @@ void Form12::GraphCranking(bool first) {
   grapher_.ShowGraph();
 }
 
-void Form12::Command6_Click() {
+void Form12::GraphFirst() {
   GraphCranking(true);
 }
 
-void Form12::Command5_Click() {
+void Form12::GraphFurther() {
   GraphCranking(false);
 }
 
-void Form12::Check1_Click() {
-  ReadCompFields();
-  ConvertCompFields();
-}
-
 void Form12::ConvertCompFields() {
+  ReadCompFields();
   SwitchUnits();
-}
-
-std::vector<Screen::MetricValue> Form12::MetricValues() {
-  using From = MetricValue::From;
-  ParameterBlock& b = block();
-  return {{&Text1, &b.Bore, &kLengthRule},
-          {&Text3, &b.Stroke, &kLengthRule},
-          {&Text4, &b.RodLength, &kLengthRule},
-          {&Text22, &b.WristPinOffset, &kLengthRule, From::Slot, &FormatField11},
-          {&Text8, nullptr, &kLengthRule, From::Shown},
-          {&Text9, nullptr, &kLengthRule, From::Shown},
-          {&Text30, &b.BarometricPressure, &kBarometerRule},
-          {&Text33, nullptr, &kBarometerRule, From::Shown},
-          {&Text37, nullptr, &kBarometerRule, From::Shown},
-          {&Text35, &b.CompressionGauge, &kGaugeRule},
-          {&Text31, &b.Temperature, &kTemperatureRule},
-          {&Text34, &dewPoint_, &kTemperatureRule},
-          {&Text6, &inletAir_, &kTemperatureRule},
-          {&Text2, &water_, &kTemperatureRule}};
 }
 
 }  // namespace veldox

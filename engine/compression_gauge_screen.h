@@ -17,24 +17,21 @@ class Form12 : public Screen {
   /// @param grapher  where the graphs appear
   Form12(ProgramContext& context, Grapher& grapher);
 
-  void CopyFromBlock() override;
   CheckBox* MetricBox() override { return &Check1; }
-  std::vector<MetricValue> MetricValues() override;
   Control* HelpPlace() override { return &Text38; }
   ReportBox* ReportPane() override { return &Text38; }
 
  private:
-  void Command18_Click();
-  void Command8_Click();
-  void Command19_Click();
-  void Command9_Click();
-  void Command7_Click();
-  void Command10_Click();
-  void Command1_Click();
-  void Command2_Click();
-  void Command6_Click();
-  void Command5_Click();
-  void Check1_Click();
+  void EstimateGaugeReading();
+  void EstimateGaugeReadingDos();
+  void EstimateRatioOfReading();
+  void EstimateRatioOfReadingDos();
+  void SolveRatioForDynamicRatio();
+  void SolveOffset();
+  void SolveClosingForDynamicRatio();
+  void SolveClosingForReading();
+  void GraphFirst();
+  void GraphFurther();
 
   void ReadCompFields();
   void ConvertCompFields();
@@ -75,96 +72,111 @@ class Form12 : public Screen {
 
  public:
   Frame Frame1{*this, "Frame1", "Engine", 0};
-  Field Text1{Frame1, "Text1", "Bore", "4.000", KeyRule::UnsignedReal, Unit::Length};
-  Field Text3{Frame1, "Text3", "Stroke", "3.25", KeyRule::UnsignedReal, Unit::Length};
-  Field Text4{Frame1, "Text4", "Rod Length", "5.7", KeyRule::UnsignedReal, Unit::Length};
-  Field Text22{Frame1, "Text22", "Wrist Pin Offset", "0.0", KeyRule::SignedReal, Unit::Length};
-  Field Text17{Frame1, "Text17", "Comp Ratio", "13.5", KeyRule::UnsignedReal};
+  Field Text1{Frame1, "Text1", "Bore", "4.000",
+              Entry(KeyRule::UnsignedReal, Unit::Length, Holds(&P::Bore))};
+  Field Text3{Frame1, "Text3", "Stroke", "3.25",
+              Entry(KeyRule::UnsignedReal, Unit::Length, Holds(&P::Stroke))};
+  Field Text4{Frame1, "Text4", "Rod Length", "5.7",
+              Entry(KeyRule::UnsignedReal, Unit::Length, Holds(&P::RodLength))};
+  Field Text22{Frame1, "Text22", "Wrist Pin Offset", "0.0",
+               Entry(KeyRule::SignedReal, Unit::Length,
+                     Holds(&P::WristPinOffset).ShownAtOpening().As(&FormatField11))};
+  Field Text17{Frame1, "Text17", "Comp Ratio", "13.5",
+               Entry(KeyRule::UnsignedReal, Holds(&P::CompressionRatio))};
   CheckBox Check1{Frame1, "Check1", "Metric",
                   "Show and enter lengths in millimetres, the barometer in millibars, the "
                   "compression gauge in centimetres of mercury and temperatures in Celsius.",
-                  &Form12::Check1_Click};
+                  &Form12::ConvertCompFields};
 
   Frame Frame2{*this, "Frame2", "Intake Closing", 0};
-  Field Text36{Frame2, "Text36", "Intake Closes ABDC", "95.5", KeyRule::SignedReal, Unit::Degrees};
-  Field Text45{Frame2, "Text45", "Dynamic CR", "7.432", KeyRule::UnsignedReal};
-  Field Text46{
-      Frame2,       "Text46", "% Cylinder Vol @ Intake Closing", "52.123", KeyRule::OutputOnly,
-      Unit::Percent};
+  Field Text36{Frame2, "Text36", "Intake Closes ABDC", "95.5",
+               Entry(KeyRule::SignedReal, Unit::Degrees, Holds(&P::IntakeClose))};
+  Field Text45{Frame2, "Text45", "Dynamic CR", "7.432",
+               Entry(KeyRule::UnsignedReal, Holds(&P::DynamicCompressionRatio))};
+  Field Text46{Frame2, "Text46", "% Cylinder Vol @ Intake Closing", "52.123",
+               Entry(KeyRule::OutputOnly, Unit::Percent)};
   CheckBox Check2{Frame2, "Check2", "IC PSI - DOS",
                   "Intake Close PSI reads the Compression Gauge as the DOS version does."};
   Command Command7{Frame2, "Command7", "DCR -> Comp &Ratio",
                    "Calculate Compression Ratio from Dynamic Compression Ratio, Stroke, Rod "
                    "Length, Wrist Pin Offset, and Intake Valve Closing Degrees.",
-                   &Form12::Command7_Click};
+                   &Form12::SolveRatioForDynamicRatio};
   Command Command1{Frame2, "Command1", "Intake Close DCR",
                    "Calculate Intake Valve Close ABDC using Bore, Stroke, Rod Length, Comp Ratio, "
                    "Dynamic CR and Wrist Pin Offset.",
-                   &Form12::Command1_Click};
+                   &Form12::SolveClosingForDynamicRatio};
   Command Command2{Frame2, "Command2", "Intake Close PSI",
                    "Calculate Intake Valve Close ABDC using Bore, Stroke, Rod Length, Comp Ratio, "
                    "Barometric Pressure, Temperature, Humidity and Compression Gauge Reading.",
-                   &Form12::Command2_Click};
+                   &Form12::SolveClosingForReading};
 
   Frame Frame3{*this, "Frame3", "Crank Angle", 0};
-  Field Text10{Frame3, "Text10", "Crank Angle", "10", KeyRule::SignedReal, Unit::Degrees};
-  ComboList Combo1{Frame3, "Combo1", "k Exponent"};
+  Field Text10{Frame3, "Text10", "Crank Angle", "10",
+               Entry(KeyRule::SignedReal, Unit::Degrees,
+                     Holds(&P::CrankAngleCG).NotShownAtOpening().ZeroKeepsText())};
+  ComboList Combo1{Frame3, "Combo1", "k Exponent",
+                   Holds(&P::BaseExponent).NotShownAtOpening().ZeroKeepsText()};
   Command Command10{Frame3, "Command10", "Offset Needed",
                     "Calculate amount of offset required for crank angle, to have the piston to be "
                     "at TDC. Using Crank Angle, Rod Length, and Stroke.",
-                    &Form12::Command10_Click};
+                    &Form12::SolveOffset};
 
   Frame Frame4{*this, "Frame4", "Compression Gauge", 1};
-  Field Text35{
-      Frame4, "Text35", "Compression Gauge", "165.5", KeyRule::UnsignedReal, Unit::GaugePressure};
+  Field Text35{Frame4, "Text35", "Compression Gauge", "165.5",
+               Entry(KeyRule::UnsignedReal, Unit::GaugePressure, Holds(&P::CompressionGauge))};
   Command Command18{Frame4, "Command18", "Compress &Gauge",
                     "Estimate the Compression Gauge from the Compression Ratio, Cylinder Size, Rod "
                     "Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin Offset, and "
                     "Temperature.",
-                    &Form12::Command18_Click};
+                    &Form12::EstimateGaugeReading};
   Command Command8{Frame4, "Command8", "Comp G&auge DOS",
                    "Estimate the Compression Gauge (Same as DOS Version) from the Compression "
                    "Ratio, Cylinder Size, Rod Length, Intake Closing Cam Timing, Barometric "
                    "Pressure, Temperature, Wrist Pin Offset, and Humidity.",
-                   &Form12::Command8_Click};
+                   &Form12::EstimateGaugeReadingDos};
   Command Command19{Frame4, "Command19", "CR Comp Ga&uge",
                     "Estimate the Compression Ratio from the Compression Gauge Reading, Cylinder "
                     "Size, Rod Length, Intake Closing Cam Timing, Barometric Pressure, Wrist Pin "
                     "Offset, and Temperature.",
-                    &Form12::Command19_Click};
+                    &Form12::EstimateRatioOfReading};
   Command Command9{Frame4, "Command9", "&CR Comp Ga DOS",
                    "Estimate the Compression Ratio (Same as DOS Version) from the Compression "
                    "Gauge Reading, Cylinder Size, Rod Length, Intake Closing Cam Timing, "
                    "Barometric Pressure, Temperature, Wrist Pin Offset, and Humidity.",
-                   &Form12::Command9_Click};
+                   &Form12::EstimateRatioOfReadingDos};
 
   Frame Frame5{*this, "Frame5", "Weather", 1};
-  Field Text30{Frame5,         "Text30", "Barometric Pressure", "29.92", KeyRule::UnsignedReal,
-               Unit::Barometer};
-  Field Text31{Frame5, "Text31", "Temperature", "80", KeyRule::SignedReal, Unit::Temperature};
-  Field Text32{Frame5, "Text32", "Humidity", "5.0", KeyRule::UnsignedReal, Unit::Percent};
-  Field Text34{Frame5, "Text34", "Dew Point", "55.0", KeyRule::SignedReal, Unit::Temperature};
-  Field Text33{Frame5, "Text33", "Vapor Pressure", "0.563", KeyRule::OutputOnly, Unit::Barometer};
-  Field Text37{Frame5,         "Text37", "Sat Vapor Pressure", "1.03028", KeyRule::OutputOnly,
-               Unit::Barometer};
+  Field Text30{Frame5, "Text30", "Barometric Pressure", "29.92",
+               Entry(KeyRule::UnsignedReal, Unit::Barometer, Holds(&P::BarometricPressure))};
+  Field Text31{Frame5, "Text31", "Temperature", "80",
+               Entry(KeyRule::SignedReal, Unit::Temperature, Holds(&P::Temperature))};
+  Field Text32{Frame5, "Text32", "Humidity", "5.0",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::Humidity))};
+  Field Text34{Frame5, "Text34", "Dew Point", "55.0",
+               Entry(KeyRule::SignedReal, Unit::Temperature, Holds(dewPoint_))};
+  Field Text33{Frame5, "Text33", "Vapor Pressure", "0.563",
+               Entry(KeyRule::OutputOnly, Unit::Barometer)};
+  Field Text37{Frame5, "Text37", "Sat Vapor Pressure", "1.03028",
+               Entry(KeyRule::OutputOnly, Unit::Barometer)};
 
   Frame Frame6{*this, "Frame6", "Octane", 1};
-  Field Text6{
-      Frame6,           "Text6", "Running Inlet Air Temperature", "120", KeyRule::SignedReal,
-      Unit::Temperature};
-  Field Text2{Frame6, "Text2", "Water Temperature", "170", KeyRule::SignedReal, Unit::Temperature};
+  Field Text6{Frame6, "Text6", "Running Inlet Air Temperature", "120",
+              Entry(KeyRule::SignedReal, Unit::Temperature, Holds(inletAir_))};
+  Field Text2{Frame6, "Text2", "Water Temperature", "170",
+              Entry(KeyRule::SignedReal, Unit::Temperature, Holds(water_))};
   Field Text5{Frame6, "Text5", "Est. Octane Needed Iron Heads", "96.16", KeyRule::OutputOnly};
 
   Frame Frame7{*this, "Frame7", "Strokes and Volumes", 2};
-  Field Text8{Frame7, "Text8", "Dynamic Stroke", "1.7036", KeyRule::OutputOnly, Unit::Length};
-  Field Text9{Frame7, "Text9", "Actual Piston Stroke", "3.25", KeyRule::OutputOnly, Unit::Length};
-  Field Text12{Frame7,  "Text12", "Swept / Cylinder Volume", "669.259", KeyRule::OutputOnly,
-               Unit::Cc};
-  Field Text7{Frame7,  "Text7", "Cylinder Vol @ Intake Close cc's", "350.8098", KeyRule::OutputOnly,
-              Unit::Cc};
-  Field Text11{
-      Frame7,           "Text11", "Cylinder Vol @ Intake Close ci", "21.40772", KeyRule::OutputOnly,
-      Unit::CubicInches};
+  Field Text8{Frame7, "Text8", "Dynamic Stroke", "1.7036",
+              Entry(KeyRule::OutputOnly, Unit::Length)};
+  Field Text9{Frame7, "Text9", "Actual Piston Stroke", "3.25",
+              Entry(KeyRule::OutputOnly, Unit::Length)};
+  Field Text12{Frame7, "Text12", "Swept / Cylinder Volume", "669.259",
+               Entry(KeyRule::OutputOnly, Unit::Cc)};
+  Field Text7{Frame7, "Text7", "Cylinder Vol @ Intake Close cc's", "350.8098",
+              Entry(KeyRule::OutputOnly, Unit::Cc)};
+  Field Text11{Frame7, "Text11", "Cylinder Vol @ Intake Close ci", "21.40772",
+               Entry(KeyRule::OutputOnly, Unit::CubicInches)};
 
   Frame Frame8{*this, "Frame8", "Graphs", 2};
   OptionGroup Option1{
@@ -239,10 +251,10 @@ class Form12 : public Screen {
       "Value."};
   Command Command6{Frame8, "Command6", "Graph First",
                    "Graph First based on selected option, this clears and starts a new Graph.",
-                   &Form12::Command6_Click};
+                   &Form12::GraphFirst};
   Command Command5{Frame8, "Command5", "Graph +1",
                    "Graph Second or more based on selected option, this adds to an existing Graph.",
-                   &Form12::Command5_Click};
+                   &Form12::GraphFurther};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   ReportBox Text38{HelpFrame, "Text38"};

@@ -14,43 +14,17 @@ namespace {
 constexpr double kSmallestStroke = 0.00001;
 constexpr double kThousandth = 0.001;
 
-/// The swept volume stands in cubic inches or, in metric, in cc.
-constexpr UnitRule kSweptVolumeRule{[](double volume) { return volume * (1 / kCubicInchesPerCc); },
-                                    [](double cc) { return cc * kCubicInchesPerCc; }};
-
 }  // namespace
 
 Form1CR::Form1CR(ProgramContext& context, Grapher& grapher)
-    : Screen(context, "Form1CR", "Compression Ratio", "CompRatio"), grapher_(grapher) {}
-
-void Form1CR::CopyFromBlock() {
-  const ParameterBlock& b = block();
-  Text1.SetText(FormatField(b.Bore, mark()));
-  Text3.SetText(FormatField(b.Stroke, mark()));
-  Text17.SetText(FormatField(b.CompressionRatio, mark()));
-  Text10.SetText(FormatField(b.DeckClearance, mark()));
-  Text27.SetText(FormatField(b.HorsePower, mark()));
-  Text28.SetText(FormatField(b.HorsePowerIncrease, mark()));
+    : Screen(context, "Form1CR", "Compression Ratio", "CompRatio"), grapher_(grapher) {
+  AlsoConverts(&P::BlockDeckHeight, Unit::Length);
 }
 
 void Form1CR::ReadRatioFields() {
   ParameterBlock& b = block();
-  ReadInto(b.Bore, Text1);
-  ReadInto(b.Stroke, Text3);
-  ReadInto(b.DeckClearance, Text10);
-  ReadInto(b.HeadGasket, Text14);
-  ReadInto(b.HeadGasketBore, Text18);
-  ReadInto(b.HeadGasketCC, Text42);
-  ReadInto(b.DepthFirstRing, Text19);
-  ReadInto(b.TopLandDiameter, Text20);
-  ReadInto(b.PistonDepth, Text22);
-  ReadInto(b.CCsPoured, Text23);
-  ReadInto(b.HorsePower, Text27);
-  ReadInto(b.HorsePowerIncrease, Text28);
-  ReadInto(b.DishDepth, Text6);
-  ReadInto(b.DishBore, Text5);
-  ReadInto(b.DishCC, Text7);
-  ReadInto(b.DishRadius, Text8);
+  ReadFields({&Text1, &Text3, &Text10, &Text14, &Text18, &Text42, &Text19, &Text20, &Text22,
+              &Text23, &Text27, &Text28, &Text6, &Text5, &Text7, &Text8});
   if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
 }
 
@@ -75,7 +49,7 @@ void Form1CR::UpdateClearanceVolumes() {
   Require(b.Bore > 0, Text1, "must be greater than 0 for this command.");
   if (!Check3.on()) {
     if (b.TopLandDiameter > b.Bore) {
-      Store(b.TopLandDiameter, Text20, b.Bore * 0.99);
+      Store(Text20, b.Bore * 0.99);
       Warn("Top Ring Land Diameter Greater Than Bore -- 0.99 * Bore Size Used");
     }
     if (b.Bore * 0.97 > b.TopLandDiameter) Warn("Is Top Ring Land Diameter Correct?");
@@ -85,13 +59,12 @@ void Form1CR::UpdateClearanceVolumes() {
   }
   deckCc_ = ToCc(DiscVolume(b.Bore, b.DeckClearance), metric());
   if (!Check2.on()) {
-    Store(b.HeadGasketCC, Text42, ToCc(DiscVolume(b.HeadGasketBore, b.HeadGasket), metric()));
+    Store(Text42, ToCc(DiscVolume(b.HeadGasketBore, b.HeadGasket), metric()));
   }
   if (Check3.on()) {
-    ReadInto(b.RingCC, Text43);
+    ReadFields({&Text43});
   } else {
-    Store(b.RingCC, Text43,
-          ToCc(RingLandVolume(b.Bore, b.TopLandDiameter, b.DepthFirstRing), metric()));
+    Store(Text43, ToCc(RingLandVolume(b.Bore, b.TopLandDiameter, b.DepthFirstRing), metric()));
   }
   Show(Text45, ToCc(DiscVolume(InchesForThousandth(b.HeadGasketBore), kThousandth), metric()));
   const double ccPerThousandth =
@@ -102,12 +75,11 @@ void Form1CR::UpdateClearanceVolumes() {
 }
 
 void Form1CR::ReadRatio() {
-  ReadInto(block().CompressionRatio, Text17);
+  ReadFields({&Text17});
 }
 
 void Form1CR::ReadChamberAndDome() {
-  ReadInto(block().CombChamberVol, Text15);
-  ReadInto(block().DomeVol, Text16);
+  ReadFields({&Text15, &Text16});
 }
 
 ClearanceVolumes Form1CR::Volumes() const {
@@ -132,8 +104,8 @@ void Form1CR::SumVolumes() {
   Require(Volumes().Total() >= 0, LargestTaker(),
           "takes more room than all the other volumes give: there would be no space left above "
           "the piston.");
-  Store(b.TotalVol, Text21, Volumes().Total());
-  Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
+  Store(Text21, Volumes().Total());
+  Store(Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
   Show(Text44, sweptCc_);
 }
 
@@ -142,64 +114,64 @@ void Form1CR::StoreTotalForRatio() {
   Require(b.CompressionRatio != 1, Text17,
           "must not be 1 for this command: at 1 there is no compression.");
   Require(b.CompressionRatio > 1, Text17, "must be greater than 1 for this command.");
-  Store(b.TotalVol, Text21, ClearanceForRatio(sweptCc_, b.CompressionRatio));
+  Store(Text21, ClearanceForRatio(sweptCc_, b.CompressionRatio));
 }
 
 // ---------------------------------------------------------------- ratio and volumes
 
-void Form1CR::Command10_Click() {
+void Form1CR::SolveRatio() {
   ReadRatioFields();
   UpdateSweptVolume();
   UpdateClearanceVolumes();
   SumVolumes();
 }
 
-void Form1CR::Command11_Click() {
+void Form1CR::SolveChamberVolume() {
   ReadRatioFields();
   UpdateSweptVolume();
   UpdateClearanceVolumes();
   ParameterBlock& b = block();
   ReadRatio();
-  ReadInto(b.DomeVol, Text16);
+  ReadFields({&Text16});
   StoreTotalForRatio();
-  Store(b.CombChamberVol, Text15, b.TotalVol - Volumes().WithoutChamber());
+  Store(Text15, b.TotalVol - Volumes().WithoutChamber());
 }
 
-void Form1CR::Command14_Click() {
+void Form1CR::SolveDomeVolume() {
   ReadRatioFields();
   UpdateSweptVolume();
   UpdateClearanceVolumes();
   ParameterBlock& b = block();
   ReadRatio();
-  ReadInto(b.CombChamberVol, Text15);
+  ReadFields({&Text15});
   StoreTotalForRatio();
-  Store(b.DomeVol, Text16, Volumes().WithoutDome() - b.TotalVol);
+  Store(Text16, Volumes().WithoutDome() - b.TotalVol);
 }
 
-void Form1CR::Command12_Click() {
+void Form1CR::SolveTotalVolume() {
   ReadRatioFields();
   UpdateSweptVolume();
   ReadRatio();
   StoreTotalForRatio();
 }
 
-void Form1CR::Command13_Click() {
+void Form1CR::SolveRatioFromTotal() {
   ReadRatioFields();
   UpdateSweptVolume();
   ParameterBlock& b = block();
-  ReadInto(b.TotalVol, Text21);
+  ReadFields({&Text21});
   Require(b.TotalVol >= 0, Text21, "must not be negative for this command.");
-  Store(b.CompressionRatio, Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
+  Store(Text17, RatioOfVolumes(sweptCc_, b.TotalVol), {&Text21});
 }
 
-void Form1CR::Command15_Click() {
+void Form1CR::SolveDomeFromPoured() {
   ReadRatioFields();
   UpdateSweptVolume();
   ParameterBlock& b = block();
-  Store(b.DomeVol, Text16, ToCc(DiscVolume(b.Bore, b.PistonDepth), metric()) - b.CCsPoured);
+  Store(Text16, ToCc(DiscVolume(b.Bore, b.PistonDepth), metric()) - b.CCsPoured);
 }
 
-void Form1CR::Command20_Click() {
+void Form1CR::SolveGasketThickness() {
   ReadRatioFields();
   UpdateSweptVolume();
   ParameterBlock& b = block();
@@ -211,15 +183,14 @@ void Form1CR::Command20_Click() {
   b.HeadGasket = thickness;
 }
 
-void Form1CR::Command17_Click() {
+void Form1CR::EstimateHorsepowerGain() {
   ReadRatioFields();
   ParameterBlock& b = block();
   ReadRatio();
-  ReadInto(b.NewCompressionRatio, Text29);
+  ReadFields({&Text29});
   Require(b.CompressionRatio > 0, Text17, "must be greater than 0 for this command.");
   Require(b.NewCompressionRatio > 0, Text29, "must be greater than 0 for this command.");
-  Store(b.HorsePowerIncrease, Text28,
-        HorsepowerGainOfRatio(b.HorsePower, b.CompressionRatio, b.NewCompressionRatio));
+  Store(Text28, HorsepowerGainOfRatio(b.HorsePower, b.CompressionRatio, b.NewCompressionRatio));
 }
 
 // ---------------------------------------------------------------- dish
@@ -239,26 +210,26 @@ void Form1CR::ShowLimitedRadius(const Dish& dish) {
   Warn(
       "Dish Bore Bottom Radius is Greater Than Dish Depth\r\n"
       "Dish Bore Bottom Radius is Set to Dish Depth");
-  Store(b.DishRadius, Text8, dish.radius);
+  Store(Text8, dish.radius);
 }
 
-void Form1CR::Command2_Click() {
+void Form1CR::SolveDishVolume() {
   const Dish dish = WithFittingRadius(ReadDish());
   ShowLimitedRadius(dish);
-  Store(block().DishCC, Text7, ToCc(DishVolume(dish), metric()));
+  Store(Text7, ToCc(DishVolume(dish), metric()));
 }
 
-void Form1CR::Command3_Click() {
+void Form1CR::SolveDishDepth() {
   const Dish entered = ReadDish();
   ParameterBlock& b = block();
   Require(b.DishBore != 0, Text5, "must not be 0 for this command.");
   const Dish dish = DishWithDepthFor(FromCc(b.DishCC, metric()), entered);
   RequireResult(Text6, dish.depth);
   ShowLimitedRadius(dish);
-  Store(b.DishDepth, Text6, dish.depth);
+  Store(Text6, dish.depth);
 }
 
-void Form1CR::Command5_Click() {
+void Form1CR::SolveDishBore() {
   const Dish entered = ReadDish();
   ParameterBlock& b = block();
   Require(b.DishDepth > 0, Text6, "must be greater than 0 for this command.");
@@ -266,7 +237,7 @@ void Form1CR::Command5_Click() {
   const Dish dish = DishWithBoreFor(FromCc(b.DishCC, metric()), entered);
   RequireResult(Text5, dish.bore);
   ShowLimitedRadius(dish);
-  Store(b.DishBore, Text5, dish.bore);
+  Store(Text5, dish.bore);
 }
 
 // ---------------------------------------------------------------- charts
@@ -301,7 +272,7 @@ void Form1CR::ShowChart(const std::function<std::string()>& build) {
                          "Stroke, Comp Ratio, Head Gasket Bore Size and the volumes."));
 }
 
-void Form1CR::Command6_Click() {
+void Form1CR::ChartTotalVolume() {
   ReadRatioFields();
   UpdateSweptVolume();
   ReadRatio();
@@ -314,19 +285,19 @@ void Form1CR::ShowNeededChart(RatioChart chart) {
   ShowChart([&] { return NeededChart(chart, Input(), mark()); });
 }
 
-void Form1CR::Command8_Click() {
+void Form1CR::ChartTotalVolumeNeeded() {
   ShowNeededChart(RatioChart::TotalVolume);
 }
 
-void Form1CR::Command9_Click() {
+void Form1CR::ChartChamber() {
   ShowNeededChart(RatioChart::Chamber);
 }
 
-void Form1CR::Command18_Click() {
+void Form1CR::ChartDome() {
   ShowNeededChart(RatioChart::Dome);
 }
 
-void Form1CR::Command19_Click() {
+void Form1CR::ChartGasketThickness() {
   CalculateChartBase();
   Require(block().HeadGasketBore != 0, Text18, "must not be 0 for this chart.");
   ShowChart([this] { return NeededChart(RatioChart::GasketThickness, Input(), mark()); });
@@ -360,16 +331,16 @@ bool Form1CR::GraphStands() const {
   return drawn_ && grapher_.HasGraph() && grapher_.plot().scale() == drawn_->axes;
 }
 
-void Form1CR::Command1_Click() {
+void Form1CR::GraphTotalVolume() {
   ReadRatioFields();
   UpdateSweptVolume();
   ParameterBlock& b = block();
-  ReadInto(b.TotalVol, Text21);
+  ReadFields({&Text21});
   Require(b.TotalVol > kSmallestGraphedVolume, Text21, "must be greater than 2 for this graph.");
   GraphRatio(RatioGraph::TotalVolume, SweepAroundTotal(b.TotalVol));
 }
 
-void Form1CR::Command4_Click() {
+void Form1CR::GraphChamber() {
   CalculateChartBase();
   const ParameterBlock& b = block();
   Require(b.TotalVol > 0, Text21,
@@ -377,7 +348,7 @@ void Form1CR::Command4_Click() {
   GraphRatio(RatioGraph::Chamber, SweepAroundChamber(b.CombChamberVol));
 }
 
-void Form1CR::Command7_Click() {
+void Form1CR::GraphFurther() {
   if (!GraphStands()) {
     Text38.CloseReport();
     Text38.SetText(
@@ -399,43 +370,19 @@ void Form1CR::Command7_Click() {
 
 // ---------------------------------------------------------------- switches
 
-void Form1CR::Check2_Click() {
+void Form1CR::SwitchGasketEntry() {
   Text14.SetEnabled(!Check2.on());
   Text18.SetEnabled(!Check2.on());
 }
 
-void Form1CR::Check3_Click() {
+void Form1CR::SwitchRingEntry() {
   Text19.SetEnabled(!Check3.on());
   Text20.SetEnabled(!Check3.on());
 }
 
-void Form1CR::Check1_Click() {
-  ReadRatioFields();
-  ConvertRatioUnits();
-}
-
 void Form1CR::ConvertRatioUnits() {
+  ReadRatioFields();
   SwitchUnits();
-}
-
-std::vector<Screen::MetricValue> Form1CR::MetricValues() {
-  using From = MetricValue::From;
-  ParameterBlock& b = block();
-  return {{&Text1, &b.Bore, &kLengthRule},
-          {&Text3, &b.Stroke, &kLengthRule},
-          {nullptr, &b.BlockDeckHeight, &kLengthRule},
-          {&Text10, &b.DeckClearance, &kLengthRule},
-          {&Text14, &b.HeadGasket, &kLengthRule},
-          {&Text18, &b.HeadGasketBore, &kLengthRule},
-          {&Text19, &b.DepthFirstRing, &kLengthRule},
-          {&Text20, &b.TopLandDiameter, &kLengthRule},
-          {&Text22, &b.PistonDepth, &kLengthRule},
-          {&Text6, &b.DishDepth, &kLengthRule},
-          {&Text5, &b.DishBore, &kLengthRule},
-          {&Text27, &b.HorsePower, &kPowerRule},
-          {&Text28, &b.HorsePowerIncrease, &kPowerRule},
-          {&Text2, nullptr, &kLengthRule, From::Shown},
-          {&Text4, nullptr, &kSweptVolumeRule, From::Shown}};
 }
 
 }  // namespace veldox

@@ -49,14 +49,6 @@ VaporPressures VaporPressuresAt(double celsius, double humidity) {
   return vapor;
 }
 
-double CelsiusOf(double fahrenheit) {
-  return (fahrenheit - 32) * 5 / 9;
-}
-
-double FahrenheitOf(double celsius) {
-  return celsius * 9 / 5 + 32;
-}
-
 ClosedCylinder ClosedCylinderAt(const CylinderSize& size, double intakeClose) {
   return CylinderAt(size, BottomLead(size) + 180 + intakeClose);
 }

@@ -18,60 +18,15 @@ constexpr double kFootFormulaToMetres = 12.0 / 1000;
 /// The same for the bearing speed, whose formula has seconds and inches in its divisor.
 constexpr double kBearingFormulaToMetres = 12.0 / 1000;
 
-constexpr double kSquareMillimetresPerSquareInch = kMillimetresPerInch * kMillimetresPerInch;
-constexpr double kCcPerCubicInch =
-    kSquareMillimetresPerSquareInch * kMillimetresPerInch / kCubicMillimetresPerCc;
-constexpr UnitRule kSurfaceSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
-                                     [](double metres) { return metres * kFeetPerMetre; }};
-constexpr UnitRule kPistonSpeedRule{[](double feet) { return feet * kMetresPerFoot; },
-                                    [](double metres) { return metres / kMetresPerFoot; }};
-constexpr UnitRule kAreaRule{[](double area) { return area * kSquareMillimetresPerSquareInch; },
-                             [](double area) { return area / kSquareMillimetresPerSquareInch; }};
-constexpr UnitRule kVolumeRule{[](double volume) { return volume * kCcPerCubicInch; },
-                               [](double volume) { return volume / kCcPerCubicInch; }};
-
 }  // namespace
 
 Form1::Form1(ProgramContext& context, Grapher& grapher)
     : Screen(context, "Form1", "Engine Displacement Calculator", "CubicIn"), grapher_(grapher) {}
 
-void Form1::CopyFromBlock() {
-  const ParameterBlock& b = block();
-  Text32.SetText(FormatField(b.WristPinOffset, mark()));
-  Text1.SetText(FormatField(b.Bore, mark()));
-  Text3.SetText(FormatField(b.Stroke, mark()));
-  Text4.SetText(FormatField(b.RodLength, mark()));
-  Text2.SetText(FormatInt(b.NumberofCylinders, mark()));
-  Text5.SetText(FormatInt(b.RPM, mark()));
-  Text6.SetText(FormatField(b.CubicInches, mark()));
-  Text27.SetText(FormatField(b.HorsePower, mark()));
-  Text10.SetText(FormatField(b.DeckClearance, mark()));
-  Text22.SetText(FormatField(b.CompressionRatio, mark()));
-  Text20.SetText(FormatField(b.PortDiameter, mark()));
-  Text21.SetText(FormatField(b.VolumetricEfficiency, mark()));
-}
-
 void Form1::ReadEngineFields() {
   ParameterBlock& b = block();
-  ReadInto(b.Bore, Text1);
-  ReadInto(b.Stroke, Text3);
-  ReadCount(b.NumberofCylinders, Text2);
-  ReadInto(b.RodLength, Text4);
-  ReadInto(b.RodLength2, Text17);
-  ReadInto(b.RPM, Text5);
-  ReadInto(b.CubicInches, Text6);
-  ReadInto(b.BlockDeckHeight, Text8);
-  ReadInto(b.PistonCompressionHeight, Text9);
-  ReadInto(b.DeckClearance, Text10);
-  ReadInto(b.BoreStrokeRatio, Text11);
-  ReadInto(b.StrokeBoreRatio, Text16);
-  ReadInto(b.RodStrokeRatio, Text12);
-  ReadInto(b.AveragePistonSpeed, Text13);
-  ReadInto(b.BoreIncrease, Text26);
-  ReadInto(b.HorsePower, Text27);
-  ReadInto(b.HorsePowerIncrease, Text28);
-  ReadInto(b.WristPinOffset, Text32);
-  ReadInto(b.PortDiameter, Text20);
+  ReadFields({&Text1, &Text3, &Text2, &Text4, &Text17, &Text5, &Text6, &Text8, &Text9, &Text10,
+              &Text11, &Text16, &Text12, &Text13, &Text26, &Text27, &Text28, &Text32, &Text20});
   if (b.Stroke <= 0) b.Stroke = kSmallestStroke;
   if (b.Stroke / 2 > b.RodLength) {
     b.RodLength = b.Stroke / 2;
@@ -81,18 +36,15 @@ void Form1::ReadEngineFields() {
 
 void Form1::DeriveEngineFields() {
   ParameterBlock& b = block();
-  Store(b.BlockDeckHeight, Text8,
-        BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
-  Store(b.PistonCompressionHeight, Text9,
-        PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
-  Store(b.DeckClearance, Text10,
-        DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
-  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke, {&Text3});
-  Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore, {&Text1});
-  Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke, {&Text3});
+  Store(Text8, BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
+  Store(Text9, PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
+  Store(Text10, DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
+  Store(Text11, b.Bore / b.Stroke, {&Text3});
+  Store(Text16, b.Stroke / b.Bore, {&Text1});
+  Store(Text12, b.RodLength / b.Stroke, {&Text3});
   Show(Text7, 2 * b.RodStrokeRatio);
   StoreMeanPistonSpeed();
-  Store(b.PistonArea, Text24, PistonArea(b.Bore));
+  Store(Text24, PistonArea(b.Bore));
   Show(Text25, CrankRodRightAngle(b.RodLength, b.Stroke), {&Text3});
 }
 
@@ -100,7 +52,7 @@ void Form1::StoreMeanPistonSpeed() {
   ParameterBlock& b = block();
   double speed = MeanPistonSpeed(b.Stroke, b.RPM);
   if (b.MetricSwitch == 1) speed *= kFootFormulaToMetres;
-  Store(b.AveragePistonSpeed, Text13, speed);
+  Store(Text13, speed);
 }
 
 double Form1::PistonSpeedInFormulaUnits() const {
@@ -125,35 +77,35 @@ void Form1::StoreBoreAndStroke(const BoreAndStroke& size) {
   ParameterBlock& b = block();
   // In Metric the volume is in cc, so the formulas have run in centimetres.
   const double scale = b.MetricSwitch == 1 ? kMillimetresPerCentimetre : 1;
-  Store(b.Bore, Text1, size.bore * scale, {&Text16});
-  Store(b.Stroke, Text3, size.stroke * scale, {&Text11});
+  Store(Text1, size.bore * scale, {&Text16});
+  Store(Text3, size.stroke * scale, {&Text11});
 }
 
-void Form1::Command1_Click() {
+void Form1::SolveEngineSize() {
   ReadEngineFields();
-  Store(block().CubicInches, Text6, EngineSizeInFieldUnits());
+  Store(Text6, EngineSizeInFieldUnits());
   DeriveEngineFields();
 }
 
-void Form1::Command2_Click() {
+void Form1::SolveBore() {
   ReadEngineFields();
   ParameterBlock& b = block();
   const double volume =
       b.MetricSwitch == 1 ? b.CubicInches * kCubicMillimetresPerCc : b.CubicInches;
-  Store(b.Bore, Text1, BoreForEngineSize(volume, b.Stroke, b.NumberofCylinders), {&Text2});
+  Store(Text1, BoreForEngineSize(volume, b.Stroke, b.NumberofCylinders), {&Text2});
   DeriveEngineFields();
 }
 
-void Form1::Command3_Click() {
+void Form1::SolveStroke() {
   ReadEngineFields();
   ParameterBlock& b = block();
   double stroke = StrokeForEngineSize(b.CubicInches, b.Bore, b.NumberofCylinders);
   if (b.MetricSwitch == 1) stroke *= kCubicMillimetresPerCc;
-  Store(b.Stroke, Text3, stroke, {&Text1, &Text2});
+  Store(Text3, stroke, {&Text1, &Text2});
   DeriveEngineFields();
 }
 
-void Form1::Command4_Click() {
+void Form1::SolveSizeForBoreStrokeRatio() {
   ReadEngineFields();
   const double volume = CylinderVolume();
   Require(block().BoreStrokeRatio > 0, Text11, "must be greater than 0 for this command.");
@@ -164,91 +116,86 @@ void Form1::Command4_Click() {
   DeriveEngineFields();
 }
 
-void Form1::Command11_Click() {
+void Form1::SolveSizeForStrokeBoreRatio() {
   ReadEngineFields();
   StoreBoreAndStroke(BoreAndStrokeForStrokeBoreRatio(CylinderVolume(), block().StrokeBoreRatio));
   DeriveEngineFields();
 }
 
-void Form1::Command5_Click() {
+void Form1::SolveRodLength() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.RodLength, Text4, b.Stroke * b.RodStrokeRatio);
+  Store(Text4, b.Stroke * b.RodStrokeRatio);
   DeriveEngineFields();
 }
 
-void Form1::Command6_Click() {
+void Form1::SolveMaxRpm() {
   ReadEngineFields();
   ParameterBlock& b = block();
   const double rpm = RpmForMeanPistonSpeed(PistonSpeedInFormulaUnits(), b.Stroke);
-  ShowAs<"0">(Text5, rpm, {&Text3});
-  b.RPM = rpm;
+  Store(Text5, rpm, {&Text3});
   DeriveEngineFields();
 }
 
-void Form1::Command14_Click() {
+void Form1::SolveStrokeForPistonSpeed() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.Stroke, Text3, StrokeForMeanPistonSpeed(PistonSpeedInFormulaUnits(), b.RPM), {&Text5});
+  Store(Text3, StrokeForMeanPistonSpeed(PistonSpeedInFormulaUnits(), b.RPM), {&Text5});
   DeriveEngineFields();
 }
 
-void Form1::Command7_Click() {
+void Form1::SolveDeckHeight() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.BlockDeckHeight, Text8,
-        BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
+  Store(Text8, BlockDeckHeight(b.Stroke, b.RodLength, b.PistonCompressionHeight, b.DeckClearance));
   DeriveEngineFields();
 }
 
-void Form1::Command8_Click() {
+void Form1::SolvePistonHeight() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.PistonCompressionHeight, Text9,
-        PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
+  Store(Text9, PistonCompressionHeight(b.BlockDeckHeight, b.Stroke, b.RodLength, b.DeckClearance));
   DeriveEngineFields();
 }
 
-void Form1::Command9_Click() {
+void Form1::SolveDeckClearance() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.DeckClearance, Text10,
-        DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
+  Store(Text10, DeckClearance(b.BlockDeckHeight, b.Stroke, b.RodLength, b.PistonCompressionHeight));
   DeriveEngineFields();
 }
 
-void Form1::Command16_Click() {
+void Form1::EstimateHorsepowerGain() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.HorsePowerIncrease, Text28, HorsepowerGain(b.HorsePower, b.Bore, b.BoreIncrease),
-        {&Text1});
+  Store(Text28, HorsepowerGain(b.HorsePower, b.Bore, b.BoreIncrease), {&Text1});
   DeriveEngineFields();
 }
 
-void Form1::Command22_Click() {
+void Form1::SolveBoreStrokeRatios() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke, {&Text3});
-  Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore, {&Text1});
+  Store(Text11, b.Bore / b.Stroke, {&Text3});
+  Store(Text16, b.Stroke / b.Bore, {&Text1});
 }
 
-void Form1::Command23_Click() {
+void Form1::SolveRodStrokeRatio() {
   ReadEngineFields();
   const double ratio = block().RodLength / block().Stroke;
   Show(Text12, ratio, {&Text3});
   Show(Text7, 2 * ratio);
 }
 
-void Form1::Command26_Click() {
+void Form1::SolveBearingSpeed() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  ReadInto(b.JournalDiameter, Text33);
+  ReadFields({&Text33});
   double speed = JournalSpeed(b.JournalDiameter, b.RPM);
   if (b.MetricSwitch == 1) speed *= kBearingFormulaToMetres;
   Show(Text34, speed);
 }
 
-void Form1::Command10_Click() {
+void Form1::SolveEqualSpeedAngle() {
   ReadEngineFields();
   ShowAs<"0.00000000000">(Text15, EqualSpeedCrankAngle(block().RodLength, block().Stroke),
                           {&Text3});
@@ -258,9 +205,7 @@ bool Form1::CheckDegreeRange() {
   constexpr double kManyLongLines = 723;
   constexpr double kManyShortLines = 1200;
   ParameterBlock& b = block();
-  ReadInto(b.EveryXDegrees, Text39);
-  ReadInto(b.StartDegrees, Text40);
-  ReadInto(b.EndDegrees, Text41);
+  ReadFields({&Text39, &Text40, &Text41});
   Require(b.EveryXDegrees > 0, Text39, "must be greater than 0 for this command.");
   Require(b.StartDegrees + b.EveryXDegrees > b.StartDegrees &&
               b.EndDegrees + b.EveryXDegrees > b.EndDegrees,
@@ -289,10 +234,9 @@ bool Form1::CheckDegreeRange() {
 
 void Form1::ReadWeights() {
   ParameterBlock& b = block();
-  ReadInto(b.PistonWeight, Text30);
-  ReadInto(b.RodWeight, Text31);
+  ReadFields({&Text30, &Text31});
   if (Check2.on()) {
-    ReadInto(b.SmallEndRodWeight, Text14);
+    ReadFields({&Text14});
   } else {
     b.SmallEndRodWeight = b.RodWeight / 3;
   }
@@ -349,29 +293,29 @@ void Form1::ShowTable(const std::function<std::string(const PistonTable&)>& buil
 void Form1::ShowVelocityTable(AngleOrigin origin) {
   ReadEngineFields();
   ParameterBlock& b = block();
-  ReadInto(b.VolumetricEfficiency, Text21);
+  ReadFields({&Text21});
   Require(b.PortDiameter != 0, Text20, "must not be 0 for this command.");
   if (!CheckDegreeRange()) return;
   Require(b.RPM != 0, Text5, "must not be 0 for this command.");
   ShowTable([&](const PistonTable& table) { return VelocityReport(table, origin, mark()); });
 }
 
-void Form1::Command20_Click() {
+void Form1::TabulateVelocity() {
   ShowVelocityTable(AngleOrigin::Crank);
 }
 
-void Form1::Command19_Click() {
+void Form1::TabulateDegreeWheel() {
   ShowVelocityTable(AngleOrigin::DegreeWheel);
 }
 
-void Form1::Command21_Click() {
+void Form1::TabulateTravel() {
   ReadEngineFields();
   if (!CheckDegreeRange()) return;
   Require(block().RPM != 0, Text5, "must not be 0 for this command.");
   ShowTable([&](const PistonTable& table) { return TravelReport(table, mark()); });
 }
 
-void Form1::Command17_Click() {
+void Form1::TabulateCrankpinForce() {
   ReadEngineFields();
   if (!CheckDegreeRange()) return;
   ReadWeights();
@@ -379,36 +323,36 @@ void Form1::Command17_Click() {
   ShowTable([&](const PistonTable& table) { return CrankpinForceReport(table, mark()); });
 }
 
-void Form1::Command18_Click() {
+void Form1::TabulateCrankpinLoad() {
   ReadEngineFields();
   if (!CheckDegreeRange()) return;
   ReadWeights();
   ShowTable([&](const PistonTable& table) { return CrankpinLoadReport(table, mark()); });
 }
 
-void Form1::Command24_Click() {
+void Form1::SolvePistonTravel() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  ReadInto(b.CrankDegrees, Text47);
+  ReadFields({&Text47});
   // A travel has the unit of the lengths it comes from.
   const auto travelWith = [&b](double rodLength) {
     return PistonTravelAt({b.Stroke / 2, rodLength, b.WristPinOffset}, b.CrankDegrees);
   };
   const double travel = travelWith(b.RodLength);
-  Store(b.PistonTravel, Text48, travel, {&Text4});
+  Store(Text48, travel, {&Text4});
   const double travel2 = travelWith(b.RodLength2);
   Show(Text18, travel2, {&Text17});
   Show(Text19, travel - travel2);
 }
 
-void Form1::Command25_Click() {
+void Form1::SolveCrankDegrees() {
   ReadEngineFields();
   ParameterBlock& b = block();
-  ReadInto(b.PistonTravel, Text48);
+  ReadFields({&Text48});
   Require(b.PistonTravel >= 0, Text48, "must not be negative for this command.");
   try {
     if (b.WristPinOffset == 0) {
-      Store(b.CrankDegrees, Text47, CrankDegreesAtTravel(b.Stroke, b.RodLength, b.PistonTravel));
+      Store(Text47, CrankDegreesAtTravel(b.Stroke, b.RodLength, b.PistonTravel));
     } else {
       Show(Text47,
            CrankDegreesAtTravel({b.Stroke / 2, b.RodLength, b.WristPinOffset}, b.PistonTravel));
@@ -446,15 +390,15 @@ PistonGraphInput Form1::ReadGraphInput() {
       ReadWeights();
       Require(b.RodWeight != 0, Text31, "must not be 0 for this command.");
       break;
-    case PistonGraph::BearingSpeed: ReadInto(b.JournalDiameter, Text33); break;
+    case PistonGraph::BearingSpeed: ReadFields({&Text33}); break;
     case PistonGraph::PortVelocity:
     case PistonGraph::PortDepression:
-      ReadInto(b.VolumetricEfficiency, Text21);
+      ReadFields({&Text21});
       Require(b.PortDiameter != 0, Text20, "must not be 0 for this command.");
       break;
     case PistonGraph::TotalVolumeChange:
     case PistonGraph::PressureDifferential:
-      ReadInto(b.CompressionRatio, Text22);
+      ReadFields({&Text22});
       Require(b.CompressionRatio > 1, Text22, "must be greater than 1 for this command.");
       break;
     default: break;
@@ -483,55 +427,26 @@ void Form1::GraphPiston(bool first) {
   grapher_.ShowGraph();
 }
 
-void Form1::Command12_Click() {
+void Form1::GraphFirst() {
   GraphPiston(true);
 }
 
-void Form1::Command13_Click() {
+void Form1::GraphFurther() {
   GraphPiston(false);
 }
 
-std::vector<Screen::MetricValue> Form1::MetricValues() {
-  using From = MetricValue::From;
-  ParameterBlock& b = block();
-  return {{&Text1, &b.Bore, &kLengthRule},
-          {&Text3, &b.Stroke, &kLengthRule},
-          {&Text4, &b.RodLength, &kLengthRule},
-          {&Text17, &b.RodLength2, &kLengthRule},
-          {&Text8, &b.BlockDeckHeight, &kLengthRule},
-          {&Text9, &b.PistonCompressionHeight, &kLengthRule},
-          {&Text10, &b.DeckClearance, &kLengthRule},
-          {&Text26, &b.BoreIncrease, &kLengthRule},
-          {&Text48, &b.PistonTravel, &kLengthRule, From::Shown},
-          {&Text18, nullptr, &kLengthRule, From::Shown},
-          {&Text19, nullptr, &kLengthRule, From::Shown},
-          {&Text32, &b.WristPinOffset, &kLengthRule},
-          {&Text33, &b.JournalDiameter, &kLengthRule, From::Shown},
-          {&Text20, &b.PortDiameter, &kLengthRule},
-          {&Text27, &b.HorsePower, &kPowerRule},
-          {&Text28, &b.HorsePowerIncrease, &kPowerRule},
-          {&Text34, nullptr, &kSurfaceSpeedRule, From::Shown},
-          {&Text6, &b.CubicInches, &kVolumeRule, From::Derived},
-          {&Text13, &b.AveragePistonSpeed, &kPistonSpeedRule, From::Derived},
-          {&Text24, &b.PistonArea, &kAreaRule, From::Derived}};
-}
-
-void Form1::Check1_Click() {
-  ReadEngineFields();
-  ConvertEngineUnits();
-}
-
 void Form1::ConvertEngineUnits() {
+  ReadEngineFields();
   SwitchUnits([this] {
     ParameterBlock& b = block();
-    Store(b.CubicInches, Text6, EngineSizeInFieldUnits());
-    Store(b.BoreStrokeRatio, Text11, b.Bore / b.Stroke);
+    Store(Text6, EngineSizeInFieldUnits());
+    Store(Text11, b.Bore / b.Stroke);
     // Without a bore the ratio stays as it is: the unit has no part in it.
-    if (b.Bore != 0) Store(b.StrokeBoreRatio, Text16, b.Stroke / b.Bore);
-    Store(b.RodStrokeRatio, Text12, b.RodLength / b.Stroke);
+    if (b.Bore != 0) Store(Text16, b.Stroke / b.Bore);
+    Store(Text12, b.RodLength / b.Stroke);
     Show(Text7, 2 * b.RodStrokeRatio);
     StoreMeanPistonSpeed();
-    Store(b.PistonArea, Text24, PistonArea(b.Bore));
+    Store(Text24, PistonArea(b.Bore));
   });
 }
 

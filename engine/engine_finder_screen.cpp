@@ -138,7 +138,7 @@ std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {
   return figures;
 }
 
-void Form21::Combo1_Click() {
+void Form21::PickEngine() {
   const std::string row = Combo1.chosenText();
   const std::vector<Figure> figures = FiguresOf(row);
   // A closed screen may hold old values: it takes the shared ones as if it opened, so that its

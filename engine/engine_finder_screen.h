@@ -24,7 +24,7 @@ class Form21 : public Screen {
   Control* HelpPlace() override { return &Label1; }
 
  private:
-  void Combo1_Click();
+  void PickEngine();
   void ReadUserRows();
   /// The texts and numbers of a row: bore, stroke, rod length and cylinders as far as it goes.
   struct Figure {
@@ -42,7 +42,7 @@ class Form21 : public Screen {
   PickList Combo1{Frame1, "Combo1", "Engines",
                   "Type to narrow the list, for example a size and a bore. A click or Enter puts "
                   "the engine into the Engine Displacement screen. All lengths are in inches.",
-                  &Form21::Combo1_Click};
+                  &Form21::PickEngine};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   Label Label1{HelpFrame, "Label1", ""};

@@ -186,8 +186,7 @@ void Form8::Command2_Click() {
 
 void Form8::DrawPowerCurve(int type, const std::optional<AxisRange>& limits) {
   ParameterBlock& b = block();
-  ReadInto(b.HorsePower, Text4);
-  ReadInto(b.RPM, Text5);
+  ReadFields({&Text4, &Text5});
   Require(b.HorsePower > 0, Text4, "must be greater than 0 for this command.");
   Require(b.RPM > 0, Text5, "must be greater than 0 for this command.");
   const double speedScale = b.RPM / ModelPeakSpeed(type);

@@ -141,23 +141,17 @@ class Form8 : public Screen, public Grapher {
               "Text4",
               "Horsepower",
               "1300",
-              KeyRule::UnsignedReal,
-              Unit::Power,
+              Entry(KeyRule::UnsignedReal, Unit::Power,
+                    Holds(&P::HorsePower).NotShownAtOpening().NotConverted()),
               "Horsepower at the peak of the curve."};
-  Field Text5{Frame1,
-              "Text5",
-              "RPM",
-              "8800",
-              KeyRule::UnsignedReal,
-              Unit::RevolutionsPerMinute,
-              "RPM of the peak."};
-  Field Text6{Frame1,
-              "Text6",
-              "Type Curve",
-              "2",
-              KeyRule::Digits,
-              Unit::None,
-              "Shape of the curve, 1 to 8."};
+  Field Text5{
+      Frame1,
+      "Text5",
+      "RPM",
+      "8800",
+      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::RPM).NotShownAtOpening()),
+      "RPM of the peak."};
+  Field Text6{Frame1, "Text6", "Type Curve", "2", KeyRule::Digits, "Shape of the curve, 1 to 8."};
   Command Command2{Frame1, "Command2", "&Graph",
                    "Graph Horsepower and Torque from Horsepower, RPM and Type Curve; this clears "
                    "and starts a new Graph.",

@@ -14,12 +14,9 @@ class Board : public Screen {
  public:
   explicit Board(ProgramContext& context) : Screen(context, "Board", "Board", "") {}
   Frame Frame1{*this, "Frame1", ""};
-  Field Blank{
-      Frame1, "Blank", "Blank", "", KeyRule::UnsignedReal, Unit::None, "", LeaveCheck::NotBlank};
-  Field Digits{
-      Frame1, "Digits", "Digits", "", KeyRule::UnsignedReal, Unit::None, "", LeaveCheck::HasDigits};
-  Field NotZero{Frame1,     "NotZero", "Not Zero",         "", KeyRule::SignedReal,
-                Unit::None, "",        LeaveCheck::NotZero};
+  Field Blank{Frame1, "Blank", "Blank", "", Entry(KeyRule::UnsignedReal, LeaveCheck::NotBlank)};
+  Field Digits{Frame1, "Digits", "Digits", "", Entry(KeyRule::UnsignedReal, LeaveCheck::HasDigits)};
+  Field NotZero{Frame1, "NotZero", "Not Zero", "", Entry(KeyRule::SignedReal, LeaveCheck::NotZero)};
   Field Free{Frame1, "Free", "Free", "", KeyRule::UnsignedReal};
 };
 

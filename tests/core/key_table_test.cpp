@@ -78,7 +78,6 @@ TEST(KeyTable, EveryKeyHasAMemberThatItsFormCanHold) {
     const bool isText = std::holds_alternative<std::string ParameterBlock::*>(row->member);
     switch (row->form) {
       case KeyForm::Number:
-      case KeyForm::NumberAtOnce:
       case KeyForm::NumberOrField:
       case KeyForm::FieldText: EXPECT_TRUE(isReal) << row->key; break;
       case KeyForm::Integer:

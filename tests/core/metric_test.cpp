@@ -13,21 +13,22 @@ class BoreScreen : public Screen {
  public:
   BoreScreen(ProgramContext& context, const char* name) : Screen(context, name, name, name) {}
   CheckBox* MetricBox() override { return &Check1; }
-  void CopyFromBlock() override { Text1.SetText(FormatField(block().Bore, mark())); }
 
-  void Use() { ReadInto(block().Bore, Text1); }
+  void Use() { ReadFields({&Text1}); }
+  void UseTemperature() { ReadFields({&Text4}); }
+  void StoreTemperature(double fahrenheit) { Store(Text4, fahrenheit); }
   void Check1_Click() {
     Use();
-    SwitchUnits();
-  }
-  std::vector<MetricValue> MetricValues() override {
-    return {{&Text1, &block().Bore, &kLengthRule},
-            {&Text2, nullptr, &kLengthRule, MetricValue::From::Shown}};
+    SwitchUnits([this] { Show(Text3, Read(Text1) / Read(Text2)); });
   }
 
   Frame Frame1{*this, "Frame1", ""};
-  Field Text1{Frame1, "Text1", "Bore", "4.0", KeyRule::UnsignedReal, Unit::Length};
-  Field Text2{Frame1, "Text2", "Own Length", "1.0", KeyRule::UnsignedReal, Unit::Length};
+  Field Text1{Frame1, "Text1", "Bore", "4.0",
+              Entry(KeyRule::UnsignedReal, Unit::Length, Holds(&P::Bore))};
+  Field Text2{Frame1, "Text2", "Own Length", "1.0", Entry(KeyRule::UnsignedReal, Unit::Length)};
+  Field Text3{Frame1, "Text3", "Ratio", "4", KeyRule::OutputOnly};
+  Field Text4{Frame1, "Text4", "Temperature", "59",
+              Entry(KeyRule::SignedReal, Unit::Temperature, Holds(&P::Temperature).KeptInUs())};
   CheckBox Check1{Frame1, "Check1", "Metric", "", &BoreScreen::Check1_Click};
   Command Command1{Frame1, "Command1", "Use", "Reads the bore.", &BoreScreen::Use};
 };
@@ -54,6 +55,99 @@ TEST_F(MetricTest, AScreenOpensInInchesWhileAnotherShowsMillimetres) {
   EXPECT_EQ(first_.Text2.text(), "25.4");
   EXPECT_TRUE(first_.Check1.on());
   EXPECT_TRUE(first_.metric());
+}
+
+TEST_F(MetricTest, SwitchingThereAndBackWithNothingBetweenIsTheIdentity) {
+  shell_.Open(first_);
+  for (const char* text : {"120", "4.0069961", ".1", "555.00", "1e-7", "0.3333333333"}) {
+    first_.Text1.SetText(text);
+    first_.Text2.SetText("0.70000");
+    first_.Text3.SetText("stale");
+    first_.Check1.Click();
+    const std::string metric = first_.Text1.text();
+    const std::string ratio = first_.Text3.text();
+    for (int i = 0; i < 3; ++i) {
+      first_.Check1.Click();
+      EXPECT_EQ(first_.Text1.text(), text);
+      EXPECT_EQ(first_.Text2.text(), "0.70000");
+      EXPECT_EQ(first_.Text3.text(), "stale");
+      EXPECT_EQ(context_->block.Bore, ParseNumber(text, DecimalMark::Point));
+      first_.Check1.Click();
+      EXPECT_EQ(first_.Text1.text(), metric);
+      EXPECT_EQ(first_.Text3.text(), ratio);
+      EXPECT_EQ(context_->block.Bore, ParseNumber(text, DecimalMark::Point) * 25.4);
+    }
+    first_.Check1.Click();
+  }
+}
+
+TEST_F(MetricTest, MillimetresThatWereTypedComeBackFromInches) {
+  shell_.Open(first_);
+  first_.Check1.Click();
+  first_.Text1.SetText("120");
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text1.text(), "4.724409");
+  EXPECT_DOUBLE_EQ(context_->block.Bore, 120 / 25.4);
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text1.text(), "120");
+  EXPECT_EQ(context_->block.Bore, 120);
+  context_->HandOver(nullptr);
+  EXPECT_DOUBLE_EQ(context_->block.Bore, 120 / 25.4);
+}
+
+TEST_F(MetricTest, WhatWasChangedSinceTheSwitchIsConvertedFromItsText) {
+  shell_.Open(first_);
+  first_.Text1.SetText("4.00");
+  first_.Text2.SetText("2.00");
+  first_.Check1.Click();
+  first_.Text2.SetText("25.4");
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text1.text(), "4.00");
+  EXPECT_EQ(first_.Text2.text(), "1.0");
+  EXPECT_EQ(first_.Text3.text(), "4.0");  // worked out anew
+}
+
+TEST_F(MetricTest, AValueKeptInUsUnitsIsMetricInItsFieldAlone) {
+  shell_.Open(first_);
+  first_.Text4.SetText("212");
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text4.text(), "100.0");
+  EXPECT_EQ(context_->block.Temperature, 59);
+  first_.Perform([this] { first_.UseTemperature(); });
+  EXPECT_DOUBLE_EQ(context_->block.Temperature, 212);
+  first_.Perform([this] { first_.StoreTemperature(32); });
+  EXPECT_EQ(first_.Text4.text(), "0.0");
+  EXPECT_EQ(context_->block.Temperature, 32);
+  context_->HandOver(nullptr);
+  EXPECT_EQ(context_->block.Temperature, 32);
+}
+
+/// A screen that knows no inches.
+class MillimetreScreen : public Screen {
+ public:
+  explicit MillimetreScreen(ProgramContext& context) : Screen(context, "Mm", "Mm", "Mm") {
+    SetAlwaysMetric();
+  }
+  void Double() {
+    ReadFields({&Text1});
+    Store(Text1, block().Bore * 2);
+  }
+  Frame Frame1{*this, "Frame1", ""};
+  Field Text1{Frame1, "Text1", "Bore", "39.5",
+              Entry(KeyRule::UnsignedReal, Unit::Length, Holds(&P::Bore))};
+};
+
+TEST_F(MetricTest, AScreenThatIsAlwaysMetricHandsOverInches) {
+  MillimetreScreen screen(*context_);
+  shell_.Open(screen);
+  EXPECT_EQ(screen.Text1.text(), "101.6");
+  screen.Text1.SetText("39.5");
+  EXPECT_TRUE(screen.Perform([&] { screen.Double(); }));
+  EXPECT_EQ(screen.Text1.text(), "79.0");
+  EXPECT_EQ(context_->block.Bore, 79);
+  shell_.Open(second_);
+  EXPECT_DOUBLE_EQ(context_->block.Bore, 79 / 25.4);
+  EXPECT_EQ(second_.Text1.text(), "3.110236");
 }
 
 TEST_F(MetricTest, WhatNoCommandHasReadReachesNoOtherScreen) {

@@ -54,8 +54,11 @@ class OwnerScreen : public Screen {
  public:
   explicit OwnerScreen(ProgramContext& program) : Screen(program, "Owners", "Owners", "") {}
 
-  Field& AddField(const std::string& owner, const std::string& text) {
-    return Add<Field>(owner, owner, "", text, KeyRule::AnyText);
+  /// @param member  the shared value that the field shows
+  template <class Member = double ParameterBlock::*>
+  Field& AddField(const std::string& owner, const std::string& text, Member member = nullptr) {
+    return Add<Field>(owner, owner, "", text,
+                      Entry(KeyRule::AnyText, member == nullptr ? Holds() : Holds(member)));
   }
   CheckBox& AddBox(const std::string& owner) { return Add<CheckBox>(owner, owner, ""); }
   OptionGroup& AddGroup(const std::string& owner, int chosen) {
@@ -64,6 +67,7 @@ class OwnerScreen : public Screen {
     return Add<OptionGroup>(owner, owner, "", choices, chosen);
   }
 
+  std::vector<Screen*> Itself() { return {this}; }
   ParameterFile::ControlFinder Finder() {
     return [this](std::string_view name) -> Control* {
       const auto found = owners_.find(std::string(name));
@@ -920,7 +924,7 @@ TEST(ParameterFileOwners, ZeroFallsBackOnTheFieldsText) {
   Program program;
   OwnerScreen screen(program.context);
   Field& height = screen.AddField("Form1.Text8", "9.025");
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(Value(program.Bytes(), "Block Deck Height"), "9.025");
   program.block.BlockDeckHeight = 9.8;
   EXPECT_EQ(Value(program.Bytes(), "Block Deck Height"), "9.8");
@@ -935,7 +939,7 @@ TEST(ParameterFileOwners, NumbersWithoutFallbackDoNotLookAtTheirField) {
   Program program;
   OwnerScreen screen(program.context);
   screen.AddField("Form1.Text1", "7.5");
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   program.block.Bore = 0;
   EXPECT_EQ(Value(program.Bytes(), "Bore"), "0.0");
 }
@@ -944,7 +948,7 @@ TEST(ParameterFileOwners, IntegersFallBackOnlyOnWhatTheirMemberCanHold) {
   Program program;
   OwnerScreen screen(program.context);
   Field& shared = screen.AddField("Form17", "42");
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(Value(program.Bytes(), "Number Nitrous Jets"), "42");
   EXPECT_EQ(Value(program.Bytes(), "Fuel Pressure"), "42");
   shared.SetText("99999");
@@ -956,7 +960,7 @@ TEST(ParameterFileOwners, FieldTextIsWrittenFromItsFieldAndNeverFromTheBlock) {
   Program program;
   OwnerScreen screen(program.context);
   Field& ratio = screen.AddField("Form1CR.Text29", "11.50");
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   program.block.NewCompressionRatio = 12.5;
   EXPECT_EQ(Value(program.Bytes(), "New Compression Ratio"), "11.50");
   ratio.SetText("");
@@ -974,11 +978,11 @@ TEST(ParameterFileOwners, FieldTextWithoutItsScreenIsNotLost) {
 TEST(ParameterFileOwners, ReadingPutsFallbackValuesIntoTheirFields) {
   Program program;
   OwnerScreen screen(program.context);
-  Field& bore = screen.AddField("Form1.Text1", "4.0");
-  Field& height = screen.AddField("Form1.Text8", "9.0");
-  Field& ratio = screen.AddField("Form1CR.Text29", "0");
-  Field& teeth = screen.AddField("Form5", "0");
-  program.file.BindOwners(screen.Finder());
+  Field& bore = screen.AddField("Form1.Text1", "4.0", &ParameterBlock::Bore);
+  Field& height = screen.AddField("Form1.Text8", "9.0", &ParameterBlock::BlockDeckHeight);
+  Field& ratio = screen.AddField("Form1CR.Text29", "0", &ParameterBlock::NewCompressionRatio);
+  Field& teeth = screen.AddField("Form5", "0", &ParameterBlock::TypeCurve);
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   program.Read(
       "Bore = 4.125\r\nBlock Deck Height = 9.0256789\r\nNew Compression Ratio = 1234.56789\r\n"
       "Type Curve = 38\r\n");
@@ -995,7 +999,7 @@ TEST(ParameterFileOwners, LiteralTextGoesToItsFieldAsItStands) {
   Program program;
   OwnerScreen screen(program.context);
   Field& smooth = screen.AddField("Form13", "N");
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(Value(program.Bytes(), "Smooth HP Graph"), "N");
   program.Read("Smooth HP Graph = Y\r\n");
   EXPECT_EQ(smooth.text(), "Y");
@@ -1010,7 +1014,7 @@ TEST(ParameterFileOwners, BoxesAndOptionGroupsAreTiedToTheirSwitches) {
   OwnerScreen screen(program.context);
   CheckBox& decimals = screen.AddBox("Form1.Check3");
   OptionGroup& unit = screen.AddGroup("Form1.Option1", 1);
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(program.block.CubicinOption, 1);
   decimals.SetOn(true);
   EXPECT_EQ(program.block.Show3Decimals, 1);
@@ -1029,7 +1033,7 @@ TEST(ParameterFileOwners, AnOptionThatDoesNotExistIsAReadingError) {
   Program program;
   OwnerScreen screen(program.context);
   OptionGroup& unit = screen.AddGroup("Form1.Option1", 1);
-  program.file.BindOwners(screen.Finder());
+  program.file.BindOwners(screen.Finder(), screen.Itself());
   program.host.Answer(Button::OK);
   program.Read("Cubicin Option = 3\r\n");
   EXPECT_EQ(unit.chosen(), 1);
@@ -1041,10 +1045,10 @@ TEST(ParameterFileOwners, FallbackTextsAreStableAfterTheFirstWriteAndRead) {
     Program program;
     if (comma) program.UseComma();
     OwnerScreen screen(program.context);
-    screen.AddField("Form1.Text8", comma ? "9,0250" : "9.0250");
-    screen.AddField("Form1.Text12", "");
-    screen.AddField("Form1CR.Text29", "1234567.25");
-    program.file.BindOwners(screen.Finder());
+    screen.AddField("Form1.Text8", comma ? "9,0250" : "9.0250", &ParameterBlock::BlockDeckHeight);
+    screen.AddField("Form1.Text12", "", &ParameterBlock::RodStrokeRatio);
+    screen.AddField("Form1CR.Text29", "1234567.25", &ParameterBlock::NewCompressionRatio);
+    program.file.BindOwners(screen.Finder(), screen.Itself());
     program.Read(program.Bytes());
     const std::string second = program.Bytes();
     program.Read(second);

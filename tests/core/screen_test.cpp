@@ -18,9 +18,9 @@ class Bench : public Screen {
   CheckBox* MetricBox() override { return &Check1; }
   Control* HelpPlace() override { return &Label1; }
 
-  void Divide() { Store(block().Bore, Result, Read(A) / Read(B), {&B}); }
-  void Grow() { Store(block().Bore, Result, Read(A) * 1e300); }
-  void Root() { Store(block().Bore, Result, std::sqrt(Read(A))); }
+  void Divide() { Store(Result, Read(A) / Read(B), {&B}); }
+  void Grow() { Store(Result, Read(A) * 1e300); }
+  void Root() { Store(Result, std::sqrt(Read(A))); }
   void Quotient() { Show(Result, Read(A) / 0.0); }
   void Count() { ReadCount(block().NumberofCylinders, A); }
   void Two() {
@@ -35,9 +35,9 @@ class Bench : public Screen {
   }
 
   Frame Frame1{*this, "Frame1", "Frame"};
-  Field A{Frame1, "A", "&Value A", "8.5", KeyRule::SignedReal, Unit::Length};
+  Field A{Frame1, "A", "&Value A", "8.5", Entry(KeyRule::SignedReal, Unit::Length)};
   Field B{Frame1, "B", "Value B", "2", KeyRule::SignedReal};
-  Field Result{Frame1, "Result", "Result", "", KeyRule::OutputOnly};
+  Field Result{Frame1, "Result", "Result", "", Entry(KeyRule::OutputOnly, Holds(&P::Bore))};
   Command DivideCommand{Frame1, "DivideCommand", "Divide", "Divides.", &Bench::Divide};
   Command NotYet{Frame1, "NotYet", "Not yet", "Will do something."};
   CheckBox Check1{Frame1, "Check1", "Metric", "Metric help", &Bench::Toggle};

@@ -66,6 +66,23 @@ TEST_F(Screens, OwnTheControlsThatTheKeyTableNames) {
   }
 }
 
+TEST_F(Screens, DeclareTheValuesThatTheKeyTableSaysTheyOwn) {
+  ParameterBlock& block = program_.context().block;
+  int owned = 0;
+  for (const KeyRow& row : KeyTable()) {
+    const Control* control = program_.shell().FindControl(row.owner);
+    if (control == nullptr || control->screen().name() == "Main") continue;
+    if (control->kind() != ControlKind::Field && control->kind() != ControlKind::ComboList) {
+      continue;
+    }
+    const void* place = Screen::SharedPlace(*control);
+    ASSERT_NE(place, nullptr) << row.owner << " does not say that it holds " << row.key;
+    EXPECT_EQ(FindKeyOfSlot(block, place), &row) << row.owner << " holds another value";
+    ++owned;
+  }
+  EXPECT_GT(owned, 40);
+}
+
 TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
   for (const Screen* screen : program_.shell().screens()) {
     for (const Control* control : screen->controls()) {

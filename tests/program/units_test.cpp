@@ -84,7 +84,42 @@ TEST_F(UnitsTest, AMetricScreenReopensWithWhatItShowed) {
   EXPECT_EQ(Text("Form1CR.Text10"), "0.4064");
   EXPECT_EQ(Text("Form1CR.Text27"), "372.8505");
   Tick("Form1CR.Check1");
-  EXPECT_EQ(Text("Form1CR.Text10"), "0.016");
+  EXPECT_EQ(Text("Form1CR.Text10"), ".016");
+}
+
+TEST_F(UnitsTest, AFileShowsAtOnceOnEveryOpenScreenInItsUnits) {
+  Menu("CubicInch");
+  Menu("CompRatio");
+  Tick("Form1CR.Check1");
+  ReadFile(
+      "Bore = 4.5\nNumber of Cylinders = 6\nDeck Clearance = 0.02\nHorse Power Increase = 7\n");
+  EXPECT_EQ(Text("Form1.Text1"), "4.5");
+  EXPECT_EQ(Text("Form1.Text2"), "6");
+  EXPECT_EQ(Text("Form1.Text10"), "0.02");
+  EXPECT_EQ(Text("Form1.Text28"), "7.0");
+  EXPECT_EQ(Text("Form1CR.Text1"), "114.3");
+  EXPECT_EQ(Text("Form1CR.Text10"), "0.508");
+  EXPECT_EQ(Text("Form12.Text1"), "4.000");  // closed: its opener shows it
+  Click("Form1.Command1");
+  EXPECT_EQ(block().Bore, 4.5);
+  EXPECT_EQ(block().NumberofCylinders, 6);
+  Click("Form1CR.Command12");
+  EXPECT_NEAR(block().Bore, 4.5 * 25.4, 1e-12);
+}
+
+TEST_F(UnitsTest, AfterClearAFileShowsNothingAndLosesNothing) {
+  Menu("CubicInch");
+  host_.Answer(Button::OK);
+  host_.Answer(Button::OK);
+  Menu("Clear");
+  ReadFile("Bore = 4.5\nBlock Deck Height = 9.1\nNew Compression Ratio = 12.5\n");
+  EXPECT_EQ(Text("Form1.Text1"), "");
+  EXPECT_EQ(Text("Form1.Text8"), "");
+  EXPECT_EQ(Text("Form1CR.Text29"), "");
+  const std::string written = WriteFile();
+  EXPECT_EQ(Line(written, "Bore"), "Bore = 4.5");
+  EXPECT_EQ(Line(written, "Block Deck Height"), "Block Deck Height = 9.1");
+  EXPECT_EQ(Line(written, "New Compression Ratio"), "New Compression Ratio = 12.5");
 }
 
 TEST_F(UnitsTest, WeatherIsConvertedOnce) {
@@ -296,6 +331,9 @@ TEST_F(UnitsTest, FieldsThatNoOpenerFillsKeepTheirTextsAndShowAFileAtOnce) {
   EXPECT_EQ(Text("Form12.Text10"), "30");
   EXPECT_EQ(Find<ComboList>("Form12.Combo1").chosenText(), "1.48");
   ReadFile("Crank Angle CG = 25\nBase Exponent = 1.35\n");
+  EXPECT_EQ(Text("Form12.Text10"), "25.0");
+  EXPECT_EQ(Find<ComboList>("Form12.Combo1").chosenText(), "1.35");
+  ReadFile("Crank Angle CG = 0\nBase Exponent = 0.0\n");
   EXPECT_EQ(Text("Form12.Text10"), "25.0");
   EXPECT_EQ(Find<ComboList>("Form12.Combo1").chosenText(), "1.35");
 }
