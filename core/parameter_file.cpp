@@ -799,6 +799,7 @@ void ParameterFile::BindOwners(const ControlFinder& find) {
   for (const KeyRow& row : KeyTable()) {
     Control* const owner = find(row.owner);
     owners_.push_back(owner);
+    if (owner != nullptr) owner->SetInFile();
     std::int16_t* const slot = SwitchOf(row, context_.block);
     if (slot == nullptr) continue;
     if (CheckBox* box = AsCheckBox(owner)) box->Bind(*slot);

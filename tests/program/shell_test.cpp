@@ -36,9 +36,9 @@ TEST_F(ShellTest, StartsSilentlyWithItsDefaults) {
   EXPECT_EQ(block().DataChanged, 0);
   EXPECT_EQ(block().CustomGridLineCountx, 10);
   EXPECT_EQ(block().CustomGridLineCounty, 10);
-  EXPECT_EQ(shell().Combo3.rows(),
+  EXPECT_EQ(shell().appearance.Combo3.rows(),
             (std::vector<std::string>{"0 - Left", "1 - Right", "2 - Center (Default)"}));
-  EXPECT_EQ(shell().Combo6.rows().size(), 16U);
+  EXPECT_EQ(shell().appearance.Combo6.rows().size(), 16U);
   EXPECT_TRUE(shell().visible());
   EXPECT_EQ(form1().Text1.text(), "4.000");
 }
@@ -221,13 +221,13 @@ TEST_F(ShellTest, ReadClearsTheChangeAlsoWhenItsDialogIsCancelled) {
 
 TEST_F(ShellTest, TypingInAnOptionFieldIsNoChangeOfTheData) {
   program_.Start();
-  shell().MoveFocus(&shell().Text13);
+  shell().MoveFocus(&shell().delimitedColumns.Text13);
   EXPECT_EQ(block().OptionFieldActive, 1);
-  shell().Text13.FilterKey(U'2');
+  shell().delimitedColumns.Text13.FilterKey(U'2');
   EXPECT_EQ(block().DataChanged, 0);
   shell().MoveFocus(nullptr);
   EXPECT_EQ(block().OptionFieldActive, 0);
-  shell().MoveFocus(&shell().Text13);
+  shell().MoveFocus(&shell().delimitedColumns.Text13);
   shell().Minimised();
   EXPECT_EQ(block().OptionFieldActive, 0);
 }
