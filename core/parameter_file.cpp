@@ -824,22 +824,14 @@ int ParameterFile::Write(const std::filesystem::path& path) const {
 
 int ParameterFile::ReadParameterFile(const std::filesystem::path& path) {
   std::string text;
-  std::optional<std::string> failure;
   {
     const BusyCursor busy(context_.host);
     try {
       text = DecodeText(LoadFile(path));
     } catch (const CommandError& error) {
-      failure = error.message();
+      throw CommandError(ErrorKind::File, std::string(kReadingError) + std::string(kLineEnd) +
+                                              Clipped(error.message(), kShownCharacters));
     }
-  }
-  if (failure) {
-    context_.host.Ask(
-        {Icon::Warning,
-         context_.rules.messages().MessageTitle,
-         std::string(kReadingError) + std::string(kLineEnd) + Clipped(*failure, kShownCharacters),
-         {Button::OK}});
-    return 0;
   }
   return ReadText(text, PathText(path));
 }

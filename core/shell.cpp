@@ -194,6 +194,8 @@ void Shell::ShowFile(const std::filesystem::path& path, int records, const char*
 
 int Shell::TakeFile(const std::filesystem::path& file) {
   const int records = parameterFile_.ReadParameterFile(file);
+  // Only now that new data are there is nothing left to be saved.
+  block().DataChanged = 0;
   TellMenuChanged();
   graphOptions.TellChanged();
   notes.ShowNotes();
@@ -204,16 +206,8 @@ void Shell::Read() {
   if (block().DataChanged == 1) {
     const Button answer = Question("Do you want to Save Your Data before Reading in New Data?",
                                    {Button::Yes, Button::No});
-    block().DataChanged = 0;
-    if (answer == Button::Yes) {
-      try {
-        Write();
-      } catch (const CommandError& error) {
-        // What could not be saved is still to be saved.
-        if (error.kind() != ErrorKind::Cancelled) block().DataChanged = 1;
-        throw;
-      }
-    }
+    // A save that is cancelled or fails ends the command with nothing read.
+    if (answer == Button::Yes) Write();
   }
   const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Open);
   context().HandOver(nullptr);
@@ -230,6 +224,7 @@ void Shell::Write() {
     const BusyCursor busy(context().host);
     records = parameterFile_.Write(path);
   }
+  block().DataChanged = 0;
   ShowFile(path, records, " Records Written");
 }
 

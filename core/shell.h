@@ -115,6 +115,7 @@ class Shell : public Screen {
   void InitParameterBlock();
   void ReadStartUpFile();
   /// Reads a parameter file and shows what it has changed here. @return the records read
+  /// @throws CommandError (File) when it cannot be opened; then nothing has changed
   int TakeFile(const std::filesystem::path& file);
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
