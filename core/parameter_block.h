@@ -563,7 +563,7 @@ struct ParameterBlock {
   std::int16_t DecimalCommaMode{0};
   std::int16_t MetricSwitch{0};       ///< 1 while a screen's "Metric" box is ticked
   double MetricFactor{1};             ///< factor of the last toggle: 25.4 or 1 / 25.4
-  std::int16_t DataChanged{0};        ///< 1 when keys were typed since the last Read
+  std::int16_t DataChanged{0};        ///< 1 when something was changed since the last Read or Write
   std::int16_t OptionFieldActive{0};  ///< 1 while an option field of the main window has the focus
   std::int16_t FieldMouseDown{0};     ///< 1 between mouse press and release on a field
   std::int16_t FormsCleared{0};       ///< 1 from Clear on: openers no longer copy values

@@ -835,6 +835,7 @@ void ParameterFile::BindOwners(const ControlFinder& find, std::span<Screen* cons
   for (const KeyRow& row : KeyTable()) {
     Control* const owner = find(row.owner);
     owners_.push_back(owner);
+    if (owner != nullptr) owner->SetInFile();
     std::int16_t* const slot = SwitchOf(row, context_.block);
     if (slot == nullptr) continue;
     if (CheckBox* box = AsCheckBox(owner)) box->Bind(*slot);
@@ -869,22 +870,14 @@ int ParameterFile::Write(const std::filesystem::path& path) const {
 
 int ParameterFile::ReadParameterFile(const std::filesystem::path& path) {
   std::string text;
-  std::optional<std::string> failure;
   {
     const BusyCursor busy(context_.host);
     try {
       text = DecodeText(LoadFile(path));
     } catch (const CommandError& error) {
-      failure = error.message();
+      throw CommandError(ErrorKind::File, std::string(kReadingError) + std::string(kLineEnd) +
+                                              Clipped(error.message(), kShownCharacters));
     }
-  }
-  if (failure) {
-    context_.host.Ask(
-        {Icon::Warning,
-         context_.rules.messages().MessageTitle,
-         std::string(kReadingError) + std::string(kLineEnd) + Clipped(*failure, kShownCharacters),
-         {Button::OK}});
-    return 0;
   }
   return ReadText(text, PathText(path));
 }

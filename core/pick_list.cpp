@@ -85,9 +85,10 @@ std::vector<std::string> PickedFigures(std::string_view row, std::size_t most) {
   return figures;
 }
 
-PickList::PickList(Frame& frame, std::string name, std::string caption, std::string help)
-    : ComboList(frame, ControlKind::PickList, std::move(name), std::move(caption),
-                std::move(help)) {}
+PickList::PickList(Frame& frame, std::string name, std::string caption, std::string help,
+                   Handler handler)
+    : ComboList(frame, ControlKind::PickList, std::move(name), std::move(caption), std::move(help)),
+      handler_(std::move(handler)) {}
 
 void PickList::Offer(std::vector<PickRow> rows, PickPlace place) {
   all_ = std::move(rows);
@@ -237,7 +238,7 @@ void PickList::Choose(int row) {
   current_ = row;
   SetChosen(row);
   Changed();
-  if (handler_ != nullptr) screen().Run(handler_);
+  if (handler_ != nullptr) screen().Perform(handler_);
 }
 
 void PickList::HoverRow(int row) {

@@ -53,9 +53,8 @@ class PickList : public ComboList {
   template <class S>
   PickList(Frame& frame, std::string name, std::string caption, std::string help,
            void (S::*handler)())
-      : PickList(frame, std::move(name), std::move(caption), std::move(help)) {
-    handler_ = static_cast<ScreenHandler>(handler);
-  }
+      : PickList(frame, std::move(name), std::move(caption), std::move(help),
+                 HandlerOf(frame, handler)) {}
 
   /// Heads of the columns in which windows show the rows: one of the names, then one for each
   /// figure.
@@ -105,13 +104,13 @@ class PickList : public ComboList {
   void HoverRow(int row);
 
  private:
-  PickList(Frame& frame, std::string name, std::string caption, std::string help);
+  PickList(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
   void ShowRows();
   void Step(int by);
   void PrepareSearch();
   void FindRows(const std::vector<std::string_view>& words);
 
-  ScreenHandler handler_ = nullptr;
+  Handler handler_;
   std::vector<std::string> heads_;
   std::vector<PickRow> all_;
   std::vector<std::string> searched_;  ///< what the words are looked for in, a text a row

@@ -45,6 +45,10 @@ void Control::Changed() {
   if (face_ != nullptr) face_->ControlChanged(*this);
 }
 
+void Control::NoteChange() const {
+  if (isInFile_ && !isOption_) screen_.context().rules.NoteChange();
+}
+
 void Control::SetCaption(std::string caption) {
   if (caption == caption_) return;
   caption_ = std::move(caption);
@@ -214,14 +218,22 @@ Command::Command(Frame& frame, std::string name, std::string caption, std::strin
   SetEnabled(false);
 }
 
+Command::Command(Frame& frame, std::string name, std::string caption, std::string help,
+                 Handler handler)
+    : Control(frame.screen(), &frame, ControlKind::Command, std::move(name), std::move(caption),
+              std::move(help)),
+      handler_(std::move(handler)) {}
+
 bool Command::Click() {
   if (handler_ == nullptr || !enabled() || !Shown()) return false;
-  return screen().Run(handler_);
+  return screen().Perform(handler_);
 }
 
-CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help)
+CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help,
+                   Handler handler)
     : Control(frame.screen(), &frame, ControlKind::CheckBox, std::move(name), std::move(caption),
-              std::move(help)) {}
+              std::move(help)),
+      handler_(std::move(handler)) {}
 
 void CheckBox::SetOn(bool on) {
   if (slot_ != nullptr) *slot_ = on ? 1 : 0;
@@ -233,9 +245,12 @@ void CheckBox::SetOn(bool on) {
 bool CheckBox::Click() {
   if (!enabled() || !Shown()) return false;
   SetOn(!on_);
-  if (handler_ == nullptr) return true;
-  const bool done = screen().Run(handler_);
-  if (!done) SetOn(!on_);
+  const bool done = handler_ == nullptr || screen().Perform(handler_);
+  if (done) {
+    NoteChange();
+  } else {
+    SetOn(!on_);
+  }
   return done;
 }
 
@@ -256,7 +271,7 @@ bool OptionButton::on() const {
 }
 
 void OptionButton::Click() {
-  if (enabled() && Shown()) group_.Choose(index_);
+  if (enabled() && Shown()) group_.Pick(index_);
 }
 
 OptionGroup::OptionGroup(Frame& frame, std::string name, std::string caption,
@@ -282,6 +297,11 @@ bool OptionGroup::Choose(int index) {
   Changed();
   for (const auto& button : buttons_) button->Changed();
   return true;
+}
+
+void OptionGroup::Pick(int index) {
+  const int before = chosen_;
+  if (Choose(index) && chosen_ != before) NoteChange();
 }
 
 void OptionGroup::Bind(std::int16_t& slot) {
@@ -323,6 +343,12 @@ void ComboList::Choose(int row) {
   if (!HasRow(row) || row == chosen_) return;
   chosen_ = row;
   Changed();
+}
+
+void ComboList::Pick(int row) {
+  const int before = chosen_;
+  Choose(row);
+  if (chosen_ != before) NoteChange();
 }
 
 // ---------------------------------------------------------------- Screen
@@ -505,10 +531,6 @@ bool Screen::Perform(const std::function<void()>& command) {
             std::string("The command could not be finished: ") + error.what()});
   }
   return false;
-}
-
-bool Screen::Run(ScreenHandler handler) {
-  return Perform([this, handler] { (this->*handler)(); });
 }
 
 void Screen::Report(const CommandError& error) {

@@ -114,12 +114,19 @@ class Control {
   void SetFace(ControlFace* face) { face_ = face; }
   /// Takes the keyboard focus.
   void Focus();
+  /// An option of the main form: working it is no change of the data.
+  bool isOption() const { return isOption_; }
+  void SetIsOption() { isOption_ = true; }
+  /// The parameter file holds what the control shows.
+  void SetInFile() { isInFile_ = true; }
 
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
   /// Tells the face.
   void Changed();
+  /// The user has turned or picked something: what the file would hold asks to be saved.
+  void NoteChange() const;
 
  private:
   friend class OptionGroup;
@@ -133,6 +140,8 @@ class Control {
   ControlFace* face_ = nullptr;
   bool visible_ = true;
   bool enabled_ = true;
+  bool isOption_ = false;
+  bool isInFile_ = false;
   Mark mark_ = Mark::None;
 };
 
@@ -205,14 +214,10 @@ class Field : public TextControl {
   const Holds& holds() const { return holds_; }
   /// How "Metric" converts what it shows; null for what is the same in both units.
   const UnitRule* conversion() const;
-  /// Options of the main window: typing in them is no change of the data.
-  bool isOption() const { return isOption_; }
-  void SetIsOption() { isOption_ = true; }
 
  private:
   Unit unit_;
   Holds holds_;
-  bool isOption_ = false;
 };
 
 /// Free text over several lines (notes).
@@ -259,18 +264,23 @@ class Label : public Control {
   Label(Frame& frame, std::string name, std::string caption);
 };
 
-/// A member function of a screen that runs when one of its controls is clicked.
-using ScreenHandler = void (Screen::*)();
+/// What runs when a control is clicked.
+using Handler = std::function<void()>;
+
+/// A member function of the screen that a frame stands on, as a handler.
+template <class S>
+Handler HandlerOf(const Frame& frame, void (S::*member)()) {
+  return [&screen = frame.screen(), member] { (static_cast<S&>(screen).*member)(); };
+}
 
 class Command : public Control {
  public:
+  Command(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
   template <class S>
   Command(Frame& frame, std::string name, std::string caption, std::string help,
           void (S::*handler)())
-      : Command(frame, std::move(name), std::move(caption), std::move(help)) {
-    handler_ = static_cast<ScreenHandler>(handler);
-    SetEnabled(true);
-  }
+      : Command(frame, std::move(name), std::move(caption), std::move(help),
+                HandlerOf(frame, handler)) {}
   /// A command whose work is not built yet: it is there, disabled.
   Command(Frame& frame, std::string name, std::string caption, std::string help);
 
@@ -281,18 +291,18 @@ class Command : public Control {
   bool isBuilt() const { return handler_ != nullptr; }
 
  private:
-  ScreenHandler handler_ = nullptr;
+  Handler handler_;
 };
 
 class CheckBox : public Control {
  public:
+  CheckBox(Frame& frame, std::string name, std::string caption, std::string help = {},
+           Handler handler = {});
   template <class S>
   CheckBox(Frame& frame, std::string name, std::string caption, std::string help,
            void (S::*handler)())
-      : CheckBox(frame, std::move(name), std::move(caption), std::move(help)) {
-    handler_ = static_cast<ScreenHandler>(handler);
-  }
-  CheckBox(Frame& frame, std::string name, std::string caption, std::string help = {});
+      : CheckBox(frame, std::move(name), std::move(caption), std::move(help),
+                 HandlerOf(frame, handler)) {}
 
   bool on() const { return on_; }
   /// Sets the state without running the handler.
@@ -304,7 +314,7 @@ class CheckBox : public Control {
   void Bind(std::int16_t& slot);
 
  private:
-  ScreenHandler handler_ = nullptr;
+  Handler handler_;
   std::int16_t* slot_ = nullptr;
   bool on_ = false;
 };
@@ -340,6 +350,8 @@ class OptionGroup : public Control {
   int chosen() const { return chosen_; }
   /// False when the group has no button of that index; nothing changes then.
   bool Choose(int index);
+  /// The user clicks the button of that index.
+  void Pick(int index);
   const std::vector<std::unique_ptr<OptionButton>>& buttons() const { return buttons_; }
   int buttonsInRow() const { return buttonsInRow_; }
   void Bind(std::int16_t& slot);
@@ -365,8 +377,10 @@ class ComboList : public Control {
   int chosen() const { return chosen_; }
   /// The chosen row, empty for none.
   virtual std::string chosenText() const;
-  /// Chooses a row as a click on it does.
+  /// Chooses a row, with all that a click on it does.
   virtual void Choose(int row);
+  /// The user picks a row.
+  void Pick(int row);
 
  protected:
   ComboList(Frame& frame, ControlKind kind, std::string name, std::string caption,
@@ -465,8 +479,6 @@ class Screen {
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.
   bool Perform(const std::function<void()>& command);
-  /// The same for a handler of one of the screen's controls.
-  bool Run(ScreenHandler handler);
 
   /// Empties every text box (Clear).
   virtual void ClearFields();
@@ -546,6 +558,7 @@ class Screen {
  private:
   friend class Control;
   friend class Frame;
+  friend class ScreenPart;
   friend struct ProgramContext;
 
   /// A value whose unit the "Metric" box changes.

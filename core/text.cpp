@@ -11,4 +11,8 @@ std::string Clipped(std::string_view text, std::size_t most) {
   return std::string(text);
 }
 
+std::string SwitchCaption(std::string_view caption, bool on) {
+  return std::string(caption.substr(0, caption.rfind(' ') + 1)) + (on ? "ON" : "OFF");
+}
+
 }  // namespace veldox

@@ -15,4 +15,7 @@ constexpr bool IsContinuationByte(char byte) {
 /// @param most  characters that are shown
 std::string Clipped(std::string_view text, std::size_t most);
 
+/// The caption of a switch, whose last word tells how it stands: ON or OFF.
+std::string SwitchCaption(std::string_view caption, bool on);
+
 }  // namespace veldox

@@ -25,8 +25,8 @@ Program::Program(Host& host)
   AddScreen<Form21>(displacement);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   about_ = &AddScreen<Form15>();
-  shell_->SetGraphOptionListener([this] { grapher_->OptionsChanged(); });
-  grapher_->SetOptionListener([this] { shell_->ShowGraphOptions(); });
+  shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
+  grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {

@@ -139,7 +139,7 @@ void ModelDriver::Click(Control& control) {
 
 void ModelDriver::Select(ComboList& list, int row) {
   if (!list.enabled() || !list.screen().MoveFocus(&list)) return;
-  list.Choose(row);
+  list.Pick(row);
 }
 
 void ModelDriver::Hover(Screen& screen, Control* control) {

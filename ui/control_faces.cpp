@@ -175,7 +175,7 @@ ComboFace::ComboFace(FaceSet& set, ComboList& list, QWidget* parent)
       label_(MakeLabel(list, parent)),
       combo_(static_cast<QComboBox*>(widget())) {
   label_->setBuddy(combo_);
-  connect(combo_, &QComboBox::activated, this, [this](int row) { list_.Choose(row); });
+  connect(combo_, &QComboBox::activated, this, [this](int row) { list_.Pick(row); });
 }
 
 void ComboFace::Follow() {

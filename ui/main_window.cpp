@@ -98,8 +98,8 @@ void MainWindow::BuildPages() {
   scroll->setWidget(new Launcher(
       shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
   pages_->addWidget(scroll);
-  for (std::vector<Frame*>& frames : shell_.Panels()) {
-    panels_.push_back(std::make_unique<PanelFace>(*this, std::move(frames)));
+  for (const ScreenPart* panel : shell_.Panels()) {
+    panels_.push_back(std::make_unique<PanelFace>(*this, panel->frames()));
   }
 }
 

@@ -18,5 +18,11 @@ TEST(Clipped, CutsBetweenCharacters) {
   EXPECT_EQ(Clipped(text, 1), "\xC3\xA9...");
 }
 
+TEST(SwitchCaption, EndsWithHowTheSwitchStands) {
+  EXPECT_EQ(SwitchCaption("Metric Mode -- Is OFF", true), "Metric Mode -- Is ON");
+  EXPECT_EQ(SwitchCaption("Metric Mode -- Is ON", true), "Metric Mode -- Is ON");
+  EXPECT_EQ(SwitchCaption("Metric Mode -- Is ON", false), "Metric Mode -- Is OFF");
+}
+
 }  // namespace
 }  // namespace veldox

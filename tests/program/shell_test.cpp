@@ -36,9 +36,9 @@ TEST_F(ShellTest, StartsSilentlyWithItsDefaults) {
   EXPECT_EQ(block().DataChanged, 0);
   EXPECT_EQ(block().CustomGridLineCountx, 10);
   EXPECT_EQ(block().CustomGridLineCounty, 10);
-  EXPECT_EQ(shell().Combo3.rows(),
+  EXPECT_EQ(shell().appearance.Combo3.rows(),
             (std::vector<std::string>{"0 - Left", "1 - Right", "2 - Center (Default)"}));
-  EXPECT_EQ(shell().Combo6.rows().size(), 16U);
+  EXPECT_EQ(shell().appearance.Combo6.rows().size(), 16U);
   EXPECT_TRUE(shell().visible());
   EXPECT_EQ(form1().Text1.text(), "4.000");
 }
@@ -199,35 +199,205 @@ TEST_F(ShellTest, AFileThatCannotBeWrittenIsToldAndTheOldOneStays) {
   EXPECT_EQ(shell().Label8.caption(), "");
 }
 
-TEST_F(ShellTest, ChangedDataThatCouldNotBeSavedStayChanged) {
-  program_.Start();
-  std::filesystem::create_directory(folder_ / "taken.prm");
-  block().DataChanged = 1;
-  host_.Answer(Button::Yes);
-  host_.AnswerFile(folder_ / "taken.prm");
-  host_.Answer(Button::OK);
-  Choose("Read");
-  EXPECT_EQ(block().DataChanged, 1);
-}
+/// Unsaved work goes only when it was saved, or when the data that take its place are there.
+class UnsavedWorkTest : public ShellTest {
+ protected:
+  UnsavedWorkTest() {
+    program_.Start();
+    block().DataChanged = 1;
+    WriteFile("engine.prm", "Bore = 4.5\r\nStroke = 3.5\r\n");
+    // A name that can neither be read nor written.
+    std::filesystem::create_directory(folder_ / "folder.prm");
+  }
 
-TEST_F(ShellTest, ReadClearsTheChangeAlsoWhenItsDialogIsCancelled) {
-  program_.Start();
-  block().DataChanged = 1;
+  bool HasChanged() { return block().DataChanged == 1; }
+};
+
+TEST_F(UnsavedWorkTest, IsKeptByReadNoCancel) {
   host_.Answer(Button::No);
   host_.AnswerFile(std::nullopt);
   Choose("Read");
-  EXPECT_EQ(block().DataChanged, 0);
+  EXPECT_EQ(host_.messages.back().text,
+            "Do you want to Save Your Data before Reading in New Data?");
+  EXPECT_EQ(host_.messages.back().buttons, (std::vector<Button>{Button::Yes, Button::No}));
+  EXPECT_TRUE(HasChanged());
+}
+
+TEST_F(UnsavedWorkTest, IsKeptByReadNoAndAFileThatCannotBeOpened) {
+  for (const char* name : {"missing.prm", "folder.prm"}) {
+    host_.Answer(Button::No);
+    host_.AnswerFile(folder_ / name);
+    host_.Answer(Button::OK);
+    Choose("Read");
+    EXPECT_TRUE(HasChanged()) << name;
+  }
+}
+
+TEST_F(UnsavedWorkTest, IsKeptByReadYesAndASaveThatIsCancelledOrFails) {
+  host_.Answer(Button::Yes);
+  host_.AnswerFile(std::nullopt);
+  Choose("Read");
+  EXPECT_TRUE(HasChanged());
+  ASSERT_EQ(host_.fileDialogs.size(), 1U) << "nothing is read";
+
+  host_.Answer(Button::Yes);
+  host_.AnswerFile(folder_ / "folder.prm");
+  host_.Answer(Button::OK);
+  Choose("Read");
+  EXPECT_TRUE(HasChanged());
+  EXPECT_EQ(host_.fileDialogs.size(), 2U) << "nothing is read";
+}
+
+TEST_F(UnsavedWorkTest, IsSettledByTheSaveEvenWhereNothingIsReadThen) {
+  host_.Answer(Button::Yes);
+  host_.AnswerFile(folder_ / "saved.prm");
+  host_.Answer(Button::OK);
+  host_.AnswerFile(std::nullopt);
+  Choose("Read");
+  EXPECT_FALSE(HasChanged());
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "saved.prm"));
+}
+
+TEST_F(UnsavedWorkTest, IsSettledByAWrite) {
+  host_.AnswerFile(folder_ / "folder.prm");
+  host_.Answer(Button::OK);
+  Choose("Write");
+  EXPECT_TRUE(HasChanged()) << "the save failed";
+  host_.AnswerFile(folder_ / "saved.prm");
+  host_.Answer(Button::OK);
+  Choose("Write");
+  EXPECT_FALSE(HasChanged());
+  Choose("Exit");
+  EXPECT_TRUE(shell().ended()) << "nothing was left to ask about";
+}
+
+TEST_F(UnsavedWorkTest, IsSettledOnceTheReadingHasBegun) {
+  // Cancel in the box of a bad record ends the reading; what was read stays.
+  WriteFile("bad.prm", "Bore = 4.5\r\nnonsense\r\nStroke = 3.5\r\n");
+  host_.Answer(Button::No);
+  host_.AnswerFile(folder_ / "bad.prm");
+  host_.Answer(Button::Cancel);
+  host_.Answer(Button::OK);
+  Choose("Read");
+  EXPECT_FALSE(HasChanged());
+  EXPECT_EQ(block().Bore, 4.5);
+  EXPECT_EQ(block().Stroke, 3.25);
+}
+
+TEST_F(UnsavedWorkTest, KeepsTheProgramUpWhereItsSaveIsCancelledOrFails) {
+  for (const bool byWindow : {false, true}) {
+    const auto leave = [&] { byWindow ? shell().CloseWindow() : Choose("Exit"); };
+    host_.Answer(Button::Yes);
+    host_.AnswerFile(std::nullopt);
+    leave();
+    EXPECT_FALSE(shell().ended());
+    host_.Answer(Button::Yes);
+    host_.AnswerFile(folder_ / "folder.prm");
+    host_.Answer(Button::OK);
+    leave();
+    EXPECT_FALSE(shell().ended());
+    EXPECT_NE(host_.messages.back().text.find("folder.prm"), std::string::npos);
+    EXPECT_TRUE(HasChanged());
+    EXPECT_EQ(block().ExitInProgress, 0);
+    EXPECT_EQ(block().ExitFromWindowClose, 0);
+  }
+}
+
+TEST_F(UnsavedWorkTest, IsMadeByABoxAnOptionAndAPickThatTheFileHolds) {
+  auto& gauge = *shell().FindScreen("Form12");
+  auto& exponent = static_cast<ComboList&>(*gauge.Find("Combo1"));
+  const auto changes = [&](const std::function<void()>& touch) {
+    block().DataChanged = 0;
+    touch();
+    return HasChanged();
+  };
+  EXPECT_TRUE(changes([&] { form1().Check3.Click(); }));
+  EXPECT_TRUE(changes([&] { form1().Option1.buttons()[4]->Click(); }));
+  EXPECT_FALSE(changes([&] { form1().Option1.buttons()[4]->Click(); })) << "it stood so";
+  EXPECT_TRUE(changes([&] { exponent.Pick(exponent.chosen() + 1); }));
+  EXPECT_FALSE(changes([&] { exponent.Pick(exponent.chosen()); })) << "it stood so";
+  // The file does not hold these.
+  EXPECT_FALSE(changes([&] { form1().Check2.Click(); }));
+  EXPECT_FALSE(changes([&] { form1().Option2.buttons()[1]->Click(); }));
+  // Nor does it ask about the main form's options, nor about what a file brings.
+  Choose("Graph");
+  EXPECT_FALSE(changes([&] { shell().graphOptions.Check1.Click(); }));
+  EXPECT_FALSE(changes([&] { shell().graphOptions.Option4.buttons()[2]->Click(); }));
+  EXPECT_EQ(block().GridSwitch, 2);
+  WriteFile("boxes.prm", "Show 3 Decimals = No\r\nCubicin Option = 2\r\nBase Exponent = 1.4\r\n");
+  host_.AnswerFile(folder_ / "boxes.prm");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(changes([&] { Choose("Read"); }));
+  EXPECT_EQ(form1().Option1.chosen(), 2);
+}
+
+TEST_F(UnsavedWorkTest, IsNotMadeByTheStartUpFile) {
+  WriteFile("zxqvwu00.prm", "Base Exponent = 1.4\r\nShow 3 Decimals = Yes\r\n");
+  Program fresh(host_);
+  fresh.Start();
+  EXPECT_EQ(fresh.context().block.DataChanged, 0);
+}
+
+TEST_F(ShellTest, AFileThatCannotBeOpenedGetsOneBoxAndNothingElseChanges) {
+  program_.Start();
+  std::filesystem::create_directory(folder_ / "folder.prm");
+  WriteFile("engine.prm", "Bore = 4.5\r\nNotes = block 7\r\n");
+  host_.AnswerFile(folder_ / "engine.prm");
+  host_.Answer(Button::OK);
+  Choose("Read");
+  Choose("CubicInch");
+  for (const char* name : {"missing.prm", "folder.prm"}) {
+    host_.messages.clear();
+    host_.AnswerFile(folder_ / name);
+    host_.Answer(Button::OK);
+    Choose("Read");
+    ASSERT_EQ(host_.messages.size(), 1U) << name;
+    EXPECT_EQ(host_.messages[0].icon, Icon::Warning);
+    EXPECT_NE(host_.messages[0].text.find(name), std::string::npos);
+    EXPECT_EQ(shell().Label8.caption(), "Parameter File -- engine.prm");
+    EXPECT_EQ(std::filesystem::path(block().ParameterFileName).filename(), "engine.prm");
+    EXPECT_EQ(block().Bore, 4.5);
+    EXPECT_EQ(block().Notes, "block 7");
+    EXPECT_EQ(form1().Text1.text(), "4.5");
+  }
+}
+
+TEST_F(ShellTest, AnErrorHalfWayThroughAFileStillTellsTheCount) {
+  program_.Start();
+  WriteFile("half.prm", "Bore = 4.5\r\nStroke = three\r\nRod Length = 6\r\n");
+  host_.AnswerFile(folder_ / "half.prm");
+  host_.Answer(Button::OK);
+  host_.Answer(Button::OK);
+  Choose("Read");
+  ASSERT_EQ(host_.messages.size(), 2U);
+  EXPECT_NE(host_.messages[0].text.find("Record # 2"), std::string::npos);
+  EXPECT_EQ(host_.messages[1].text, "2 Records Read");
+  EXPECT_EQ(shell().Label8.caption(), "Parameter File -- half.prm");
+  EXPECT_EQ(block().Bore, 4.5);
+  EXPECT_EQ(block().RodLength, 5.7);
+}
+
+TEST_F(ShellTest, NotesOfAFileShowOnTheOpenPanel) {
+  program_.Start();
+  WriteFile("notes.prm", "Notes = 5 of 8\r\n");
+  Choose("Notes");
+  host_.AnswerFile(folder_ / "notes.prm");
+  host_.Answer(Button::OK);
+  Choose("Read");
+  EXPECT_EQ(shell().notes.Text22.text(), "5 of 8");
+  shell().notes.Command11.Click();
+  EXPECT_EQ(block().Notes, "5 of 8");
 }
 
 TEST_F(ShellTest, TypingInAnOptionFieldIsNoChangeOfTheData) {
   program_.Start();
-  shell().MoveFocus(&shell().Text13);
+  shell().MoveFocus(&shell().delimitedColumns.Text13);
   EXPECT_EQ(block().OptionFieldActive, 1);
-  shell().Text13.FilterKey(U'2');
+  shell().delimitedColumns.Text13.FilterKey(U'2');
   EXPECT_EQ(block().DataChanged, 0);
   shell().MoveFocus(nullptr);
   EXPECT_EQ(block().OptionFieldActive, 0);
-  shell().MoveFocus(&shell().Text13);
+  shell().MoveFocus(&shell().delimitedColumns.Text13);
   shell().Minimised();
   EXPECT_EQ(block().OptionFieldActive, 0);
 }

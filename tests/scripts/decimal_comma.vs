@@ -31,7 +31,6 @@ pause files have commas and read files with points
 file comma.prm
 menu Write
 file comma.prm
-answer No
 menu Read
 messages
 value Bore
