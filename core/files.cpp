@@ -279,7 +279,7 @@ fs::path KeepPart(const fs::path& temporary, const fs::path& target) {
     return {};
   }
   try {
-    const fs::path part = MakeNew(Access::OwnerOnly, [&](int taken) {
+    fs::path part = MakeNew(Access::OwnerOnly, [&](int taken) {
       fs::path name = target;
       name += taken == 0 ? ".part" : ".part" + std::to_string(taken + 1);
       return name;
