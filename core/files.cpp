@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <fstream>
 #include <iterator>
+#include <random>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -96,8 +98,15 @@ class FileHandle {
 
   std::uintmax_t Size() const { return static_cast<std::uintmax_t>(status_.st_size); }
 
-  void SetPermissions(mode_t mode) {
-    if ((status_.st_mode & 0777U) != mode && ::fchmod(descriptor_, mode) != 0) FailWithErrno();
+  /// Gives the file the owner, the group and the mode of another.
+  void MakeLike(const struct stat& other) {
+    if ((status_.st_uid != other.st_uid || status_.st_gid != other.st_gid) &&
+        ::fchown(descriptor_, other.st_uid, other.st_gid) != 0) {
+      throw SystemFailure("the owner of the old file cannot be kept: " +
+                          std::generic_category().message(errno));
+    }
+    // After the owner, since a change of that takes rights away.
+    if (::fchmod(descriptor_, other.st_mode & 07777U) != 0) FailWithErrno();
   }
 
   /// @return the number of bytes read, 0 at the end of the file
@@ -141,15 +150,26 @@ void RequireWritable(const fs::path& path) {
   if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) FailWithErrno();
 }
 
-/// Writes and flushes a file, with the permissions of the old one where there is one.
-/// @param started  set once the file is open, so that bytes of it may stand on the disk
-void WriteChecked(const fs::path& path, std::string_view bytes, const fs::file_status& old,
-                  bool& started) {
-  const bool replaces = fs::exists(old);
-  const auto mode = static_cast<mode_t>(old.permissions()) & 0777U;
-  FileHandle file(path, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, replaces ? mode : 0666U);
-  started = true;
-  if (replaces) file.SetPermissions(mode);
+/// Who may read a file that is made.
+enum class Access { Usual, OwnerOnly };
+
+/// Makes an empty file. @return false where the name is taken
+bool CreateNew(const fs::path& path, Access access) {
+  const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                                access == Access::Usual ? 0666U : 0600U);
+  if (descriptor < 0 && errno == EEXIST) return false;
+  if (descriptor < 0) FailWithErrno();
+  ::close(descriptor);
+  return true;
+}
+
+/// Writes and flushes an empty file, which gets owner and mode of the target where that is there.
+void WriteChecked(const fs::path& path, std::string_view bytes, const fs::path& target) {
+  struct stat like = {};
+  const bool replaces = ::stat(target.c_str(), &like) == 0;
+  if (!replaces && errno != ENOENT) FailWithErrno();
+  FileHandle file(path, O_WRONLY | O_NOFOLLOW);
+  if (replaces) file.MakeLike(like);
   file.WriteAll(bytes);
   file.Flush();
   file.Close();
@@ -191,20 +211,28 @@ void RequireWritable(const fs::path&) {}
 
 void FlushFolder(const fs::path&) {}
 
-void WriteChecked(const fs::path& path, std::string_view bytes, const fs::file_status& old,
-                  bool& started) {
+enum class Access { Usual, OwnerOnly };
+
+bool CreateNew(const fs::path& path, Access /*access*/) {
+  std::error_code error;
+  if (fs::exists(path, error)) return false;
+  errno = 0;
+  if (!std::ofstream(path, std::ios::binary)) FailWithErrno(errno != 0 ? errno : EIO);
+  return true;
+}
+
+void WriteChecked(const fs::path& path, std::string_view bytes, const fs::path& target) {
   errno = 0;
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  started = file.is_open();
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.flush();
   file.close();
   if (!file) FailWithErrno(errno != 0 ? errno : EIO);
-  if (fs::exists(old)) {
-    std::error_code error;
-    fs::permissions(path, old.permissions(), error);
-    if (error) throw SystemFailure(error);
-  }
+  std::error_code error;
+  const fs::file_status old = fs::status(target, error);
+  if (!fs::exists(old)) return;
+  fs::permissions(path, old.permissions(), error);
+  if (error) throw SystemFailure(error);
 }
 
 std::string ReadChecked(const fs::path& path) {
@@ -220,6 +248,50 @@ std::string ReadChecked(const fs::path& path) {
 }
 
 #endif
+
+/// Makes a file under the first of some names that nothing has yet. @return its name
+template <class NameOf>
+fs::path MakeNew(Access access, NameOf nameOf) {
+  constexpr int kMostNames = 1000;
+  for (int attempt = 0; attempt < kMostNames; ++attempt) {
+    fs::path path = nameOf(attempt);
+    if (CreateNew(path, access)) return path;
+  }
+  throw SystemFailure(std::make_error_code(std::errc::file_exists));
+}
+
+/// A name that no other program thinks of, and short whatever the target is called.
+std::string TemporaryName() {
+  constexpr int kLetters = 12;
+  std::random_device random;
+  std::uniform_int_distribution<int> letter('a', 'z');
+  std::string name = "veldox-";
+  for (int i = 0; i < kLetters; ++i) name += static_cast<char>(letter(random));
+  return name + ".tmp";
+}
+
+/// Puts what a failure left of a file beside the target, under a name that nothing has yet.
+/// @return that name; an empty one where there was nothing to keep
+fs::path KeepPart(const fs::path& temporary, const fs::path& target) {
+  std::error_code error;
+  if (fs::file_size(temporary, error) == 0 || error) {
+    fs::remove(temporary, error);
+    return {};
+  }
+  try {
+    fs::path part = MakeNew(Access::OwnerOnly, [&](int taken) {
+      fs::path name = target;
+      name += taken == 0 ? ".part" : ".part" + std::to_string(taken + 1);
+      return name;
+    });
+    fs::rename(temporary, part, error);
+    if (!error) return part;
+    fs::remove(part, error);
+  } catch (const SystemFailure&) {
+    // It stays where it is, and the message tells where.
+  }
+  return temporary;
+}
 
 /// The number of bytes of the UTF-8 character that a text begins with; 0 where it begins with
 /// none: a stray or missing continuation byte, an overlong form, a surrogate, a code too high.
@@ -258,7 +330,12 @@ void AppendCharacter(std::string& text, unsigned code) {
     text += static_cast<char>(0xC0U | (code >> 6));
     text += static_cast<char>(0x80U | (code & 0x3FU));
   } else {
-    text += static_cast<char>(0xE0U | (code >> 12));
+    if (code < 0x10000) {
+      text += static_cast<char>(0xE0U | (code >> 12));
+    } else {
+      text += static_cast<char>(0xF0U | (code >> 18));
+      text += static_cast<char>(0x80U | ((code >> 12) & 0x3FU));
+    }
     text += static_cast<char>(0x80U | ((code >> 6) & 0x3FU));
     text += static_cast<char>(0x80U | (code & 0x3FU));
   }
@@ -281,11 +358,35 @@ std::string FromWindows1252(std::string_view bytes) {
   return text;
 }
 
+/// Text of UTF-16. A half pair, and a byte that is left over, becomes the sign for that.
+std::string FromUtf16(std::string_view bytes, bool highFirst) {
+  constexpr unsigned kReplacement = 0xFFFD;
+  const auto byte = [&](std::size_t i) { return unsigned{static_cast<unsigned char>(bytes[i])}; };
+  const auto unit = [&](std::size_t i) {
+    return highFirst ? byte(i) << 8 | byte(i + 1) : byte(i + 1) << 8 | byte(i);
+  };
+  const auto isHalf = [](unsigned code, unsigned first) { return (code & 0xFC00U) == first; };
+  std::string text;
+  text.reserve(bytes.size() / 2 + bytes.size() / 8);
+  std::size_t i = 0;
+  for (; i + 1 < bytes.size(); i += 2) {
+    unsigned code = unit(i);
+    if (isHalf(code, 0xD800) && i + 3 < bytes.size() && isHalf(unit(i + 2), 0xDC00)) {
+      code = 0x10000 + ((code & 0x3FFU) << 10 | (unit(i + 2) & 0x3FFU));
+      i += 2;
+    } else if (isHalf(code, 0xD800) || isHalf(code, 0xDC00)) {
+      code = kReplacement;
+    }
+    AppendCharacter(text, code);
+  }
+  if (i < bytes.size()) AppendCharacter(text, kReplacement);
+  return text;
+}
+
 }  // namespace
 
 void SaveFile(const fs::path& path, std::string_view bytes) {
   fs::path part;
-  bool started = false;
   try {
     RequireName(path);
     if (!path.has_filename()) throw SystemFailure("it is a folder");
@@ -295,17 +396,23 @@ void SaveFile(const fs::path& path, std::string_view bytes) {
       RequirePlain(old);
       RequireWritable(target);
     }
-    part = target;
-    part += ".part";
-    WriteChecked(part, bytes, old, started);
-    std::error_code error;
-    fs::rename(part, target, error);
-    if (error) throw SystemFailure(error);
+    // What replaces a file that few may read is at no time there for more.
+    const fs::path temporary = MakeNew(fs::exists(old) ? Access::OwnerOnly : Access::Usual,
+                                       [&](int) { return target.parent_path() / TemporaryName(); });
+    try {
+      WriteChecked(temporary, bytes, target);
+      std::error_code error;
+      fs::rename(temporary, target, error);
+      if (error) throw SystemFailure(error);
+    } catch (const SystemFailure&) {
+      part = KeepPart(temporary, target);
+      throw;
+    }
     FlushFolder(target.parent_path());
   } catch (const SystemFailure& failure) {
     std::string message =
         "The file \"" + PathText(path) + "\" could not be written: " + failure.reason() + ".";
-    if (started) {
+    if (!part.empty()) {
       message += " What was written of it stands in \"" + PathText(part) + "\".";
     }
     throw CommandError(ErrorKind::File, std::move(message));
@@ -327,6 +434,12 @@ std::string LoadFile(const fs::path& path) {
 
 std::string DecodeText(std::string bytes) {
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  constexpr std::string_view kLowFirst = "\xFF\xFE";
+  constexpr std::string_view kHighFirst = "\xFE\xFF";
+  if (bytes.starts_with(kLowFirst) || bytes.starts_with(kHighFirst)) {
+    return FromUtf16(std::string_view(bytes).substr(kLowFirst.size()),
+                     bytes.starts_with(kHighFirst));
+  }
   if (bytes.starts_with(kByteOrderMark)) bytes.erase(0, kByteOrderMark.size());
   return IsUtf8(bytes) ? std::move(bytes) : FromWindows1252(bytes);
 }

@@ -21,6 +21,10 @@ constexpr int kSignificantDigits = 15;
 /// Digits that name every double exactly: none has more than 767 significant ones.
 constexpr int kExactDigits = 767;
 
+/// From here up to the largest double, rounding the digits up would give a number that is none:
+/// they are cut, so that every text can be read back.
+constexpr double kLargestRoundable = 1.797693134862315e308;
+
 /// Room for a sign, the digits, a point and an exponent such as "e-308".
 template <int DigitCount>
 using ScientificBuffer = std::array<char, static_cast<std::size_t>(DigitCount) + 8>;
@@ -154,6 +158,7 @@ Decimal SignificantDigits(double magnitude) {
   int power = 0;
   for (const char* c = exponent + 1; c != end; ++c) power = power * 10 + (*c - '0');
   result.exponent = (*exponent == '-' ? -power : power) + 1;
+  if (magnitude >= kLargestRoundable) result.count = kSignificantDigits;
   result.Round(kSignificantDigits);
   return result;
 }

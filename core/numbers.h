@@ -60,8 +60,9 @@ struct PatternText {
 };
 
 /// Formats by a pattern that was taken apart. The digits that are rounded are
-/// the value's 15 significant decimal digits, half away from zero. A value that
-/// rounds to zero has no minus sign.
+/// the value's 15 significant decimal digits, half away from zero (cut where they would exceed
+/// the largest double, so that every text can be read back). A value that rounds to zero has no
+/// minus sign.
 /// @throws CommandError (Overflow) for an infinity, (InvalidArgument) for no number
 std::string FormatByPattern(double value, const NumberPattern& pattern, DecimalMark mark);
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "engine/displacement.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -164,7 +165,10 @@ Value ValueOverBarometer(const CrankingGraphInput& in) {
 
 void AddPoints(GraphCurve& curve, double low, double high, double step, const Value& value) {
   const double count = std::round((high - low) / step);
+  constexpr int kMostPoints = 10000;
+  StepBound bound(kMostPoints);
   for (double i = 0; i <= count; ++i) {
+    bound.Step();
     const double x = i == count ? high : low + i * step;
     if (const auto y = value(x)) curve.points.push_back({x, *y});
   }

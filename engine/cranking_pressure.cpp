@@ -7,6 +7,7 @@
 #include "core/numbers.h"
 #include "core/units.h"
 #include "engine/displacement.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -112,11 +113,13 @@ double IntakeCloseForDynamicRatio(const CylinderSize& size, double compressionRa
   const double bottom = ArcSin(-size.offset / (size.rodLength - slider.radius)) * 180 / kPi + 180;
   double angle = 360;
   double step = 100;
+  StepBound bound(kMostDigitSteps);
   for (int digit = 0; digit < kDigits; ++digit) {
     step /= 10;
     double travel = 0;
     // A wide step may pass over the bottom, beyond which the piston rises again.
     while (travel <= target && angle >= bottom) {
+      bound.Step();
       angle -= step;
       travel = PistonTravelAt(slider, angle);
     }
@@ -140,6 +143,10 @@ double TravelForCrankingPressure(const CylinderSize& size, double compressionRat
     return CrankingPressure((clearance + closed) / clearance, base, rule);
   };
   constexpr double kLongestTravel = 1000;
+  constexpr double kFinestTravel = 0.00001;
+  if (size.stroke < kFinestTravel) {
+    Fail("The Stroke must not be below 0.00001, as fine as the closing angle is searched for.");
+  }
   if (!(reading <= pressureAt(std::fmin(size.stroke, kLongestTravel)))) {
     Fail("No closing angle of the intake valve gives a Compression Gauge reading this high.");
   }
@@ -147,10 +154,13 @@ double TravelForCrankingPressure(const CylinderSize& size, double compressionRat
   constexpr double kBeyondAll = 10000000;
   double step = 10 * kLongestTravel;
   double travel = kLongestTravel;
+  StepBound bound(kMostDigitSteps);
   for (int digit = 0; digit < kDigits; ++digit) {
     step /= 10;
     double pressure = kBeyondAll;
-    while (pressure >= reading) {
+    // At the top there is no compression left that the reading, above the base, could show.
+    while (pressure >= reading && travel > 0) {
+      bound.Step();
       travel -= step;
       pressure = pressureAt(travel);
     }
@@ -166,13 +176,16 @@ double EstimatedOctane(double gauge, double inletAir, double water) {
 
 std::vector<ExpansionPoint> PressureCurve(const Expansion& expansion) {
   constexpr int kStepsInDegree = 2;
+  constexpr int kMostDegrees = 720;
   std::vector<ExpansionPoint> points;
   const ClosedCylinder start = CylinderAfterTop(expansion.size, expansion.startDegrees);
   const double clearance = start.sweptCc / (expansion.compressionRatio - 1);
   double pressure = expansion.startPressure;
   double volume = start.closedCc + clearance;
   points.push_back({expansion.startDegrees, pressure});
+  StepBound bound(kMostDegrees * kStepsInDegree);
   for (int step = 1;; ++step) {
+    bound.Step();
     const double degrees = expansion.startDegrees + static_cast<double>(step) / kStepsInDegree;
     if (!(degrees <= 180)) break;
     const double previous = volume;

@@ -4,6 +4,7 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -42,10 +43,12 @@ BoreAndStroke BoreAndStrokeByDigits(double cylinderVolume, double boreStrokeRati
   }
   double bore = 0;
   double step = 1000;
+  StepBound bound(kMostDigitSteps);
   for (int digit = 0; digit < 9; ++digit) {
     step /= 10;
     double volume = 0;
     while (volume <= cylinderVolume) {
+      bound.Step();
       bore += step;
       const double stroke = bore / boreStrokeRatio;
       volume = PistonArea(bore) * stroke;

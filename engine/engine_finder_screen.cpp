@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/files.h"
+#include "core/line_reader.h"
 #include "core/shell.h"
 #include "core/text.h"
 
@@ -54,6 +55,18 @@ std::vector<PickRow> RowsOfAllMakes() {
 
 }  // namespace
 
+std::vector<PickRow> UserEngineRows(std::string_view text, const std::string& fileName) {
+  std::vector<PickRow> rows;
+  LineReader lines(text, fileName);
+  while (lines.Next()) {
+    const bool picks = lines.line().find(kFiguresSign) != std::string_view::npos;
+    rows.push_back(
+        {picks ? PickRow::Kind::Choice : PickRow::Kind::Section, std::string(lines.line()),
+         picks ? "Source: " + fileName + ", line " + std::to_string(lines.number()) : ""});
+  }
+  return rows;
+}
+
 Form21::Form21(ProgramContext& context, Form1& form1)
     : Screen(context, "Form21", "Select Engine - Bore - Stroke - Rod Length - Number of Cylinders",
              ""),
@@ -85,20 +98,9 @@ void Form21::LoadList(std::string_view menuItem) {
 void Form21::ReadUserRows() {
   // A file that cannot be read leaves the list empty.
   Combo1.Offer({});
-  const std::string text =
-      DecodeText(LoadFile(InFolder(context().host.ProgramFolder(), kUserFile)));
-  std::vector<PickRow> rows;
-  for (std::size_t from = 0; from < text.size();) {
-    const auto end = std::min(text.find('\n', from), text.size());
-    std::string row = text.substr(from, end - from);
-    if (!row.empty() && row.back() == '\r') row.pop_back();
-    from = end + 1;
-    const bool picks = row.find(kFiguresSign) != std::string::npos;
-    std::string note = "Source: user_bsr.prm, line " + std::to_string(rows.size() + 1);
-    rows.push_back({picks ? PickRow::Kind::Choice : PickRow::Kind::Section, std::move(row),
-                    picks ? std::move(note) : std::string{}});
-  }
-  Combo1.Offer(std::move(rows), places_[list_]);
+  const std::filesystem::path file = InFolder(context().host.ProgramFolder(), kUserFile);
+  Combo1.Offer(UserEngineRows(DecodeText(LoadFile(file)), PathText(file.filename())),
+               places_[list_]);
 }
 
 std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {

@@ -8,6 +8,7 @@
 
 #include "core/units.h"
 #include "engine/displacement.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -15,6 +16,7 @@ namespace {
 
 constexpr double kNewtonsPerPound = 4.448222;
 constexpr double kNewtonMetresPerFootPound = 1.3558179;
+constexpr int kMostGraphPoints = 200000;
 constexpr double kStandardPressure = 14.69595;  ///< psi
 constexpr double kInchesOfWaterPerPsi = 27.707258364;
 constexpr double kFastPortAngle = 73;    ///< where the piston draws about its most
@@ -366,8 +368,11 @@ GraphCurve PistonGraphCurve(const PistonGraphInput& input, DecimalMark mark) {
   curve.note = PistonGraphNote(input, mark);
   if (IsOverRpm(input.graph)) {
     const auto value = ValueOverRpm(input);
-    curve.points.reserve(static_cast<std::size_t>(std::fmax(input.table.rpm, 0)) + 1);
-    for (double rpm = 0; rpm <= input.table.rpm; ++rpm) curve.points.push_back({rpm, value(rpm)});
+    StepBound bound(kMostGraphPoints);
+    for (double rpm = 0; rpm <= input.table.rpm; ++rpm) {
+      bound.Step();
+      curve.points.push_back({rpm, value(rpm)});
+    }
     return curve;
   }
   const Sweep sweep = SweepOf(input);

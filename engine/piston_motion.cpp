@@ -5,6 +5,7 @@
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/units.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -85,9 +86,11 @@ double FastestCrankAngle(const CrankSlider& slider, double rpm, double origin) {
   constexpr int kDigits = 14;
   double degrees = 0;
   double step = 10;
+  StepBound bound(kMostDigitSteps);
   for (int digit = 0; digit < kDigits; ++digit) {
     double acceleration = 0;
     while (acceleration >= 0) {
+      bound.Step();
       degrees += step;
       if (degrees > kDegreesInTurn) {
         throw CommandError(ErrorKind::InvalidArgument,
@@ -153,10 +156,12 @@ double CrankDegreesAtTravel(const CrankSlider& slider, double travel) {
   constexpr int kDigits = 9;
   double angle = 0;
   double step = 100;
+  StepBound bound(kMostDigitSteps);
   for (int digit = 0; digit < kDigits; ++digit) {
     step /= 10;
     double reached = 0;
     while (reached <= travel) {
+      bound.Step();
       angle += step;
       if (angle > 180) FailBeyondStroke();
       reached = PistonTravelAt(slider, angle);

@@ -5,6 +5,7 @@
 #include "core/report.h"
 #include "core/units.h"
 #include "engine/displacement.h"
+#include "engine/step_bound.h"
 
 namespace veldox {
 
@@ -43,7 +44,13 @@ TravelRow RowAt(const PistonTable& table, const CrankSlider& slider, double area
 /// Runs a row for every angle of the table; the angle is a running sum.
 template <class Row>
 void ForEachAngle(const PistonTable& table, Row row) {
-  for (double d = table.startDegrees; d <= table.endDegrees; d += table.everyDegrees) row(d);
+  constexpr int kMostRows = 4000;
+  static_assert(kMostRows > kMostDegreeLines);
+  StepBound bound(kMostRows);
+  for (double d = table.startDegrees; d <= table.endDegrees; d += table.everyDegrees) {
+    bound.Step();
+    row(d);
+  }
 }
 
 /// Makes room for a whole table, so that the text grows in one place.

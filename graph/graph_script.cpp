@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "core/error.h"
+#include "core/line_reader.h"
 #include "core/text.h"
 
 namespace veldox {
@@ -37,24 +38,38 @@ struct BadLine {
 
 class Reader {
  public:
-  Reader(DecimalMark mark, GraphScript& script) : mark_(mark), script_(script) {}
+  Reader(LineReader& lines, DecimalMark mark, GraphScript& script)
+      : lines_(lines), mark_(mark), script_(script) {}
 
-  void Read(std::string_view line) {
-    ++script_.records;
-    line_ = Trim(line);
+  /// Takes the line that has come.
+  void Read() {
+    script_.records = lines_.number();
+    line_ = Trim(lines_.line());
     lower_ = Lower(line_);
     if (lower_.empty() || lower_.front() == ';') return;
     try {
       if (!Axes() && !Points() && !Looks() && !Texts()) Invalid();
-    } catch (const CommandError&) {
+    } catch (const CommandError& error) {
+      if (error.kind() == ErrorKind::File) throw;
       Invalid();  // a number that is none, or none that a count can hold
     }
   }
 
  private:
   [[noreturn]] void Invalid() const {
-    throw BadLine{{kErrorTitle, "Invalid Input Recorder - " + std::to_string(script_.records) +
-                                    ' ' + std::string(line_)}};
+    Fail(kErrorTitle, "Invalid Input Recorder - " + std::to_string(script_.records) + ' ',
+         lines_.File());
+  }
+
+  [[noreturn]] void Fail(const char* title, const std::string& what,
+                         const std::string& where) const {
+    constexpr std::size_t kShownCharacters = 300;
+    throw BadLine{{title, what + Clipped(line_, kShownCharacters) + "\r\n" + where}};
+  }
+
+  void RequireRoom() const {
+    if (script_.curves.size() + script_.circles.size() < kMostScriptCurves) return;
+    throw lines_.Refusal("The file holds more than 10,000 curves, the most that a graph shows.");
   }
 
   /// True when the line begins with a prefix; what is behind it becomes the value.
@@ -144,6 +159,7 @@ class Reader {
       const auto [x, y, radius] = Numbers<3>();
       const double shown = radius * std::abs(xScale_);
       if (radius < 0 || !std::isfinite(shown)) Invalid();
+      RequireRoom();
       script_.circles.push_back({Placed(x, y), shown, color_, width_, style_});
     } else if (Is("reset =")) {
       EndCurve();
@@ -157,8 +173,7 @@ class Reader {
     if (Is("color = ")) {
       const auto color = ColorByName(value_);
       if (!color) {
-        throw BadLine{{"", "Bad Color Parameter check Manual for available colors --> " +
-                               std::string(line_)}};
+        Fail("", "Bad Color Parameter check Manual for available colors --> ", lines_.Place());
       }
       ChangePen();
       color_ = color;
@@ -169,7 +184,7 @@ class Reader {
       width_ = width;
     } else if (Is("drawstyle = ")) {
       if (value_.size() != 1 || value_.front() < '1' || value_.front() > '4') {
-        throw BadLine{{"", "Bad DrawStyle Parameter must be 1 to 4 --> " + std::string(line_)}};
+        Fail("", "Bad DrawStyle Parameter must be 1 to 4 --> ", lines_.Place());
       }
       ChangePen();
       style_ = static_cast<LineStyle>(value_.front() - '0');
@@ -193,6 +208,7 @@ class Reader {
 
   void Add(GraphPoint point, bool start) {
     if (!open_) {
+      RequireRoom();
       GraphScript::Curve curve;
       // A curve behind a "reset =" keeps the colour; the first one takes the next pen.
       curve.sameColor = !colorChanged_ && !script_.curves.empty();
@@ -225,6 +241,7 @@ class Reader {
     open_ = false;
   }
 
+  LineReader& lines_;
   DecimalMark mark_;
   GraphScript& script_;
   std::string_view line_;
@@ -250,20 +267,15 @@ bool GraphScript::HasDrawing() const {
   return !circles.empty() || !curves.empty();
 }
 
-std::optional<GraphScript> ReadGraphScript(std::string_view text, DecimalMark mark,
-                                           GraphScriptFailure& failure) {
+std::optional<GraphScript> ReadGraphScript(std::string_view text, const std::string& fileName,
+                                           DecimalMark mark, GraphScriptFailure& failure) {
   GraphScript script;
-  Reader reader(mark, script);
+  LineReader lines(text, fileName);
+  Reader reader(lines, mark, script);
   try {
-    while (!text.empty()) {
-      const auto end = std::min(text.find('\n'), text.size());
-      reader.Read(text.substr(0, end));
-      text.remove_prefix(std::min(end + 1, text.size()));
-    }
+    while (lines.Next()) reader.Read();
   } catch (const BadLine& bad) {
     failure = bad.failure;
-    constexpr std::size_t kShownCharacters = 300;
-    failure.text = Clipped(failure.text, kShownCharacters);
     return std::nullopt;
   }
   return script;

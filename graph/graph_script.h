@@ -48,10 +48,15 @@ struct GraphScriptFailure {
   std::string text;
 };
 
+/// The most curves that a graph script may draw, circles among them.
+inline constexpr std::size_t kMostScriptCurves = 10000;
+
 /// Reads a graph script. Every line is a record; the first one that cannot be understood
 /// ends the reading.
+/// @param fileName  the name that messages tell
 /// @return the script, or nothing with the failure in `failure`
-std::optional<GraphScript> ReadGraphScript(std::string_view text, DecimalMark mark,
-                                           GraphScriptFailure& failure);
+/// @throws CommandError (File) for more than kMostScriptCurves curves, and as LineReader does
+std::optional<GraphScript> ReadGraphScript(std::string_view text, const std::string& fileName,
+                                           DecimalMark mark, GraphScriptFailure& failure);
 
 }  // namespace veldox

@@ -297,7 +297,8 @@ void Form8::RunGraphScript(const std::filesystem::path& file, ReadMode mode,
   std::optional<GraphScript> script;
   {
     const BusyCursor busy(context().host);
-    script = ReadGraphScript(DecodeText(LoadFile(file)), mark(), failure);
+    script =
+        ReadGraphScript(DecodeText(LoadFile(file)), PathText(file.filename()), mark(), failure);
   }
   if (!script) {
     Inform(Icon::Warning, failure.text, failure.title);

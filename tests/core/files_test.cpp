@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/error.h"
 
@@ -16,6 +17,7 @@
 #define VELDOX_POSIX_FILES
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -133,12 +135,20 @@ TEST_F(SaveFileTest, TakesNamesBeyondAscii) {
   EXPECT_EQ(Get(path), "text");
 }
 
-TEST_F(SaveFileTest, WritesOverAPartLeftBehind) {
+TEST_F(SaveFileTest, LeavesTheUsersOwnFilesAlone) {
   const fs::path path = Put("a.txt", "old");
-  Put("a.txt.part", "a longer text of an earlier failure");
+  Put("a.txt.part", "a file of the user's own");
   SaveFile(path, "new");
   EXPECT_EQ(Get(path), "new");
-  EXPECT_FALSE(fs::exists(PartOf(path)));
+  EXPECT_EQ(Get(PartOf(path)), "a file of the user's own");
+  EXPECT_EQ(FileCount(), 2);
+}
+
+TEST_F(SaveFileTest, TakesANameAsLongAsTheSystemAllows) {
+  const fs::path path = folder() / std::string(255, 'n');
+  SaveFile(path, "text");
+  EXPECT_EQ(Get(path), "text");
+  EXPECT_EQ(FileCount(), 1);
 }
 
 TEST_F(SaveFileTest, RefusesAnEmptyName) {
@@ -164,14 +174,6 @@ TEST_F(SaveFileTest, NamesTheFileWhoseFolderIsMissing) {
   const std::string message = SaveFailure(path);
   EXPECT_THAT(message, AllOf(HasSubstr("\"" + PathText(path) + "\" could not be written: "),
                              HasSubstr("No such file"), Not(HasSubstr(".part"))));
-}
-
-TEST_F(SaveFileTest, LeavesTheOldFileWhereThePartCannotBeMade) {
-  const fs::path path = Put("a.txt", "old");
-  fs::create_directory(PartOf(path));
-  const std::string message = SaveFailure(path);
-  EXPECT_THAT(message, AllOf(HasSubstr("could not be written"), Not(HasSubstr("stands in"))));
-  EXPECT_EQ(Get(path), "old");
 }
 
 #ifdef VELDOX_POSIX_FILES
@@ -237,11 +239,54 @@ TEST_F(SaveFileTest, RefusesDevicesAndPipes) {
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-TEST_F(SaveFileTest, DoesNotWaitOnAPipeNamedLikeThePart) {
+TEST_F(SaveFileTest, KeepsTheOwnerOfTheOldFile) {
+  // Only an administrator may give a file away; another user's own files stay the user's.
+  const bool gives = ::geteuid() == 0;
+  const uid_t user = gives ? 1234 : ::geteuid();
+  const gid_t group = gives ? 2345 : ::getegid();
   const fs::path path = Put("a.txt", "old");
-  ASSERT_EQ(::mkfifo(PartOf(path).c_str(), 0600), 0);
-  EXPECT_THAT(SaveFailure(path), HasSubstr("could not be written"));
-  EXPECT_EQ(Get(path), "old");
+  ASSERT_EQ(::chown(path.c_str(), user, group), 0);
+  ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+  SaveFile(path, "new");
+  struct stat status = {};
+  ASSERT_EQ(::stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, user);
+  EXPECT_EQ(status.st_gid, group);
+  EXPECT_EQ(status.st_mode & 07777U, 0640U);
+  EXPECT_EQ(Get(path), "new");
+}
+
+TEST_F(SaveFileTest, TwoProgramsNeverShareAFileOnTheWay) {
+  // Each of them saves one letter many times: whoever looks finds letters of one kind only.
+  const fs::path path = Put("a.txt", std::string(50'000, 'x'));
+  std::vector<pid_t> programs;
+  for (const char letter : {'a', 'b', 'c'}) {
+    const pid_t program = ::fork();
+    ASSERT_GE(program, 0);
+    if (program == 0) {
+      int failures = 0;
+      for (int round = 0; round < 40; ++round) {
+        try {
+          SaveFile(path, std::string(50'000, letter));
+        } catch (const CommandError&) {
+          ++failures;
+        }
+      }
+      ::_exit(failures == 0 ? 0 : 1);
+    }
+    programs.push_back(program);
+  }
+  for (int round = 0; round < 500; ++round) {
+    const std::string bytes = LoadFile(path);
+    ASSERT_EQ(bytes.size(), 50'000U);
+    ASSERT_EQ(bytes.find_first_not_of(bytes.front()), std::string::npos);
+  }
+  for (const pid_t program : programs) {
+    int status = 0;
+    ASSERT_EQ(::waitpid(program, &status, 0), program);
+    EXPECT_EQ(status, 0);
+  }
+  EXPECT_EQ(FileCount(), 1);
 }
 
 /// For as long as it lives, no file can grow beyond a number of bytes: a full disk.
@@ -281,16 +326,36 @@ TEST_F(SaveFileTest, LeavesTheOldFileWhenTheDiskIsFull) {
   EXPECT_EQ(Get(PartOf(path)), bytes.substr(0, 40'000));
   SaveFile(path, bytes);  // there is room again
   EXPECT_EQ(Get(path), bytes);
-  EXPECT_EQ(FileCount(), 1);
+  EXPECT_EQ(Get(PartOf(path)), bytes.substr(0, 40'000));
+  EXPECT_EQ(FileCount(), 2);
+}
+
+TEST_F(SaveFileTest, KeepsAPartUnderAFreeName) {
+  const fs::path path = Put("engine.prm", "old");
+  Put("engine.prm.part", "a file of the user's own");
+  fs::create_directory(folder() / "engine.prm.part2");
+  ASSERT_EQ(::mkfifo((folder() / "engine.prm.part3").c_str(), 0600), 0);
+  std::string message;
+  {
+    const FullDisk full(40);
+    message = SaveFailure(path, std::string(100, 'n'));
+  }
+  const fs::path part = folder() / "engine.prm.part4";
+  EXPECT_THAT(message, EndsWith("stands in \"" + PathText(part) + "\"."));
+  EXPECT_EQ(Get(part), std::string(40, 'n'));
+  EXPECT_EQ(Get(PartOf(path)), "a file of the user's own");
+  EXPECT_EQ(Get(path), "old");
+  EXPECT_EQ(FileCount(), 5);
 }
 
 TEST_F(SaveFileTest, MakesNoFileWhenTheDiskIsFull) {
   const fs::path path = folder() / "engine.prm";
   {
     const FullDisk full(0);
-    EXPECT_THAT(SaveFailure(path), HasSubstr("could not be written"));
+    EXPECT_THAT(SaveFailure(path),
+                AllOf(HasSubstr("could not be written"), Not(HasSubstr("stands in"))));
   }
-  EXPECT_FALSE(fs::exists(path));
+  EXPECT_EQ(FileCount(), 0);
 }
 
 /// Acts as a user without rights of an administrator, who may write anywhere.
@@ -321,6 +386,28 @@ TEST_F(SaveFileTest, RefusesAFolderWithoutTheRightToWrite) {
   }
   fs::permissions(folder(), fs::perms(0755));
   EXPECT_EQ(Get(path), "old");
+  EXPECT_EQ(FileCount(), 1);
+}
+
+/// True for a file of the user that the program runs for.
+bool IsOwn(const fs::path& path) {
+  struct stat status = {};
+  return ::stat(path.c_str(), &status) == 0 && status.st_uid == ::geteuid();
+}
+
+TEST_F(SaveFileTest, RefusesAFileWhoseOwnerCannotBeKept) {
+  const fs::path path = Put("a.txt", "old");
+  fs::permissions(path, fs::perms(0666));
+  fs::permissions(folder(), fs::perms(0777));
+  {
+    const PlainUser user;
+    const bool isOwn = IsOwn(path);  // where no administrator has made it
+    EXPECT_THAT(SaveFailure(path),
+                isOwn ? testing::Matcher<std::string>("")
+                      : AllOf(HasSubstr("the owner of the old file cannot be kept"),
+                              Not(HasSubstr("stands in"))));
+    EXPECT_EQ(Get(path), isOwn ? "new" : "old");
+  }
   EXPECT_EQ(FileCount(), 1);
 }
 
@@ -403,6 +490,28 @@ TEST(DecodeText, DropsTheByteOrderMark) {
   EXPECT_EQ(DecodeText("\xEF\xBB\xBF"), "");
   EXPECT_EQ(DecodeText("\xEF\xBB\xBF\xE4"), "\xC3\xA4");
   EXPECT_EQ(DecodeText("a\xEF\xBB\xBF"), "a\xEF\xBB\xBF");
+}
+
+TEST(DecodeText, ReadsUtf16WithItsMark) {
+  using std::string_literals::operator""s;
+  EXPECT_EQ(DecodeText("\xFF\xFE"
+                       "B\0\xE4\0\xAC\x20\r\0\n\0"s),
+            "B\xC3\xA4\xE2\x82\xAC\r\n");
+  EXPECT_EQ(DecodeText("\xFE\xFF"
+                       "\0B\0\xE4\x20\xAC\0\r\0\n"s),
+            "B\xC3\xA4\xE2\x82\xAC\r\n");
+  // A character beyond 16 bits is a pair.
+  EXPECT_EQ(DecodeText("\xFF\xFE\x3D\xD8\x00\xDE"s), "\xF0\x9F\x98\x80");
+  EXPECT_EQ(DecodeText("\xFF\xFE"), "");
+}
+
+TEST(DecodeText, TakesBrokenUtf16WithoutHarm) {
+  using std::string_literals::operator""s;
+  constexpr const char* kReplacement = "\xEF\xBF\xBD";
+  EXPECT_EQ(DecodeText("\xFF\xFE\x3D\xD8"s), kReplacement);            // half a pair at the end
+  EXPECT_EQ(DecodeText("\xFF\xFE\x3D\xD8x\0"s), kReplacement + "x"s);  // and before a letter
+  EXPECT_EQ(DecodeText("\xFF\xFE\x00\xDEx\0"s), kReplacement + "x"s);
+  EXPECT_EQ(DecodeText("\xFF\xFEx\0y"s), "x"s + kReplacement);  // half a character
 }
 
 TEST(DecodeText, KeepsAnEmbeddedNul) {

@@ -264,13 +264,23 @@ TEST_F(Form21Test, MalformedUserRowsAreRefusedByNameAndChangeNothing) {
 }
 
 TEST_F(Form21Test, AVeryLongUserRowIsTakenAndQuotedInPart) {
-  const std::string name(1'000'000, 'x');
+  const std::string name(60'000, 'x');
   UserRows(name + " | 4.5 3.5 6 8\n" + name + " | bore\n");
   Pick(name + " | 4.5 3.5 6 8");
   EXPECT_EQ(form1().Text1.text(), "4.50000");
   ExpectBox();
   Pick(name + " | bore");
   EXPECT_LT(LastBox().size(), 300U);
+}
+
+TEST_F(Form21Test, AUserRowBeyond64KbIsRefusedAndTheListStaysEmpty) {
+  ExpectBox();
+  UserRows("first | 4 3 6 8\n" + std::string(1'000'000, 'x') + " | 4 3 6 8\n");
+  EXPECT_THAT(LastBox(), StartsWith("A line of the file is longer than 64 KB.\r\n"
+                                    "File: user_bsr.prm   Record # 2\r\nData --> xxx"));
+  EXPECT_LT(LastBox().size(), 500U);
+  EXPECT_THAT(list().rows(), IsEmpty());
+  EXPECT_TRUE(finder().visible());
 }
 
 TEST_F(Form21Test, ManyUserRowsAreTaken) {

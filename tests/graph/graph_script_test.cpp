@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "core/error.h"
+
 namespace veldox {
 namespace {
 
@@ -12,14 +14,14 @@ using testing::ElementsAre;
 
 GraphScript Parse(const std::string& text, DecimalMark mark = DecimalMark::Point) {
   GraphScriptFailure failure;
-  const auto script = ReadGraphScript(text, mark, failure);
+  const auto script = ReadGraphScript(text, "dyno.txt", mark, failure);
   EXPECT_TRUE(script.has_value()) << failure.text;
   return script.value_or(GraphScript{});
 }
 
 GraphScriptFailure FailureOf(const std::string& text) {
   GraphScriptFailure failure;
-  EXPECT_FALSE(ReadGraphScript(text, DecimalMark::Point, failure).has_value()) << text;
+  EXPECT_FALSE(ReadGraphScript(text, "dyno.txt", DecimalMark::Point, failure).has_value()) << text;
   return failure;
 }
 
@@ -98,7 +100,8 @@ TEST(GraphScript, CaptionsKeepTheirCase) {
   const GraphScript script = Parse("caption1 = <--- Valve Lift\nCAPTION20 = Bore 4.030\n");
   EXPECT_EQ(script.captions.at(1), "<--- Valve Lift");
   EXPECT_EQ(script.captions.at(20), "Bore 4.030");
-  EXPECT_EQ(FailureOf("caption7 = x").text, "Invalid Input Recorder - 1 caption7 = x");
+  EXPECT_EQ(FailureOf("caption7 = x").text,
+            "Invalid Input Recorder - 1 caption7 = x\r\nFile: dyno.txt");
 }
 
 TEST(GraphScript, ReadsCirclesAndGridLines) {
@@ -120,7 +123,8 @@ TEST(GraphScript, ReadsNumbersInCommaMode) {
 TEST(GraphScript, TellsABadColor) {
   const GraphScriptFailure failure = FailureOf("; x\ncolor = Mauve\n");
   EXPECT_EQ(failure.text,
-            "Bad Color Parameter check Manual for available colors --> color = Mauve");
+            "Bad Color Parameter check Manual for available colors --> color = Mauve\r\n"
+            "File: dyno.txt   Record # 2");
   EXPECT_EQ(failure.title, "");
 }
 
@@ -136,21 +140,59 @@ TEST(GraphScript, TellsABadStyle) {
 TEST(GraphScript, TellsTheRecordThatCannotBeUnderstood) {
   const GraphScriptFailure failure = FailureOf("; head\n\nx = 1\nHello World\n");
   EXPECT_EQ(failure.title, "VELDOX - Error Message");
-  EXPECT_EQ(failure.text, "Invalid Input Recorder - 4 Hello World");
+  EXPECT_EQ(failure.text, "Invalid Input Recorder - 4 Hello World\r\nFile: dyno.txt");
   for (const char* line : {"x = one", "line = 1,2,3", "line = 1,2,3,4,5", "circle = 1,2,-3",
                            "line to = 1", "grid x l = 1", "grid y l = 401", "grid x l = 2.5",
                            "drawwidth = 0", "line to = 1e308,", "reset"}) {
-    EXPECT_EQ(FailureOf(line).text, "Invalid Input Recorder - 1 " + std::string(line));
+    EXPECT_EQ(FailureOf(line).text,
+              "Invalid Input Recorder - 1 " + std::string(line) + "\r\nFile: dyno.txt");
   }
 }
 
 TEST(GraphScript, PointsThatOverflowAreTold) {
   EXPECT_EQ(FailureOf("x scale = 1e200\nx = 1e200\ny = 1\n").text,
-            "Invalid Input Recorder - 3 y = 1");
+            "Invalid Input Recorder - 3 y = 1\r\nFile: dyno.txt");
 }
 
 TEST(GraphScript, ALongLineIsCutInItsMessage) {
-  EXPECT_LT(FailureOf(std::string(100000, 'q')).text.size(), 400U);
+  const std::string text = FailureOf(std::string(60000, 'q')).text;
+  EXPECT_LT(text.size(), 400U);
+  EXPECT_TRUE(text.ends_with("q...\r\nFile: dyno.txt"));
+}
+
+/// The message of a refusal of the whole file.
+std::string RefusalOf(const std::string& text) {
+  GraphScriptFailure failure;
+  try {
+    ReadGraphScript(text, "dyno.txt", DecimalMark::Point, failure);
+  } catch (const CommandError& error) {
+    EXPECT_EQ(error.kind(), ErrorKind::File);
+    return error.message();
+  }
+  return failure.text;
+}
+
+TEST(GraphScript, ALineBeyond64KbIsRefused) {
+  const std::string message = RefusalOf("x = 1\n" + std::string(100000, 'q') + "\n");
+  EXPECT_TRUE(message.starts_with(
+      "A line of the file is longer than 64 KB.\r\nFile: dyno.txt   Record # 2\r\nData --> qqq"))
+      << message;
+}
+
+TEST(GraphScript, MoreThan10000CurvesAreRefused) {
+  std::string text;
+  for (std::size_t i = 0; i < kMostScriptCurves - 1; ++i) text += "line = 1,2,3,4\nreset =\n";
+  text += "circle = 1,2,3\n";
+  EXPECT_EQ(Parse(text).curves.size(), kMostScriptCurves - 1);
+  const std::string last = "\r\nFile: dyno.txt   Record # 20000\r\nData --> ";
+  const std::string refusal =
+      "The file holds more than 10,000 curves, the most that a graph shows.";
+  EXPECT_EQ(RefusalOf(text + "line to = 5,6\n"), refusal + last + "line to = 5,6");
+  EXPECT_EQ(RefusalOf(text + "circle = 5,6,7\n"), refusal + last + "circle = 5,6,7");
+}
+
+TEST(GraphScript, ANulIsRefused) {
+  EXPECT_TRUE(RefusalOf(std::string("x = 1\0\n", 7)).starts_with("The file is no text"));
 }
 
 TEST(GraphScript, AnEmptyFileHasNothingToDraw) {

@@ -200,7 +200,7 @@ TEST_F(Form8Test, ABadFileLeavesTheGraphAsItWas) {
   form_.Command2.Click();
   ReadGraph("xhigh = 5\nnonsense\n");
   EXPECT_EQ(host_.messages.back().title, "VELDOX - Error Message");
-  EXPECT_EQ(LastMessage(), "Invalid Input Recorder - 2 nonsense");
+  EXPECT_EQ(LastMessage(), "Invalid Input Recorder - 2 nonsense\r\nFile: graph.txt");
   EXPECT_EQ(form_.plot().series().size(), 2U);
   ReadGraph("");
   EXPECT_THAT(LastMessage(), HasSubstr("There is nothing to graph"));
