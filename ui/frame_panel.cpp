@@ -127,6 +127,8 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
                        row, 0, 1, 3);
       break;
     case ControlKind::OptionButton:  // stands in its group
+    case ControlKind::OptionPart:
+    case ControlKind::Table:
     case ControlKind::Command:       // stands below, with the others
     case ControlKind::Frame:
     case ControlKind::ReportBox:  // opens at the foot of the window

@@ -13,6 +13,7 @@
 
 #include "core/files.h"
 #include "core/report.h"
+#include "ui/fixed_font.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
@@ -261,7 +262,7 @@ void ReportPanel::Follow() {
 
 void ReportPanel::showEvent(QShowEvent* event) {
   // Looked up when the first report opens: start-up does not pay for it.
-  edit_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  edit_->setFont(FixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)));
   edit_->setMinimumHeight(QFontMetrics(edit_->font()).lineSpacing() * kReportLines);
   QWidget::showEvent(event);
 }
