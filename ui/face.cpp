@@ -39,6 +39,11 @@ bool MovedOnPurpose(Qt::FocusReason reason) {
          reason != Qt::MenuBarFocusReason;
 }
 
+bool CameByKeyboard(Qt::FocusReason reason) {
+  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+         reason == Qt::ShortcutFocusReason;
+}
+
 Face::Face(FaceSet& set, Control& control, QWidget* widget)
     : set_(set), control_(control), widget_(widget) {
   widget_->setObjectName(ToQt(control_.name()));
@@ -98,9 +103,7 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
 void Face::FocusCame(Qt::FocusReason reason) {
   // A window that comes to the front enters nothing.
   if (!MovedOnPurpose(reason) || !EnterControl()) return;
-  const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                          reason == Qt::ShortcutFocusReason;
-  if (byKeyboard) control_.screen().Hover(&control_);
+  if (CameByKeyboard(reason)) control_.screen().Hover(&control_);
 }
 
 bool Face::EnterControl() {

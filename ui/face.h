@@ -18,6 +18,8 @@ inline constexpr const char* kNotAvailable = "Not available yet";
 /// True when the user or the program moved the focus to or from a widget itself, and not
 /// the window came to the front or a menu opened and closed.
 bool MovedOnPurpose(Qt::FocusReason reason);
+/// True when a key brought the focus.
+bool CameByKeyboard(Qt::FocusReason reason);
 
 /// Stands for one control in a window: shows what the control holds and tells it what
 /// the user does. Neither knows more of the other.

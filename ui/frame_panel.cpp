@@ -105,6 +105,7 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
     }
     case ControlKind::PickList:
       grid_->setRowStretch(row, 1);
+      grows_ = true;
       grid_->addWidget(faces.Make<PickListFace>(static_cast<PickList&>(control), this).panel(), row,
                        0, 1, 3);
       break;
@@ -123,6 +124,7 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
       break;
     case ControlKind::TextArea:
       grid_->setRowStretch(row, 1);
+      grows_ = true;
       grid_->addWidget(faces.Make<TextAreaFace>(static_cast<TextArea&>(control), this).widget(),
                        row, 0, 1, 3);
       break;
@@ -163,8 +165,9 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
-  const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
-  for (int i = 0; i < static_cast<int>(filled.size()); ++i) {
+  const int count = static_cast<int>(filled.size());
+  const int columns = std::clamp(grows_ ? count : fitting, 1, kMostCommandsInRow);
+  for (int i = 0; i < count; ++i) {
     const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
     cell.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -180,7 +183,12 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
     cells->addLayout(row, i / columns, i % columns);
     cells->setColumnMinimumWidth(i % columns, width);
   }
-  for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
+  if (grows_) {
+    // The frame is as wide as the window, its commands are not.
+    cells->setColumnStretch(columns, 1);
+  } else {
+    for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
+  }
   const int row = grid_->rowCount();
   if (row > 1) grid_->setRowMinimumHeight(row, 2);
   grid_->addLayout(cells, row + 1, 0, 1, 3);

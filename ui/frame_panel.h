@@ -28,6 +28,7 @@ class FramePanel : public QGroupBox {
   QGridLayout* grid_;
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
+  bool grows_ = false;  ///< holds something that takes all the room there is
 };
 
 /// Stands for a frame that is shown and hidden in its place.

@@ -17,6 +17,7 @@
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
+#include "ui/widget_help.h"
 
 namespace veldox {
 namespace {
@@ -214,21 +215,10 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
 
 QPushButton* ReportPanel::AddButton(QBoxLayout& row, const char* caption, const char* tip) {
   auto* button = new QPushButton(QLatin1String(caption), this);
-  button->installEventFilter(this);
-  button->setToolTip(QLatin1String(tip));
-  button->setAccessibleDescription(QLatin1String(tip));
+  GiveHelp(*button, box_.screen(), QLatin1String(tip));
   button->setMinimumWidth(button->sizeHint().width() + 16);
   row.addWidget(button);
   return button;
-}
-
-bool ReportPanel::eventFilter(QObject* watched, QEvent* event) {
-  const auto* button = dynamic_cast<const QPushButton*>(watched);
-  if (button != nullptr && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)) {
-    box_.screen().ShowHelp(FromQt(button->accessibleDescription()));
-  }
-  if (button != nullptr && event->type() == QEvent::Leave) box_.screen().Hover(nullptr);
-  return QWidget::eventFilter(watched, event);
 }
 
 std::vector<QWidget*> ReportPanel::TabChain() const {

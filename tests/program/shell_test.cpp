@@ -377,6 +377,33 @@ TEST_F(ShellTest, AnErrorHalfWayThroughAFileStillTellsTheCount) {
   EXPECT_EQ(block().RodLength, 5.7);
 }
 
+TEST_F(ShellTest, TheControlsOfItsPanelsAreItsOwn) {
+  program_.Start();
+  std::vector<Frame*> inReadingOrder{&shell().TitleFrame};
+  for (const ScreenPart* panel : shell().Panels()) {
+    for (Frame* frame : panel->frames()) {
+      EXPECT_FALSE(frame->visible()) << frame->name();
+      EXPECT_EQ(&frame->screen(), &shell());
+      inReadingOrder.push_back(frame);
+      for (Control* control : frame->controls()) {
+        EXPECT_EQ(shell().FindControl("Main." + control->name()), control);
+      }
+    }
+  }
+  EXPECT_EQ(shell().frames(), inReadingOrder);
+}
+
+TEST_F(ShellTest, APanelThatOpensOrClosesTakesTheHelpSentenceAway) {
+  program_.Start();
+  shell().ShowHelp("Of the launcher.");
+  Choose("Graph");
+  EXPECT_EQ(shell().Label77.caption(), "");
+  shell().Hover(&shell().graphOptions.DrawLn);
+  EXPECT_EQ(shell().Label77.caption(), shell().graphOptions.DrawLn.help());
+  shell().graphOptions.Command2.Click();
+  EXPECT_EQ(shell().Label77.caption(), "");
+}
+
 TEST_F(ShellTest, NotesOfAFileShowOnTheOpenPanel) {
   program_.Start();
   WriteFile("notes.prm", "Notes = 5 of 8\r\n");
