@@ -285,12 +285,12 @@ class CommandWork {
   /// @param run  is told the screen and the index of the command
   CommandWork(std::function<void(Screen&, int)> run, CommandRole role)
       : run_(std::move(run)), role_(role) {}
-  template <class S>
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
   CommandWork(void (S::*handler)(), CommandRole role = CommandRole::Calculates)
       : run_([handler](Screen& screen, int) { (static_cast<S&>(screen).*handler)(); }),
         role_(role) {}
   /// The same routine for several commands of an array, which is told the index.
-  template <class S>
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
   CommandWork(void (S::*handler)(int), CommandRole role = CommandRole::Calculates)
       : run_([handler](Screen& screen, int index) { (static_cast<S&>(screen).*handler)(index); }),
         role_(role) {}
@@ -636,7 +636,6 @@ class Screen {
   friend class Frame;
   friend class ScreenPage;
   friend class Panel;
-  void NoteCalculation(Command& command);
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
   double Converted(const Field& field, double number, bool toMetric);

@@ -117,10 +117,13 @@ class Form1 : public Screen {
                     "Calculate Bore and Stroke needed from Cubic Inches, Stroke Bore Ratio, and "
                     "Number of Cylinders",
                     &Form1::Command11_Click};
-  Command EngineFinder{Frame1, "EngineFinder", "Engine &Finder",
+  Command EngineFinder{Frame1,
+                       "EngineFinder",
+                       "Engine &Finder",
                        "Pick a production engine from a list; its Bore, Stroke, Rod Length and "
                        "Number of Cylinders go into this screen.",
-                       &Form1::EngineFinder_Click};
+                       &Form1::EngineFinder_Click,
+                       CommandRole::Serves};
 
   Frame Frame2{*this, "Frame2", "Deck Stack", 0};
   Field Text8{Frame2, "Text8", "Block Deck Height", "9.245", KeyRule::UnsignedReal, Unit::Length};
