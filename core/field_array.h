@@ -15,6 +15,7 @@ namespace veldox {
 /// each; rows behind the last one given have that one.
 class RowTexts {
  public:
+  // NOLINTNEXTLINE(google-explicit-constructor): written as a plain literal in a declaration
   RowTexts(const char* all) : texts_{all} {}
   RowTexts(std::initializer_list<const char*> each) : texts_(each.begin(), each.end()) {}
 

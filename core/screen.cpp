@@ -282,7 +282,7 @@ Command::Command(Frame& frame, std::string name, std::string caption, std::strin
 bool Command::Click() {
   if (!work_.isBuilt() || !enabled() || !Reachable()) return false;
   if (role() == CommandRole::Calculates && this != screen().QuitCommand()) {
-    screen().NoteCalculation(*this);
+    screen().lastCalculation_ = this;
   }
   return screen().Perform([this] { work_.Run(screen(), index_); });
 }
@@ -734,14 +734,6 @@ Command* Screen::NextCalculation() {
     if (isReady(*control)) return static_cast<Command*>(control);
   }
   return nullptr;
-}
-
-void Screen::NoteCalculation(Command& command) {
-  if (lastCalculation_ == &command) return;
-  Command* before = NextCalculation();
-  lastCalculation_ = &command;
-  if (before != nullptr) before->Changed();
-  command.Changed();
 }
 
 bool Screen::CalculateAgain() {

@@ -320,12 +320,12 @@ class CommandWork {
   /// Work that is not the screen's own.
   explicit CommandWork(Handler handler, CommandRole role = CommandRole::Serves)
       : run_([handler = std::move(handler)](Screen&, int) { handler(); }), role_(role) {}
-  template <class S>
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
   CommandWork(void (S::*handler)(), CommandRole role = CommandRole::Calculates)
       : run_([handler](Screen& screen, int) { (static_cast<S&>(screen).*handler)(); }),
         role_(role) {}
   /// The same routine for several commands of an array, which is told the index.
-  template <class S>
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
   CommandWork(void (S::*handler)(int), CommandRole role = CommandRole::Calculates)
       : run_([handler](Screen& screen, int index) { (static_cast<S&>(screen).*handler)(index); }),
         role_(role) {}
@@ -730,7 +730,6 @@ class Screen {
 
   friend class ScreenPage;
   friend class Panel;
-  void NoteCalculation(Command& command);
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
   double Converted(const Field& field, double number, bool toMetric) const;

@@ -12,6 +12,7 @@ namespace veldox {
 /// A column of a table: a head and the fields that stand under it.
 struct TableColumn {
   /// An array under its own label.
+  // NOLINTNEXTLINE(google-explicit-constructor): a list of arrays is a list of columns
   TableColumn(FieldArray& array);
   TableColumn(std::string head, FieldArray& array);
   /// Under a label, whose caption a command may rewrite by `Table::SetHead`.

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QButtonGroup>
+#include <QKeySequence>
 #include <QObject>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -39,6 +42,7 @@ class Face : public QObject, public ControlFace {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  FaceSet& set() const { return set_; }
 
  private:
   void FocusCame(Qt::FocusReason reason);
@@ -71,12 +75,18 @@ class FaceSet {
   Face* Of(const Control& control) const;
   Face* Of(const QWidget* widget) const;
   const std::vector<std::unique_ptr<Face>>& all() const { return faces_; }
+  /// The widgets of an option group whose buttons stand in several places, made one group.
+  QButtonGroup& ButtonsOf(const OptionGroup& group);
+  /// An access key that several widgets have was pressed: clicks the one of the screen's choice.
+  /// False where none of them is a control that can be clicked.
+  bool TakeAccessKey(const QKeySequence& key) const;
   /// Gives the keyboard focus back to the control that holds the screen's.
   void ReturnFocus();
 
  private:
   Screen& screen_;
   std::vector<std::unique_ptr<Face>> faces_;
+  std::map<const OptionGroup*, std::unique_ptr<QButtonGroup>> buttons_;
 };
 
 }  // namespace veldox
