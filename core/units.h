@@ -12,6 +12,17 @@ inline constexpr double kKilowattsPerHorsepower = 0.745701;
 inline constexpr double kNewtonsPerPound = 4.448222;
 inline constexpr double kNewtonMetresPerFootPound = 1.3558179;
 inline constexpr double kGramsPerPound = 453.5923696;
+inline constexpr double kMillibarsPerInchMercury = 33.8638867;
+
+/// Degrees Celsius of degrees Fahrenheit.
+constexpr double CelsiusOf(double fahrenheit) {
+  return (fahrenheit - 32) * 5 / 9;
+}
+
+/// Degrees Fahrenheit of degrees Celsius.
+constexpr double FahrenheitOf(double celsius) {
+  return celsius * 9 / 5 + 32;
+}
 
 /// How a value changes between inches, pounds and Fahrenheit and the metric units.
 struct UnitRule {

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "core/units.h"
 #include "engine/piston_motion.h"
 
 namespace veldox {
@@ -14,7 +15,6 @@ namespace veldox {
 /// is the inch; where it is the millimetre they are out by a factor that all of them share, so
 /// that ratios hold. Pressures of one call share a unit.
 
-inline constexpr double kMillibarsPerInchMercury = 33.8638867;
 inline constexpr double kPsiPerInchMercury = 0.4911542;
 /// Centimetres of mercury in a pound a square inch: the gauge's unit in metric.
 inline constexpr double kGaugeUnitsPerPsi = 5.171507;
@@ -29,9 +29,6 @@ struct VaporPressures {
 /// Water in air at a temperature in degrees Celsius and a relative humidity in percent, by a
 /// Magnus formula. A humidity of exactly 0 still gives a trace.
 VaporPressures VaporPressuresAt(double celsius, double humidity);
-
-double CelsiusOf(double fahrenheit);
-double FahrenheitOf(double celsius);
 
 /// The sizes of a cylinder that decide its volumes.
 struct CylinderSize {
