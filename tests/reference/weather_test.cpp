@@ -127,6 +127,23 @@ TEST(DynoCorrection, OfAHotDayInTheMountains) {
   EXPECT_NEAR(QuarterMileCorrection(1.331), 1.1, 1e-12);
 }
 
+TEST(Formulas, GiveWhatFortyDigitsGive) {
+  // The rules worked out apart from the program, with forty decimal digits.
+  EXPECT_NEAR(SaturationVaporPressure(30), 1.25003308463426, 1e-13);
+  const Air air{24.9, 95, 0.4};
+  EXPECT_NEAR(DewPoint(0.4), 52.6701578650931, 1e-11);
+  EXPECT_NEAR(AirDensity(air), 0.0591891303790999, 1e-15);
+  constexpr StandardAir kOther{30.1, 60};
+  EXPECT_NEAR(DensityAltitude(air, {}), 8518.96300131543, 1e-8);
+  EXPECT_NEAR(DensityAltitude(air, kOther), 8729.80648932420, 1e-8);
+  EXPECT_NEAR(PressureAltitude(24.9, {}), 4994.38884950070, 1e-8);
+  EXPECT_NEAR(PressureAltitude(24.9, kOther), 5164.51104896978, 1e-8);
+  EXPECT_NEAR(DryDensityAltitude(air, {}), 8842.69524465015, 1e-8);
+  EXPECT_NEAR(DryDensityAltitude(air, kOther), 8990.62295241821, 1e-8);
+  EXPECT_NEAR(MoistDensityAltitude(air, {}), 8518.01834016414, 1e-8);
+  EXPECT_NEAR(MoistDensityAltitude(air, kOther), 8665.63114822058, 1e-8);
+}
+
 TEST(AirDensity, IsThatOfAnIdealGas) {
   // Pounds a cubic foot of the dry part and the water by their own gas constants.
   constexpr double kPoundsPerCubicFoot = 0.45359237 / (0.3048 * 0.3048 * 0.3048);
