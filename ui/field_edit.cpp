@@ -69,6 +69,14 @@ void FieldEdit::Follow() {
   update();
 }
 
+void FieldEdit::Describe(const Field& field) {
+  const QString help = ToQt(field.help());
+  const QString unit = ToQt(UnitSign(field.unit(), field.screen().metric()));
+  setAccessibleName(ToQt(field.PlainCaption()));
+  setAccessibleDescription(help.isEmpty() || unit.isEmpty() ? help + unit
+                                                            : help + QLatin1Char(' ') + unit);
+}
+
 void FieldEdit::Replace(const QString& text) {
   selectAll();
   if (text.isEmpty()) {
