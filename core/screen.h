@@ -339,6 +339,12 @@ class CommandWork {
   CommandRole role_ = CommandRole::Calculates;
 };
 
+/// The work of a command that does not calculate: it opens or shows something, or works on files.
+template <class S>
+CommandWork Serves(void (S::*handler)()) {
+  return {handler, CommandRole::Serves};
+}
+
 class Command : public Control {
  public:
   template <class S>
