@@ -199,8 +199,8 @@ void Form8::DrawPowerCurve(int type, const std::optional<AxisRange>& limits) {
     power.push_back({rpm, horsepower});
     torque.push_back({rpm, horsepower * kTorqueConstant / rpm});
   }
-  PlotEngine::RequireSeries(power);
-  PlotEngine::RequireSeries(torque);
+  PlotEngine::RequireSeries(power, "Horsepower");
+  PlotEngine::RequireSeries(torque, "Torque");
 
   AxisRange range;
   if (limits) {
