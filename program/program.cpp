@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
 #include "engine/displacement_screen.h"
@@ -23,6 +24,7 @@ Program::Program(Host& host)
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
+  AddScreen<Form16>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
