@@ -5,6 +5,7 @@
 #include "engine/compression_ratio_screen.h"
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
+#include "reference/unit_conversion_screen.h"
 
 namespace veldox {
 
@@ -25,6 +26,7 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form9>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
