@@ -76,6 +76,7 @@ void Control::Changed() {
 
 void Control::NoteChange() const {
   if (isInFile_ && !isOption_) screen_.context().rules.NoteChange();
+  screen_.Edited(*this);
 }
 
 void Control::SetCaption(std::string caption) {
@@ -167,6 +168,7 @@ void TextControl::Edit(std::string text) {
   }
   screen().context().rules.NoteChange();
   SetText(std::move(text));
+  screen().Edited(*this);
 }
 
 char32_t TextControl::FilterKey(char32_t key) {
@@ -350,7 +352,7 @@ OptionRows::OptionRows(Frame& frame, ControlKind kind, std::string name, std::st
     : Control(frame.screen(), &frame, kind, std::move(name), std::move(caption), {}),
       buttonsInRow_(buttonsInRow) {}
 
-void OptionRows::AddButtons(OptionGroup& group, std::initializer_list<OptionChoice> choices) {
+void OptionRows::AddButtons(OptionGroup& group, const std::vector<OptionChoice>& choices) {
   group.buttons_.reserve(group.buttons_.size() + choices.size());
   for (const OptionChoice& choice : choices) {
     group.buttons_.push_back(
@@ -366,15 +368,15 @@ void OptionRows::AppendReadingOrder(std::vector<Control*>& order) {
 }
 
 OptionGroup::OptionGroup(Frame& frame, std::string name, std::string caption,
-                         std::initializer_list<Choice> choices, int chosen, int buttonsInRow)
+                         const std::vector<Choice>& choices, int chosen, int buttonsInRow)
     : OptionRows(frame, ControlKind::OptionGroup, std::move(name), std::move(caption),
                  buttonsInRow),
       chosen_(chosen) {
   AddButtons(*this, choices);
 }
 
-OptionPart::OptionPart(Frame& frame, OptionGroup& group,
-                       std::initializer_list<OptionChoice> choices, int buttonsInRow)
+OptionPart::OptionPart(Frame& frame, OptionGroup& group, const std::vector<OptionChoice>& choices,
+                       int buttonsInRow)
     : OptionRows(frame, ControlKind::OptionPart, group.name() + " in " + frame.name(), {},
                  buttonsInRow) {
   AddButtons(group, choices);

@@ -137,7 +137,8 @@ class Control {
           std::string help);
   /// Tells the face.
   void Changed();
-  /// The user has turned or picked something: what the file would hold asks to be saved.
+  /// The user has turned or picked something: what the file would hold asks to be saved, and the
+  /// screen follows.
   void NoteChange() const;
   /// Makes a control a part of this one.
   void Adopt(Control& part) { part.whole_ = this; }
@@ -423,8 +424,8 @@ class OptionButton : public Control {
 /// One choice of an option group.
 struct OptionChoice {
   int index;
-  const char* caption;
-  const char* help;
+  std::string caption;
+  std::string help;
   bool visible = true;
 };
 
@@ -439,7 +440,7 @@ class OptionRows : public Control {
  protected:
   OptionRows(Frame& frame, ControlKind kind, std::string name, std::string caption,
              int buttonsInRow);
-  void AddButtons(OptionGroup& group, std::initializer_list<OptionChoice> choices);
+  void AddButtons(OptionGroup& group, const std::vector<OptionChoice>& choices);
 
  private:
   std::vector<OptionButton*> buttonsHere_;
@@ -452,7 +453,7 @@ class OptionGroup : public OptionRows {
  public:
   using Choice = OptionChoice;
   OptionGroup(Frame& frame, std::string name, std::string caption,
-              std::initializer_list<Choice> choices, int chosen = 0, int buttonsInRow = 1);
+              const std::vector<Choice>& choices, int chosen = 0, int buttonsInRow = 1);
 
   int chosen() const { return chosen_; }
   /// False when the group has no button of that index; nothing changes then.
@@ -476,7 +477,7 @@ class OptionGroup : public OptionRows {
 /// across all.
 class OptionPart : public OptionRows {
  public:
-  OptionPart(Frame& frame, OptionGroup& group, std::initializer_list<OptionChoice> choices,
+  OptionPart(Frame& frame, OptionGroup& group, const std::vector<OptionChoice>& choices,
              int buttonsInRow = 1);
 };
 
@@ -609,6 +610,10 @@ class Screen {
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.
   bool Perform(const std::function<void()>& command);
+
+  /// The user has typed into a control, turned or picked something: what follows of it at once,
+  /// without a command. It throws nothing and asks nothing.
+  virtual void Edited(const Control& /*control*/) {}
 
   /// Empties every text box (Clear).
   virtual void ClearFields();

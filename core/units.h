@@ -76,6 +76,8 @@ enum class Unit {
   GaugePressure,
   Temperature,
   Percent,
+  SpringRate,
+  Modulus,  ///< of elasticity or rigidity
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -97,6 +99,8 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::GaugePressure: return metric ? "cm Hg" : "psi";
     case Unit::Temperature: return metric ? "deg C" : "deg F";
     case Unit::Percent: return "%";
+    case Unit::SpringRate: return "lb/in";
+    case Unit::Modulus: return "psi";
   }
   return "";
 }

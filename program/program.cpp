@@ -1,9 +1,12 @@
 #include "program/program.h"
 
+#include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
+#include "reference/charts_screen.h"
+#include "reference/unit_conversion_screen.h"
 
 namespace veldox {
 
@@ -23,6 +26,9 @@ Program::Program(Host& host)
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
+  AddScreen<Form16>();
+  AddScreen<Form9>();
+  AddScreen<Form10>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });

@@ -298,6 +298,17 @@ std::string DashSizeChart(DecimalMark mark) {
   return report.Finish();
 }
 
+std::vector<ConversionChartTitle> ConversionCharts() {
+  std::vector<ConversionChartTitle> charts;
+  for (const TableGroup& group : ConversionTable()) {
+    for (const TableRow& row : group.rows) {
+      charts.push_back({RoundToInt16(Number(row.cells[0])), row.name, group.name, row.cells[5],
+                        row.cells[6], row.cells[3]});
+    }
+  }
+  return charts;
+}
+
 std::string ConversionChart(int command, DecimalMark mark) {
   constexpr std::size_t kSteps = 100;
   constexpr int kValueWidth = 6;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/numbers.h"
 
@@ -36,6 +38,19 @@ std::string SteelChart(DecimalMark mark);
 
 /// Hoses, tubes and threads of dash sizes.
 std::string DashSizeChart(DecimalMark mark);
+
+/// A table from one unit to another, as it can be chosen.
+struct ConversionChartTitle {
+  int command = 0;             ///< number of the chart's button
+  std::string_view caption;    ///< of the button, and the chart's title
+  std::string_view subject;    ///< what the tables around it are about
+  std::string_view values;     ///< the unit from which it converts
+  std::string_view converses;  ///< and the one to which
+  std::string_view step;       ///< with a decimal point
+};
+
+/// All tables from one unit to another, those of one subject together.
+std::vector<ConversionChartTitle> ConversionCharts();
 
 /// A table from one unit to another, its first hundred steps.
 /// @param command  number of the chart's button

@@ -112,7 +112,7 @@ void ModelDriver::TypeIntoField(TextControl& field, Key key) {
     AppendUtf8(text, taken);
   }
   selected_ = nullptr;
-  field.SetText(std::move(text));
+  field.Edit(std::move(text));
 }
 
 void ModelDriver::Leave(TextControl& field) {

@@ -5,6 +5,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "ui/fixed_font.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
 
@@ -215,7 +216,10 @@ bool CommandFace::eventFilter(QObject* watched, QEvent* event) {
 TextAreaFace::TextAreaFace(FaceSet& set, TextControl& area, QWidget* parent)
     : Face(set, area, new LinesEdit(area, parent)),
       area_(area),
-      edit_(static_cast<LinesEdit*>(widget())) {}
+      edit_(static_cast<LinesEdit*>(widget())) {
+  // Results have their numbers under each other.
+  if (area.rule() == KeyRule::OutputOnly) edit_->setFont(FixedPitchFont(edit_->font()));
+}
 
 void TextAreaFace::Follow() {
   Face::Follow();

@@ -54,7 +54,8 @@ HelpFace::HelpFace(FaceSet& set, Control& place, HelpBar* bar)
 
 void HelpFace::Follow() {
   Face::Follow();
-  label_->setText(ToQtLines(control().caption()));
+  const auto* box = dynamic_cast<const TextControl*>(&control());
+  label_->setText(ToQtLines(box == nullptr ? control().caption() : box->text()));
   label_->setAccessibleName(label_->text());
 }
 

@@ -28,7 +28,7 @@ class HelpBar : public QWidget {
   QLabel* label_;
 };
 
-/// Stands for a label that is the help place of its screen.
+/// Stands for a label, or a text box of its own, that is the help place of its screen.
 class HelpFace : public Face {
  public:
   HelpFace(FaceSet& set, Control& place, HelpBar* bar);

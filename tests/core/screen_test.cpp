@@ -17,6 +17,9 @@ class Bench : public Screen {
   explicit Bench(ProgramContext& context) : Screen(context, "Bench", "Test Bench", "Bench") {}
   CheckBox* MetricBox() override { return &Check1; }
   Control* HelpPlace() override { return &Label1; }
+  void Edited(const Control& control) override { edited.push_back(control.name()); }
+
+  std::vector<std::string> edited;  ///< the names of what the user has worked
 
   void Divide() { Store(Result, Read(A) / Read(B), {&B}); }
   void Grow() { Store(Result, Read(A) * 1e300); }
@@ -65,6 +68,18 @@ TEST_F(ScreenTest, StoreShowsAndKeepsAResult) {
   EXPECT_EQ(bench_.Result.text(), "4.25");
   EXPECT_EQ(context_->block.Bore, 4.25);
   EXPECT_EQ(bench_.Result.mark(), Mark::Changed);
+}
+
+TEST_F(ScreenTest, IsToldWhatTheUserTypesTurnsAndPicks) {
+  bench_.SetVisible(true);
+  bench_.A.SetText("7");
+  bench_.Option1.Choose(1);
+  EXPECT_TRUE(bench_.edited.empty());
+  bench_.A.Edit("8");
+  bench_.Option1.Pick(0);
+  bench_.Option1.Pick(0);  // is chosen already
+  bench_.Check1.Click();
+  EXPECT_EQ(bench_.edited, (std::vector<std::string>{"A", "Option1", "Check1"}));
 }
 
 TEST_F(ScreenTest, MarksLastUntilTheNextCommand) {
