@@ -774,7 +774,14 @@ void Screen::ReadFields(std::initializer_list<Field*> fields) {
     } else if (auto* const* value = std::get_if<double*>(&slot)) {
       const double shown = Read(*field);
       const bool keptInUs = field->holds().conversion() == Holds::Conversion::ShownOnly;
-      **value = keptInUs ? InInches(*field, shown) : shown;
+      if (!keptInUs) {
+        **value = shown;
+        continue;
+      }
+      // What the field still shows is left as it is: the text may hold fewer digits.
+      const bool stands = metric() && field->text() == TextOf(*field, AsShown(*field, **value));
+      std::feclearexcept(FE_OVERFLOW);  // of a value that is too large to show in metric
+      if (!stands) **value = InInches(*field, shown);
     } else {
       Read(*field);
     }

@@ -76,6 +76,10 @@ enum class Unit {
   GaugePressure,
   Temperature,
   Percent,
+  Inches,              ///< in both modes
+  Altitude,            ///< feet in both modes
+  PoundsPerCubicFoot,  ///< in both modes
+  GrainsPerPound,      ///< in both modes
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -97,6 +101,10 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::GaugePressure: return metric ? "cm Hg" : "psi";
     case Unit::Temperature: return metric ? "deg C" : "deg F";
     case Unit::Percent: return "%";
+    case Unit::Inches: return "in";
+    case Unit::Altitude: return "ft";
+    case Unit::PoundsPerCubicFoot: return "lb/cu ft";
+    case Unit::GrainsPerPound: return "gr/lb";
   }
   return "";
 }
