@@ -134,8 +134,12 @@ TEST_F(MetricTest, AValueKeptInUsUnitsKeepsTheDigitsThatItsFieldCannotShow) {
   first_.Text4.Edit("21.11798");
   first_.Perform([this] { first_.UseTemperature(); });
   EXPECT_DOUBLE_EQ(context_->block.Temperature, 21.11798 * 9 / 5 + 32);
-  // In inches the text is the value.
+  // What is stored in metric stands in the inches' text too.
+  first_.Perform([this] { first_.StoreTemperature(88); });
+  EXPECT_EQ(first_.Text4.text(), "31.11111");
   first_.Check1.Click();
+  EXPECT_EQ(first_.Text4.text(), "88.0");
+  // In inches the text is the value.
   first_.Perform([this] { first_.StoreTemperature(70.0123456789); });
   first_.Perform([this] { first_.UseTemperature(); });
   EXPECT_EQ(context_->block.Temperature, 70.01234);
