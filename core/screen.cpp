@@ -776,15 +776,25 @@ void Screen::ReadCount(std::int16_t& slot, Field& field) const {
   }
 }
 
+double Screen::ReadKeptInUs(Field& field) const {
+  const double shown = Read(field);
+  const Holds::Slot slot = field.holds().In(block());
+  if (auto* const* value = std::get_if<double*>(&slot); value != nullptr && metric()) {
+    const bool stands = field.text() == TextOf(field, AsShown(field, **value));
+    std::feclearexcept(FE_OVERFLOW);  // of a value that is too large to show in metric
+    if (stands) return **value;
+  }
+  return InInches(field, shown);
+}
+
 void Screen::ReadFields(std::initializer_list<Field*> fields) {
   for (Field* field : fields) {
     const Holds::Slot slot = field->holds().In(block());
     if (auto* const* count = std::get_if<std::int16_t*>(&slot)) {
       ReadCount(**count, *field);
     } else if (auto* const* value = std::get_if<double*>(&slot)) {
-      const double shown = Read(*field);
       const bool keptInUs = field->holds().conversion() == Holds::Conversion::ShownOnly;
-      **value = keptInUs ? InInches(*field, shown) : shown;
+      **value = keptInUs ? ReadKeptInUs(*field) : Read(*field);
     } else {
       Read(*field);
     }
@@ -943,8 +953,11 @@ void Screen::ConvertValues(bool toMetric) {
     const bool readsText = value.conversion != Conversion::ByUnit;
     const bool isShown = readsText && IsNumber(value.field->text(), mark());
     if (value.slot == nullptr && !isShown) continue;
-    const double number = isShown ? Read(*value.field) : *value.slot;
-    double now = value.rule->Convert(number, toMetric);
+    const bool keptInUs = value.conversion == Conversion::ShownOnly;
+    const double number = !isShown   ? *value.slot
+                          : keptInUs ? ReadKeptInUs(*value.field)
+                                     : Read(*value.field);
+    double now = keptInUs && !toMetric ? number : value.rule->Convert(number, toMetric);
     // No field tells otherwise: what it was comes back to the last digit.
     if (!isShown && (value.field == nullptr || readsText) && was != nullptr &&
         was->after == number) {

@@ -748,6 +748,9 @@ class Screen {
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
   double Converted(const Field& field, double number, bool toMetric) const;
+  /// What a field stands for whose value is kept in US units. While it still shows its value, that
+  /// is it: the text may hold fewer digits. @throws CommandError (NotANumber) that names the field
+  double ReadKeptInUs(Field& field) const;
   std::vector<MetricValue> MetricValues();
   std::vector<Field*> Fields() const;
   std::string TextOf(const Field& field, double value) const;

@@ -78,6 +78,10 @@ enum class Unit {
   Percent,
   SpringRate,
   Modulus,  ///< of elasticity or rigidity
+  Inches,              ///< in both modes
+  Altitude,            ///< feet in both modes
+  PoundsPerCubicFoot,  ///< in both modes
+  GrainsPerPound,      ///< in both modes
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -101,6 +105,10 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Percent: return "%";
     case Unit::SpringRate: return "lb/in";
     case Unit::Modulus: return "psi";
+    case Unit::Inches: return "in";
+    case Unit::Altitude: return "ft";
+    case Unit::PoundsPerCubicFoot: return "lb/cu ft";
+    case Unit::GrainsPerPound: return "gr/lb";
   }
   return "";
 }

@@ -7,6 +7,7 @@
 #include "engine/engine_finder_screen.h"
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
+#include "reference/weather_screen.h"
 
 namespace veldox {
 
@@ -30,6 +31,7 @@ Program::Program(Host& host)
   AddScreen<Form9>();
   AddScreen<Form10>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
+  AddScreen<Form7>();
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });

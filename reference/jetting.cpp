@@ -90,14 +90,12 @@ std::vector<JettingRow> JettingRows(double jet, double rod, const WeatherChange&
   constexpr double kAllowance = 1e-9;
   const auto refuse = [](const char* why) { throw CommandError(ErrorKind::InvalidArgument, why); };
   if (!(jet <= kLargestJet)) {
-    refuse("The report is for jets of up to 10 inches: sizes are in inches, such as 0.082.");
+    refuse("is too large for the report, which is for jets of up to 10 inches, such as 0.082.");
   }
-  if (rod > jet) refuse("The Metering Rod must not be thicker than the Jet.");
+  if (rod > jet) refuse("is smaller than its Metering Rod.");
   const double needed = OpenAreaNeeded(jet, rod, change);
   if (!std::isfinite(needed)) {
-    refuse(
-        "No Jet can be computed: please check both Barometric Pressures, Humidities and "
-        "Temperatures.");
+    refuse("has no new size: please check both Barometric Pressures, Humidities and Temperatures.");
   }
   std::vector<JettingRow> rows;
   const double last = Floor(jet * kLargestPart * kThousandths + kAllowance);
@@ -107,7 +105,7 @@ std::vector<JettingRow> JettingRows(double jet, double rod, const WeatherChange&
     rows.push_back({size, RodFor(size, rod, needed)});
   }
   if (rows.empty()) {
-    refuse("No Jet up to 1.3 times the original one is large enough for the new conditions.");
+    refuse("is too small: no Jet up to 1.3 times its size is large enough for the new weather.");
   }
   return rows;
 }

@@ -43,8 +43,8 @@ struct JettingRow {
 
 /// The jets in whole thousandths from the old one up to 1.3 times it, each with the rod that makes
 /// it right; jets that would be too small without any rod are left out.
-/// @throws CommandError (InvalidArgument) beyond a jet of 10 inches, for a rod thicker than its
-///         jet, where there is no air, and where no jet is large enough
+/// @throws CommandError (InvalidArgument) that tells of the jet: beyond 10 inches, for a rod
+///         thicker than it, where there is no air, and where no jet is large enough
 std::vector<JettingRow> JettingRows(double jet, double rod, const WeatherChange& change);
 
 /// What the jetting report tells of.

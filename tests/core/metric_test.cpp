@@ -122,6 +122,29 @@ TEST_F(MetricTest, AValueKeptInUsUnitsIsMetricInItsFieldAlone) {
   EXPECT_EQ(context_->block.Temperature, 32);
 }
 
+TEST_F(MetricTest, AValueKeptInUsUnitsKeepsTheDigitsThatItsFieldCannotShow) {
+  shell_.Open(first_);
+  first_.Text4.SetText("70");
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text4.text(), "21.11111");
+  first_.Perform([this] { first_.StoreTemperature(70.0123456789); });
+  EXPECT_EQ(first_.Text4.text(), "21.11797");
+  first_.Perform([this] { first_.UseTemperature(); });
+  EXPECT_EQ(context_->block.Temperature, 70.0123456789);
+  first_.Text4.Edit("21.11798");
+  first_.Perform([this] { first_.UseTemperature(); });
+  EXPECT_DOUBLE_EQ(context_->block.Temperature, 21.11798 * 9 / 5 + 32);
+  // What is stored in metric stands in the inches' text too.
+  first_.Perform([this] { first_.StoreTemperature(88); });
+  EXPECT_EQ(first_.Text4.text(), "31.11111");
+  first_.Check1.Click();
+  EXPECT_EQ(first_.Text4.text(), "88.0");
+  // In inches the text is the value.
+  first_.Perform([this] { first_.StoreTemperature(70.0123456789); });
+  first_.Perform([this] { first_.UseTemperature(); });
+  EXPECT_EQ(context_->block.Temperature, 70.01234);
+}
+
 /// A screen that knows no inches.
 class MillimetreScreen : public Screen {
  public:

@@ -139,6 +139,52 @@ TEST_F(UnitsTest, WeatherIsConvertedOnce) {
   EXPECT_NEAR(block().BarometricPressure, 29.92, 1e-4) << inHg;
 }
 
+TEST_F(UnitsTest, TheWeatherScreensValuesStayInUsUnitsBesideAnotherMetricScreen) {
+  Menu("CubicInch");
+  Tick("Form1.Check1");
+  Set("Form1.Text27", "74.5701");
+  Click("Form1.Command1");
+  Menu("WEATHER");
+  EXPECT_EQ(Text("Form7.Text15"), "100.0");
+  Set("Form7.Text11", "86");
+  Tick("Form7.Check1");
+  EXPECT_EQ(Text("Form7.Text15"), "74.5701");
+  EXPECT_EQ(Text("Form7.Text11"), "30.0");
+  EXPECT_EQ(Text("Form7.Text10"), "1013.207");
+  Set("Form7.Text15", "149.1402");
+  Set("Form7.Text3", "15");
+  Click("Form7.Command1");
+  EXPECT_DOUBLE_EQ(block().HorsePower, 200);
+  EXPECT_EQ(block().BarometricPressure, 29.92);
+  EXPECT_EQ(block().Temperature, 86);
+  // 200 x 546 / 519 - 200, in kilowatts 7.758738...
+  EXPECT_NEAR(block().HorsePowerIncrease, 10.404624, 1e-6);
+  EXPECT_EQ(Text("Form7.Text18"), "7.758739");
+  Menu("CubicInch");
+  EXPECT_EQ(Text("Form1.Text27"), "149.1402");
+  Click("Form1.Command1");
+  EXPECT_NEAR(block().HorsePower, 149.1402, 1e-9);
+  Menu("WEATHER");
+  EXPECT_DOUBLE_EQ(block().HorsePower, 200);
+  EXPECT_EQ(Text("Form7.Text15"), "149.1402");
+}
+
+TEST_F(UnitsTest, TheWeatherScreenPointsAtTheFieldAtFault) {
+  Menu("WEATHER");
+  Set("Form7.Text21", "0.09");
+  host_.Answer(Button::OK);
+  Click("Form7.Command12");
+  EXPECT_EQ(Find<Field>("Form7.Text21").mark(), Mark::Error);
+  EXPECT_EQ(Find<Field>("Form7.Text21").screen().focus(), &Find<Field>("Form7.Text21"));
+  Set("Form7.Text21", "0.01");
+  Set("Form7.Text10", "12");
+  host_.Answer(Button::OK);
+  Click("Form7.Command12");
+  EXPECT_EQ(Find<Field>("Form7.Text21").mark(), Mark::None);
+  EXPECT_EQ(Find<Field>("Form7.Text19").mark(), Mark::Error);
+  EXPECT_FALSE(Find<ReportBox>("Form7.Text43").showsReport());
+}
+
 TEST_F(UnitsTest, DeckHeightSurvivesTwoMetricScreens) {
   Menu("CubicInch");
   Click("Form1.Command1");

@@ -102,7 +102,8 @@ TEST(JettingRows, RefuseWhatGivesNone) {
   };
   EXPECT_THAT(message([] { JettingRows(82, 33, kHotter); }), HasSubstr("10 inches"));
   EXPECT_THAT(message([] { JettingRows(std::nan(""), 0, kHotter); }), HasSubstr("10 inches"));
-  EXPECT_THAT(message([] { JettingRows(0.03, 0.04, kHotter); }), HasSubstr("thicker"));
+  EXPECT_THAT(message([] { JettingRows(0.03, 0.04, kHotter); }),
+              HasSubstr("smaller than its Metering Rod"));
   const WeatherChange noAir{{0.4, 59, 0.5}, {29.92, 100, 0.5}};
   EXPECT_THAT(message([&] { JettingRows(0.08, 0.03, noAir); }), HasSubstr("check both"));
   const WeatherChange sealed{{10, 60, 0}, {30, 60, 0}};
