@@ -145,8 +145,9 @@ ReportBox::ReportBox(Frame& frame, std::string name)
   SetVisible(false);
 }
 
-void ReportBox::ShowReport(std::string report, int fontSize) {
+void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file) {
   report_ = std::move(report);
+  file_ = file;
   fontSize_ = fontSize;
   showsReport_ = true;
   SetText(ReportBoxText(report_));
@@ -192,14 +193,15 @@ char32_t ReportBox::FilterKey(char32_t key) {
 }
 
 void ReportBox::WriteReportToFile() const {
-  constexpr int kPrinterFiles = 3;
   Host& host = screen().context().host;
   const auto path =
-      host.AskFile({FileDialog::Kind::Save,
-                    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt",
-                    kPrinterFiles, host.ProgramFolder()});
+      host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
-  SaveFile(*path, ReportFileText(report_));
+  std::string_view report = report_;
+  if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
+    report.remove_prefix(ReportPrompt.size());
+  }
+  SaveFile(*path, ReportFileText(report));
 }
 
 void ReportBox::PrintReport() const {
@@ -680,8 +682,14 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
   return report;
 }
 
-void Screen::ShowReport(std::string report, int fontSize) {
-  ReportPane()->ShowReport(std::move(report), fontSize);
+void Screen::FailAt(Field& field, std::string message) {
+  field.SetMark(Mark::Error);
+  field.Focus();
+  throw CommandError(ErrorKind::InvalidArgument, std::move(message));
+}
+
+void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file) {
+  ReportPane()->ShowReport(std::move(report), fontSize, file);
 }
 
 std::string Screen::TextOf(const Field& field, double value) const {

@@ -4,6 +4,7 @@
 #include "engine/compression_ratio_screen.h"
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
+#include "vehicle/elapsed_time_screen.h"
 
 namespace veldox {
 
@@ -24,6 +25,7 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
+  AddScreen<Form3>();
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
