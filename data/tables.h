@@ -16,6 +16,7 @@ struct TableRow {
   std::string_view name;
   std::string_view figures;  ///< the figures as they stand in the file, single blanks between them
   std::string_view source;   ///< where the figures come from
+  std::span<const std::string_view> cells{};  ///< the figures one by one, some perhaps empty
 };
 
 /// The rows that belong together, in the order of the file.
@@ -27,5 +28,35 @@ struct TableGroup {
 /// Production engines by make: bore, stroke and rod length in inches (a rod length of 0.0 is
 /// not known), number of cylinders. Made from engines.tsv by the build.
 std::span<const TableGroup> EngineTable();
+
+/// Units by the heading over them: index of the unit's option button, that of the unit it comes
+/// of (empty for one that others come of), and the steps from that unit to this one, such as
+/// "- 32 * 5 / 9", taken from left to right. Made from units.tsv.
+std::span<const TableGroup> UnitTable();
+
+/// Conversion charts by quantity: number of the chart's button, options of the units from which
+/// and to which it converts, its step, the decimals of what it converts to, and the heads of both
+/// columns. Made from conversions.tsv.
+std::span<const TableGroup> ConversionTable();
+
+/// Drills by number and by letter, each with its diameter in inches. Made from drills.tsv.
+std::span<const TableGroup> DrillTable();
+
+/// Taps of the coarse and of the fine thread: threads an inch and drill. Made from taps.tsv.
+std::span<const TableGroup> TapTable();
+
+/// Taps of taper pipe threads: threads an inch, drill, and outside diameter of the pipe in inches.
+/// Made from pipe_taps.tsv.
+std::span<const TableGroup> PipeTapTable();
+
+/// Metric taps: pitch and drill in millimetres. Made from metric_taps.tsv.
+std::span<const TableGroup> MetricTapTable();
+
+/// Dash sizes: inside diameter of the hose and outside diameter of the tube as fractions of an
+/// inch, and thread of the fitting. Hose and thread may be empty. Made from dash_sizes.tsv.
+std::span<const TableGroup> DashTable();
+
+/// Numbers of steels by family, each with what they are alloyed with. Made from steels.tsv.
+std::span<const TableGroup> SteelTable();
 
 }  // namespace veldox

@@ -9,6 +9,8 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/support/test_host.h"
 
@@ -58,12 +60,15 @@ TEST_F(CompileTable, WritesTheRowsAsTheyStand) {
   std::ifstream file(folder_ / "t.cpp");
   std::ostringstream text;
   text << file.rdbuf();
-  EXPECT_THAT(text.str(),
-              HasSubstr("{TableRow::Kind::Header, \"4 \\\"Cylinder\\\"\", \"\", \"\"}"));
   EXPECT_THAT(
       text.str(),
-      HasSubstr("{TableRow::Kind::Figures, \"I-134\", \"3.125 4.375 9.1875 4\", \"maker\"}"));
-  EXPECT_THAT(text.str(), HasSubstr("{TableRow::Kind::NameOnly, \"304\", \"\", \"\"}"));
+      HasSubstr("{TableRow::Kind::Header, \"4 \\\"Cylinder\\\"\", \"\", \"\", {kCells + 0, 0}}"));
+  EXPECT_THAT(text.str(), HasSubstr("{TableRow::Kind::Figures, \"I-134\", \"3.125 4.375 9.1875 "
+                                    "4\", \"maker\", {kCells + 0, 4}}"));
+  EXPECT_THAT(text.str(),
+              HasSubstr("    \"3.125\",\n    \"4.375\",\n    \"9.1875\",\n    \"4\",\n"));
+  EXPECT_THAT(text.str(),
+              HasSubstr("{TableRow::Kind::NameOnly, \"304\", \"\", \"\", {kCells + 4, 0}}"));
   EXPECT_THAT(text.str(), HasSubstr("{\"AMC\", {kRows + 0, 3}}"));
 }
 
@@ -99,6 +104,80 @@ TEST_F(CompileTable, RefusesHeadsItDoesNotKnow) {
   EXPECT_THAT(Compile("kind\tgroup\tname\tbore\tsource\n"), HasSubstr("the heads must be"));
   EXPECT_THAT(Compile(kHeads), HasSubstr("has no rows"));
   EXPECT_THAT(Compile(""), HasSubstr("has no rows"));
+}
+
+class CompileOtherTable : public CompileTable {
+ protected:
+  /// Expects a table to pass, and to be refused with any of the bad rows behind the good ones.
+  /// @param heads  of the figures
+  void Check(const std::string& heads, const std::vector<std::string>& good,
+             const std::vector<std::pair<std::string, std::string>>& bad) {
+    std::string table = "group\tkind\tname\t" + heads + "\tsource\n";
+    for (const std::string& row : good) table += row + '\n';
+    EXPECT_EQ(Compile(table), "");
+    ASSERT_TRUE(passed_);
+    const std::string line = "t.tsv:" + std::to_string(good.size() + 2) + ": ";
+    for (const auto& [row, words] : bad) {
+      const std::string said = Compile(table + row + '\n');
+      EXPECT_FALSE(passed_) << row;
+      EXPECT_THAT(said, HasSubstr(line + words)) << row;
+    }
+  }
+};
+
+TEST_F(CompileOtherTable, OfTaps) {
+  Check("threads\tdrill",
+        {"UNC\ttap\t4\t4\t3-3/4\tASME", "UNC\ttap\t2\t4-1/2\t1-25/32\tASME",
+         "UNC\ttap\t#1\t64\t#53\tASME", "UNF\ttap\t3/8\t24\tQ\tASME"},
+        {{"UNF\ttap\tX\t4.5\tQ\tASME", "threads \"4.5\" is not a fraction"},
+         {"UNF\ttap\tX\t\tQ\tASME", "threads \"\" is not a fraction"},
+         {"UNF\ttap\tX\t24\t2/4\tASME", "drill \"2/4\" is not a drill"},
+         {"UNF\ttap\tX\t24\t5/4\tASME", "drill \"5/4\" is not a drill"},
+         {"UNF\ttap\tX\t24\t1/3\tASME", "drill \"1/3\" is not a drill"},
+         {"UNF\ttap\tX\t24\t0-1/4\tASME", "drill \"0-1/4\" is not a drill"},
+         {"UNF\ttap\tX\t24\t1-/4\tASME", "drill \"1-/4\" is not a drill"},
+         {"UNF\ttap\tX\t24\t1/\tASME", "drill \"1/\" is not a drill"},
+         {"UNF\ttap\tX\t24\t#81\tASME", "drill \"#81\" is not a drill"},
+         {"UNF\ttap\tX\t24\t#0\tASME", "drill \"#0\" is not a drill"},
+         {"UNF\ttap\tX\t24\tq\tASME", "drill \"q\" is not a drill"},
+         {"UNF\ttap\tX\t24\tQ\t", "the figures have no source"},
+         {"UNF\ttap\tX\t\t\t", "the row has no figures"},
+         {"UNF\tengine\tX\t24\tQ\tASME", "no such kind: engine"}});
+}
+
+TEST_F(CompileOtherTable, OfUnits) {
+  const std::vector<std::string> good{
+      "Length\tunit\tMM\t9\t11\t* 25.4\tgiven", "Length\tunit\tInches\t11\t\t\tgiven",
+      "Heat\tunit\tF\t23\t\t\tgiven", "Heat\tunit\tC\t24\t23\t- 32 * 5 / 9\tgiven",
+      "Vacuum\tunit\tV\t0\t9\t* -1\tgiven"};
+  const std::string unit = "More\tunit\tX\t";
+  Check("option\tof\tsteps", good,
+        {{unit + "7\t99\t* 2\tgiven", "of \"99\" is out of range"},
+         {unit + "7\t8\t* 2\tgiven", "no unit has the option 8"},
+         {unit + "9\t11\t* 2\tgiven", "the option stands twice: 9"},
+         {unit + "64\t11\t* 2\tgiven", "option \"64\" is out of range"},
+         {unit + "7\t7\t* 2\tgiven", "the unit comes of itself: 7"},
+         {unit + "7\t11\t\tgiven", "a unit comes of another by steps, or of none"},
+         {unit + "7\t\t* 2\tgiven", "a unit comes of another by steps, or of none"},
+         {unit + "7\t11\t2\tgiven", "steps \"2\" are not signs and numbers"},
+         {unit + "7\t11\t* 2 /\tgiven", "steps \"* 2 /\" are not"},
+         {unit + "7\t11\t*  2\tgiven", "steps \"*  2\" are not"},
+         {unit + "7\t11\t^ 2\tgiven", "steps \"^ 2\" are not"},
+         {unit + "7\t11\t/ 0\tgiven", "steps \"/ 0\" are not"},
+         {unit + "7\t11\t* two\tgiven", "steps \"* two\" are not"}});
+}
+
+TEST_F(CompileOtherTable, OfTextsThatMayBeLeftOut) {
+  Check("hose\ttube\tthread",
+        {"AN\tdash\t-2\t\t1/8\t5/16-24\tSAE", "AN\tdash\t-72\t\t4-1/2\t\tSAE"},
+        {{"AN\tdash\t-4\t3/16\t\t7/16-20\tSAE", "tube \"\" is not a fraction"}});
+  Check("alloy", {"Carbon\tsteel\t10XX\tplain\tSAE"},
+        {{"Carbon\tsteel\t11XX\t\tSAE", "alloy \"\" is not told"}});
+}
+
+TEST_F(CompileTable, RefusesColumnsOfTwoKinds) {
+  EXPECT_THAT(Compile("group\tkind\tname\tbore\tdrill\tsource\n"),
+              HasSubstr("t.tsv:1: no kind of table has these columns"));
 }
 
 }  // namespace
