@@ -5,6 +5,7 @@
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
+#include "vehicle/gearbox_finder_screen.h"
 
 namespace veldox {
 
@@ -25,7 +26,9 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
-  AddScreen<Form3>();
+  auto& elapsedTime = AddScreen<Form3>();
+  auto& gearboxFinder = AddScreen<Form19>();
+  gearboxFinder.AddTaker(elapsedTime);
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });

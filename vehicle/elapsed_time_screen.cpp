@@ -54,6 +54,11 @@ void Form3::ChooseTransmission() {
   TellSlippage();
 }
 
+void Form3::TakeGearbox(const Gearbox& gearbox) {
+  Check2.SetOn(gearbox.isAutomatic);
+  ChooseTransmission();
+}
+
 void Form3::ConvertUnits() {
   ReadConversionFields();
   SwitchUnits();

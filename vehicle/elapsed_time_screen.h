@@ -6,6 +6,7 @@
 
 #include "core/screen.h"
 #include "vehicle/elapsed_time.h"
+#include "vehicle/gearbox.h"
 #include "vehicle/horsepower_curve.h"
 
 namespace veldox {
@@ -13,7 +14,7 @@ namespace veldox {
 /// Elapsed time, speed and power of a drag run, each estimated from the others; the conversions of
 /// horsepower, torque and mean pressure; split times of up to three runs; and standard horsepower
 /// curves, also as a file for the acceleration screen.
-class Form3 : public Screen {
+class Form3 : public Screen, public GearboxTaker {
  public:
   explicit Form3(ProgramContext& context);
 
@@ -22,6 +23,7 @@ class Form3 : public Screen {
   Control* HelpPlace() override { return &Label7; }
   ReportBox* ReportPane() override { return &Text38; }
   void Hover(Control* control) override;
+  void TakeGearbox(const Gearbox& gearbox) override;
 
  private:
   /// A run down the strip as its fields stand side by side.
