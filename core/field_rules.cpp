@@ -71,6 +71,26 @@ void FieldRules::Filter(KeyRule rule, std::string_view text, char32_t& key) {
   }
 }
 
+bool FieldRules::Takes(KeyRule rule, std::string_view text) const {
+  if (rule == KeyRule::AnyText) return true;
+  if (rule == KeyRule::OutputOnly) return text.empty();
+  const bool isReal = rule == KeyRule::UnsignedReal || rule == KeyRule::SignedReal;
+  const bool isSigned = rule == KeyRule::SignedReal || rule == KeyRule::SignedDigits;
+  int marks = 0;
+  int signs = 0;
+  for (const char c : text) {
+    const auto key = static_cast<char32_t>(static_cast<unsigned char>(c));
+    if (isReal && key == MarkKey()) {
+      ++marks;
+    } else if (isSigned && c == '-') {
+      ++signs;
+    } else if (!IsDigit(key)) {
+      return false;
+    }
+  }
+  return marks <= 1 && signs <= 1;
+}
+
 void FieldRules::KeyOutputOnly(char32_t& key) {
   if (!IsControlKey(key)) key = 0;
   NoteChange();

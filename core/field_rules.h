@@ -43,6 +43,10 @@ class FieldRules {
   /// Runs the filter of a rule on a key typed while the field holds `text`.
   void Filter(KeyRule rule, std::string_view text, char32_t& key);
 
+  /// True when every character of a text that is put in as a whole passes a rule; nobody is
+  /// told when one does not.
+  bool Takes(KeyRule rule, std::string_view text) const;
+
   void KeyOutputOnly(char32_t& key);
   void KeyDigits(char32_t& key);
   void KeyUnsignedReal(std::string_view text, char32_t& key);

@@ -37,6 +37,13 @@ class Holds {
   Holds(double& (*cell)(ParameterBlock&, int row, int column), int row, int column)
       : place_(TableCell{cell, row, column}) {}
 
+  /// The same column of a table in another row; of a value that is no table's the value itself.
+  Holds InRow(int row) const {
+    Holds other = *this;
+    if (auto* cell = std::get_if<TableCell>(&other.place_)) cell->row = row;
+    return other;
+  }
+
   // ---- what is not the rule
 
   /// Shown when the screen opens, though its key is no plain number.
@@ -122,5 +129,11 @@ class Holds {
   const UnitRule* rule_ = nullptr;
   NumberFormat format_ = nullptr;
 };
+
+/// A column of a table of the shared values, from its first row on.
+template <auto Member>
+Holds HoldsColumn(int column = 0) {
+  return {&TableNumber<Member>, 0, column};
+}
 
 }  // namespace veldox

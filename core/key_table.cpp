@@ -37,23 +37,10 @@ constexpr KeyRow BlankBehindEquals(KeyRow row) {
 }
 
 template <auto Member>
-double& Cell(ParameterBlock& block, int row, int column) {
-  auto& element = (block.*Member).at(static_cast<std::size_t>(row));
-  using Element = std::remove_reference_t<decltype(element)>;
-  if constexpr (std::is_same_v<Element, double>) {
-    return element;
-  } else if constexpr (std::is_same_v<Element, LiftPair>) {
-    return column == 0 ? element.Lift : element.Flow;
-  } else {
-    return element.at(static_cast<std::size_t>(column));
-  }
-}
-
-template <auto Member>
 constexpr KeyRow Table(std::string_view key, TableForm form, int firstRow, std::string_view owner) {
   using Array = std::remove_reference_t<decltype(std::declval<P&>().*Member)>;
   using Element = typename Array::value_type;
-  KeyRow row{key, KeyForm::Table, {}, owner, form, &Cell<Member>, firstRow};
+  KeyRow row{key, KeyForm::Table, {}, owner, form, &TableNumber<Member>, firstRow};
   row.rows = static_cast<int>(std::tuple_size_v<Array>);
   if constexpr (std::is_same_v<Element, LiftPair>) row.rowWidth = 2;
   if constexpr (std::is_same_v<Element, NitrousStage>) row.rowWidth = 5;

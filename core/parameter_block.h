@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 
 namespace veldox {
 
@@ -572,5 +573,19 @@ struct ParameterBlock {
   std::string CurrentScreenTag;
   std::string ParameterFileName;
 };
+
+/// One number of a table by its row and column. @throws std::out_of_range beyond the bounds
+template <auto Member>
+double& TableNumber(ParameterBlock& block, int row, int column) {
+  auto& element = (block.*Member).at(static_cast<std::size_t>(row));
+  using Element = std::remove_reference_t<decltype(element)>;
+  if constexpr (std::is_same_v<Element, double>) {
+    return element;
+  } else if constexpr (std::is_same_v<Element, LiftPair>) {
+    return column == 0 ? element.Lift : element.Flow;
+  } else {
+    return element.at(static_cast<std::size_t>(column));
+  }
+}
 
 }  // namespace veldox

@@ -11,6 +11,8 @@
 #include "core/error.h"
 #include "core/files.h"
 #include "core/host.h"
+#include "core/line_reader.h"
+#include "core/notes.h"
 #include "core/numbers.h"
 #include "core/text.h"
 #include "core/units.h"
@@ -58,6 +60,12 @@ constexpr std::string_view kNotesKey = "Notes";
 constexpr std::string_view kErrorTitle = "VELDOX - Error Message";
 constexpr std::string_view kReadingError =
     "Error Reading Parameter File --- If you have Not edited it, email support@veldox.example";
+
+/// The bad records that are told one by one; what follows is told in one box.
+constexpr int kMostBadRecordBoxes = 19;
+
+/// Of so many lines at the beginning, one at least is a key in every parameter file.
+constexpr int kProbedLines = 10;
 
 /// The most of a line that a message shows, in characters.
 constexpr std::size_t kShownCharacters = 500;
@@ -118,22 +126,6 @@ bool StartsIgnoringCase(std::string_view text, std::string_view prefix) {
   return text.size() >= prefix.size() && SameIgnoringCase(text.substr(0, prefix.size()), prefix);
 }
 
-/// Small letters for the capitals of the western European alphabets.
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (std::size_t i = 0; i < lower.size(); ++i) {
-    lower[i] = LowerLetter(lower[i]);
-    // U+00C0 to U+00DE are the accented capitals, but for the multiplication sign U+00D7.
-    if (lower[i] == '\xC3' && i + 1 < lower.size()) {
-      const auto next = static_cast<unsigned char>(lower[i + 1]);
-      if (next >= 0x80 && next <= 0x9E && next != 0x97) {
-        lower[i + 1] = static_cast<char>(next + 0x20);
-      }
-    }
-  }
-  return lower;
-}
-
 std::string_view Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
@@ -144,21 +136,6 @@ std::string_view Trim(std::string_view text) {
 std::string OneLine(std::string text) {
   std::ranges::replace_if(
       text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  return text;
-}
-
-/// The notes with CR LF at every line's end, however they were entered.
-std::string WithFileLineEnds(std::string_view notes) {
-  std::string text;
-  text.reserve(notes.size());
-  for (std::size_t i = 0; i < notes.size(); ++i) {
-    if (notes[i] == '\r' || notes[i] == '\n') {
-      text += kLineEnd;
-      if (notes[i] == '\r' && i + 1 < notes.size() && notes[i + 1] == '\n') ++i;
-    } else {
-      text += notes[i];
-    }
-  }
   return text;
 }
 
@@ -422,12 +399,26 @@ class ParameterFile::Writer {
     return static_cast<std::size_t>(std::clamp<int>(count, 0, kTorqueRows));
   }
 
+  /// False where whole numbers would make two speeds the same, of which the reader drops one.
+  bool RisesInWholeNumbers(const TorqueColumn& speeds, std::size_t rows) const {
+    const auto whole = [&](std::size_t i) {
+      return ParseNumber(FormatInt(speeds[i], mark_), mark_);
+    };
+    for (std::size_t i = 1; i < rows; ++i) {
+      if (!(whole(i) > whole(i - 1))) return false;
+    }
+    return true;
+  }
+
   void WriteTorqueRows() {
     Comments(kTorqueHeader);
-    for (std::size_t i = 0; i < Rows(block_.AccelRowCount); ++i) {
+    const std::size_t rows = Rows(block_.AccelRowCount);
+    const bool wholeRpm = RisesInWholeNumbers(block_.AccelRpm, rows);
+    for (std::size_t i = 0; i < rows; ++i) {
       written_.bytes += kTorqueKeys[0].key;
       written_.bytes += " = ";
-      AppendInt(block_.AccelRpm[i]);
+      written_.bytes +=
+          wholeRpm ? FormatInt(block_.AccelRpm[i], mark_) : FormatShortest(block_.AccelRpm[i]);
       written_.bytes += ' ';
       written_.bytes += FormatValue<"0.0#">(block_.AccelTorque[i], mark_);
       if (block_.AccelFuel[i] > 0) {
@@ -471,13 +462,33 @@ class ParameterFile::Reader {
         block_(file.context_.block),
         mark_(file.context_.mark()),
         fileName_(fileName),
-        rest_(text) {
+        text_(text),
+        lines_(text, NameWithoutFolder(fileName)) {
     const auto table = KeyTable();
     nextRow_.reserve(table.size());
     for (const KeyRow& row : table) {
       nextRow_.push_back(row.firstRow);
       longestKey_ = std::max(longestKey_, row.key.size());
       if (IsGearForm(row.tableForm)) gearRows_.push_back(&row);
+    }
+  }
+
+  /// @throws CommandError (File) for what is no parameter file
+  void RequireParameterFile() const {
+    const auto refuse = [&](const char* reason) {
+      throw CommandError(ErrorKind::File, "This is no parameter file: " + std::string(reason) +
+                                              std::string(kLineEnd) + lines_.File());
+    };
+    if (text_.find('\0') != std::string_view::npos) refuse("it holds NUL bytes, as no text does.");
+    std::string_view rest = text_;
+    for (int probed = 0; probed < kProbedLines && !rest.empty();) {
+      const std::size_t end = std::min(rest.find('\n'), rest.size());
+      std::string_view line = rest.substr(0, end);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
+      if (line.ends_with('\r')) line.remove_suffix(1);
+      if (SaysNothing(line)) continue;
+      if (IsKeyLine(line)) return;
+      if (++probed == kProbedLines) refuse("none of its first ten lines begins with a key.");
     }
   }
 
@@ -488,16 +499,18 @@ class ParameterFile::Reader {
     block_.RoadRpmRowCount = 0;
     try {
       while (NextLine()) {
-        ++records_;
         if (!ReadLine()) break;
       }
     } catch (const CommandError& error) {
-      failure_ = error.message();
+      failure_ = error;
+      // Notes are taken whole or not at all.
+      if (inNotes_) block_.Notes.clear();
     }
+    TellFurtherBadRecords();
     if (block_.AccelRowCount == 0) block_.AccelRowCount = kDefaultTorqueRows;
   }
 
-  int records() const { return records_; }
+  int records() const { return lines_.number(); }
 
   /// Shows what ended the reading, if anything did. The messages of errors begin with
   /// the verb, here as for a field.
@@ -505,16 +518,20 @@ class ParameterFile::Reader {
     if (!failure_) return;
     std::string text(kReadingError);
     text += kLineEnd;
-    text += fileName_;
-    text += kLineEnd;
-    text += "Record # ";
-    text += RecordNumber();
-    text += kLineEnd;
-    text += "Data --> ";
-    text += Clipped(line_, kShownCharacters);
-    text += kLineEnd;
-    text += "The value ";
-    text += Clipped(*failure_, kShownCharacters);
+    if (failure_->kind() == ErrorKind::File) {
+      text += failure_->message();  // which tells file and record itself
+    } else {
+      text += fileName_;
+      text += kLineEnd;
+      text += "Record # ";
+      text += RecordNumber(records());
+      text += kLineEnd;
+      text += "Data --> ";
+      text += Clipped(line_, kShownCharacters);
+      text += kLineEnd;
+      text += "The value ";
+      text += Clipped(failure_->message(), kShownCharacters);
+    }
     context_.host.Ask(
         {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   }
@@ -528,28 +545,52 @@ class ParameterFile::Reader {
     std::size_t count = 0;
   };
 
+  static std::string NameWithoutFolder(const std::string& fileName) {
+    const std::filesystem::path path(std::u8string(fileName.begin(), fileName.end()));
+    return PathText(path.filename());
+  }
+
   bool NextLine() {
-    if (rest_.empty()) return false;
-    const std::size_t end = rest_.find('\n');
-    line_ = rest_.substr(0, end);
-    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
-    if (line_.ends_with('\r')) line_.remove_suffix(1);
-    return true;
+    const bool there = lines_.Next();
+    line_ = lines_.line();
+    return there;
+  }
+
+  static bool SaysNothing(std::string_view line) {
+    return line.starts_with(';') || Trim(line).empty();
+  }
+
+  /// What stands before " =".
+  static std::string_view KeyOf(std::string_view line) {
+    const std::size_t end = line.find(" =");
+    return end == std::string_view::npos ? std::string_view{} : line.substr(0, end);
+  }
+
+  /// True for a line that begins with a key, whatever its value.
+  bool IsKeyLine(std::string_view line) const {
+    const std::string_view key = KeyOf(line);
+    const auto isKey = [&](const auto& entry) { return SameIgnoringCase(key, entry.key); };
+    return SameIgnoringCase(key, kNotesKey) || key == kRoadMphKey || key == kRoadRpmKey ||
+           (!key.empty() && key.size() <= longestKey_ && FindKey(key) != nullptr) ||
+           std::ranges::any_of(kTorqueKeys, isKey) || std::ranges::any_of(kGridColorKeys, isKey) ||
+           std::ranges::any_of(kNitrousKeys, isKey) ||
+           std::ranges::any_of(
+               gearRows_, [&](const KeyRow* row) { return StartsIgnoringCase(line, row->key); });
   }
 
   /// False when the user has had enough.
   bool ReadLine() {
     if (inNotes_) {
+      if (block_.Notes.size() + kLineEnd.size() + line_.size() > kMostNoteBytes) {
+        throw lines_.Refusal(kNotesTooLong);
+      }
       block_.Notes += kLineEnd;
       block_.Notes += line_;
       return true;
     }
-    if (line_.starts_with(';') || Trim(line_).empty()) return true;
-    const std::size_t end = line_.find(" =");
-    const std::string_view key =
-        end == std::string_view::npos ? std::string_view{} : line_.substr(0, end);
-    const std::string_view value =
-        end == std::string_view::npos ? std::string_view{} : line_.substr(end + 2);
+    if (SaysNothing(line_)) return true;
+    const std::string_view key = KeyOf(line_);
+    const std::string_view value = key.empty() ? std::string_view{} : line_.substr(key.size() + 2);
     if (SameIgnoringCase(key, kNotesKey)) {
       BeginNotes(value);
       return true;
@@ -570,17 +611,12 @@ class ParameterFile::Reader {
     return AskAboutLine();
   }
 
-  /// Everything behind the key is a note. The first line has lost its capitals and the
-  /// character behind the "="; in comma mode its first point is a comma, as in any value.
+  /// Everything behind the key and the character that follows its "=" is a note, to the letter.
   void BeginNotes(std::string_view value) {
     inNotes_ = true;
-    std::string text = Lower(value);
-    if (mark_ == DecimalMark::Comma) {
-      if (const std::size_t point = text.find('.'); point != std::string::npos) text[point] = ',';
-    }
-    std::size_t skipped = text.empty() ? 0 : 1;
-    while (skipped < text.size() && IsContinuationByte(text[skipped])) ++skipped;
-    block_.Notes = text.substr(skipped);
+    std::size_t skipped = value.empty() ? 0 : 1;
+    while (skipped < value.size() && IsContinuationByte(value[skipped])) ++skipped;
+    block_.Notes = value.substr(skipped);
   }
 
   bool ReadKey(std::string_view key, std::string_view value) {
@@ -719,7 +755,7 @@ class ParameterFile::Reader {
     const double rpm = numbers[0];
     const auto row = static_cast<std::size_t>(block_.AccelRowCount);
     if (row > 0 && !(rpm > block_.AccelRpm[row - 1])) {
-      context_.host.Ask({Icon::Warning, std::string(kErrorTitle), InvalidRecord(), {Button::OK}});
+      TellBadRecord({Button::OK});
       return;
     }
     if (row >= kTorqueRows) ThrowTableIsFull();
@@ -794,19 +830,36 @@ class ParameterFile::Reader {
     return index;
   }
 
-  std::string RecordNumber() const { return FormatValue<"#,##0">(records_, mark_); }
+  std::string RecordNumber(int number) const { return FormatValue<"#,##0">(number, mark_); }
 
   std::string InvalidRecord() const {
-    return "Invalid Input Record # - " + RecordNumber() + "   Data --> " +
-           Clipped(line_, kShownCharacters);
+    return "Invalid Input Record # - " + RecordNumber(records()) + "   Data --> " +
+           Clipped(line_, kShownCharacters) + std::string(kLineEnd) + lines_.File();
   }
 
   /// Tells a line that is no key; false when the user leaves the reading.
-  bool AskAboutLine() {
-    return context_.host.Ask({Icon::Warning,
-                              std::string(kErrorTitle),
-                              InvalidRecord(),
-                              {Button::OK, Button::Cancel}}) != Button::Cancel;
+  bool AskAboutLine() { return TellBadRecord({Button::OK, Button::Cancel}) != Button::Cancel; }
+
+  /// Tells a bad record, or counts it where enough of them were told one by one.
+  Button TellBadRecord(std::vector<Button> buttons) {
+    if (++badRecords_ <= kMostBadRecordBoxes) {
+      return context_.host.Ask(
+          {Icon::Warning, std::string(kErrorTitle), InvalidRecord(), std::move(buttons)});
+    }
+    if (firstFurther_.empty()) firstFurther_ = InvalidRecord();
+    return Button::OK;
+  }
+
+  void TellFurtherBadRecords() {
+    const int further = badRecords_ - kMostBadRecordBoxes;
+    if (further <= 0) return;
+    std::string text = firstFurther_;
+    if (further > 1) {
+      text = RecordNumber(further) +
+             " more records of this file are invalid. The first of them:" + std::string(kLineEnd) +
+             firstFurther_;
+    }
+    context_.host.Ask({Icon::Warning, std::string(kErrorTitle), std::move(text), {Button::OK}});
   }
 
   ParameterFile& file_;
@@ -814,11 +867,13 @@ class ParameterFile::Reader {
   ParameterBlock& block_;
   DecimalMark mark_;
   const std::string& fileName_;
-  std::string_view rest_;
+  std::string_view text_;
+  LineReader lines_;
   std::string_view line_;
-  int records_ = 0;
   bool inNotes_ = false;
-  std::optional<std::string> failure_;
+  int badRecords_ = 0;
+  std::string firstFurther_;  // the first bad record that had no box of its own
+  std::optional<CommandError> failure_;
   std::size_t longestKey_ = 0;
   std::vector<const KeyRow*> gearRows_;
   std::vector<int> nextRow_;  // of every array key: the row that its next line fills
@@ -888,6 +943,7 @@ int ParameterFile::ReadBytes(std::string_view bytes, const std::string& fileName
 
 int ParameterFile::ReadText(std::string_view text, const std::string& fileName) {
   Reader reader(*this, text, fileName);
+  reader.RequireParameterFile();
   {
     const BusyCursor busy(context_.host);
     reader.Run();

@@ -42,10 +42,12 @@ class ParameterFile {
 
   /// Reads a file into the block and the fields that show its values. Everything that is
   /// wrong with it is told in boxes; what was read before stays. @return the records read
-  /// @throws CommandError (File) when the file cannot be opened; then nothing has changed
+  /// @throws CommandError (File) when the file cannot be opened or is no parameter file; then
+  ///         nothing has changed
   int ReadParameterFile(const std::filesystem::path& path);
 
   /// The same for the bytes of a file, with the name that messages tell.
+  /// @throws CommandError (File) for bytes that are no parameter file
   int ReadBytes(std::string_view bytes, const std::string& fileName);
 
  private:

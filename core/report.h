@@ -26,6 +26,10 @@ inline constexpr std::string_view ReportPrompt =
 inline constexpr std::string_view PagePrompt =
     "Pressing the . key will cause this Page to be Written to a Disk File.\r\n\r\n";
 
+/// What a chart begins with in place of ReportPrompt.
+inline constexpr std::string_view ChartPrompt =
+    "               Please press , To Print this Chart\r\n";
+
 /// The warning before a report that is longer than a text box may hold.
 inline constexpr std::string_view OverflowNote =
     "You could be trying to Generate More Lines than can fit in the Text Box\r\n\r\n"
@@ -53,8 +57,11 @@ std::string ReportFileText(std::string_view report);
 /// Builds a report line by line: cells of numbers by ReportColumns, texts as they are.
 class ReportWriter : public ReportColumns {
  public:
-  /// Begins a report with ReportPrompt.
-  explicit ReportWriter(DecimalMark mark) : ReportColumns(mark) { ReportLine = ReportPrompt; }
+  /// Begins a report. @param prompt  its first line, which is never printed
+  explicit ReportWriter(DecimalMark mark, std::string_view prompt = ReportPrompt)
+      : ReportColumns(mark) {
+    ReportLine = prompt;
+  }
 
   /// Appends a text to the line.
   ReportWriter& Add(std::string_view text) {

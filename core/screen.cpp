@@ -11,7 +11,9 @@
 #include "core/files.h"
 #include "core/key_table.h"
 #include "core/pages.h"
+#include "core/panel.h"
 #include "core/report.h"
+#include "core/table.h"
 
 namespace veldox {
 
@@ -38,7 +40,34 @@ std::string Control::PlainCaption() const {
 }
 
 bool Control::Shown() const {
-  return visible_ && (frame_ == nullptr || frame_->visible());
+  return visible_ && (frame_ == nullptr || frame_->Shown()) &&
+         (whole_ == nullptr || whole_->visible());
+}
+
+bool Control::Reachable() const {
+  if (!Shown()) return false;
+  const Panel* top = screen_.topPanel();
+  if (top == nullptr || this == top) return true;
+  for (const Frame* frame = frame_; frame != nullptr; frame = frame->frame()) {
+    if (frame == top) return true;
+  }
+  // What stands at the foot of the window is never covered.
+  return this == screen_.QuitCommand() || this == screen_.HelpPlace() ||
+         this == screen_.ReportPane();
+}
+
+char Control::accessKey() const {
+  for (std::size_t i = 0; i + 1 < caption_.size(); ++i) {
+    if (caption_[i] != '&') continue;
+    const char key = caption_[i + 1];
+    if (key != '&') return key >= 'A' && key <= 'Z' ? static_cast<char>(key - 'A' + 'a') : key;
+    ++i;  // a sign that is shown
+  }
+  return 0;
+}
+
+void Control::AppendReadingOrder(std::vector<Control*>& order) {
+  order.push_back(this);
 }
 
 void Control::Changed() {
@@ -65,6 +94,11 @@ void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
   Changed();
+  // Frames inside show and go with it.
+  if (kind_ != ControlKind::Frame) return;
+  for (Control* control : static_cast<Frame*>(this)->controls()) {
+    if (control->kind() == ControlKind::Frame) control->Changed();
+  }
 }
 
 void Control::SetEnabled(bool enabled) {
@@ -90,6 +124,24 @@ Frame::Frame(Screen& screen, std::string name, std::string caption, int column)
     : Control(screen, nullptr, ControlKind::Frame, std::move(name), std::move(caption), {}),
       column_(column) {
   screen.frames_.push_back(this);
+  screen.outermost_.push_back(this);
+}
+
+Frame::Frame(Frame& outer, std::string name, std::string caption, int column)
+    : Control(outer.screen(), &outer, ControlKind::Frame, std::move(name), std::move(caption), {}),
+      column_(column) {}
+
+Frame::Frame(Screen& screen, std::string name, std::string caption, Sheet)
+    : Control(screen, nullptr, ControlKind::Frame, std::move(name), std::move(caption), {}),
+      column_(0) {
+  screen.outermost_.push_back(this);
+}
+
+void Frame::AppendReadingOrder(std::vector<Control*>& order) {
+  order.push_back(this);
+  for (Control* control : controls_) {
+    if (control->whole() == nullptr) control->AppendReadingOrder(order);
+  }
 }
 
 TextControl::TextControl(Frame& frame, ControlKind kind, std::string name, std::string caption,
@@ -110,8 +162,14 @@ void TextControl::Edit(std::string text) {
 }
 
 char32_t TextControl::FilterKey(char32_t key) {
-  screen().context().rules.Filter(rule_, text_, key);
+  screen().context().rules.Filter(rule(), text_, key);
   return key;
+}
+
+void TextControl::RefuseKeys(bool refuse) {
+  if (refuse == readOnly_) return;
+  readOnly_ = refuse;
+  Changed();
 }
 
 bool TextControl::Enter() {
@@ -214,21 +272,25 @@ Label::Label(Frame& frame, std::string name, std::string caption)
     : Control(frame.screen(), &frame, ControlKind::Label, std::move(name), std::move(caption), {}) {
 }
 
-Command::Command(Frame& frame, std::string name, std::string caption, std::string help)
-    : Control(frame.screen(), &frame, ControlKind::Command, std::move(name), std::move(caption),
-              std::move(help)) {
-  SetEnabled(false);
-}
-
 Command::Command(Frame& frame, std::string name, std::string caption, std::string help,
-                 Handler handler)
+                 CommandWork work, int index)
     : Control(frame.screen(), &frame, ControlKind::Command, std::move(name), std::move(caption),
               std::move(help)),
-      handler_(std::move(handler)) {}
+      work_(std::move(work)),
+      index_(index) {
+  SetEnabled(work_.isBuilt());
+}
 
 bool Command::Click() {
-  if (handler_ == nullptr || !enabled() || !Shown()) return false;
-  return screen().Perform(handler_);
+  if (!work_.isBuilt() || !enabled() || !Reachable()) return false;
+  if (role() == CommandRole::Calculates && this != screen().QuitCommand()) {
+    screen().lastCalculation_ = this;
+  }
+  return screen().Perform([this] { work_.Run(screen(), index_); });
+}
+
+bool Command::isNextCalculation() const {
+  return screen().NextCalculation() == this;
 }
 
 CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::string help,
@@ -245,7 +307,7 @@ void CheckBox::SetOn(bool on) {
 }
 
 bool CheckBox::Click() {
-  if (!enabled() || !Shown()) return false;
+  if (!enabled() || !Reachable()) return false;
   SetOn(!on_);
   const bool done = handler_ == nullptr || screen().Perform(handler_);
   if (done) {
@@ -261,8 +323,9 @@ void CheckBox::Bind(std::int16_t& slot) {
   *slot_ = on_ ? 1 : 0;
 }
 
-OptionButton::OptionButton(OptionGroup& group, int index, std::string caption, std::string help)
-    : Control(group.screen(), group.frame(), ControlKind::OptionButton,
+OptionButton::OptionButton(OptionGroup& group, Frame* frame, int index, std::string caption,
+                           std::string help)
+    : Control(group.screen(), frame, ControlKind::OptionButton,
               group.name() + '(' + std::to_string(index) + ')', std::move(caption),
               std::move(help)),
       group_(group),
@@ -273,21 +336,42 @@ bool OptionButton::on() const {
 }
 
 void OptionButton::Click() {
-  if (enabled() && Shown()) group_.Pick(index_);
+  if (enabled() && Reachable()) group_.Pick(index_);
+}
+
+OptionRows::OptionRows(Frame& frame, ControlKind kind, std::string name, std::string caption,
+                       int buttonsInRow)
+    : Control(frame.screen(), &frame, kind, std::move(name), std::move(caption), {}),
+      buttonsInRow_(buttonsInRow) {}
+
+void OptionRows::AddButtons(OptionGroup& group, std::initializer_list<OptionChoice> choices) {
+  group.buttons_.reserve(group.buttons_.size() + choices.size());
+  for (const OptionChoice& choice : choices) {
+    group.buttons_.push_back(
+        std::make_unique<OptionButton>(group, frame(), choice.index, choice.caption, choice.help));
+    buttonsHere_.push_back(group.buttons_.back().get());
+    if (!choice.visible) buttonsHere_.back()->SetVisible(false);
+  }
+}
+
+void OptionRows::AppendReadingOrder(std::vector<Control*>& order) {
+  Control::AppendReadingOrder(order);
+  order.insert(order.end(), buttonsHere_.begin(), buttonsHere_.end());
 }
 
 OptionGroup::OptionGroup(Frame& frame, std::string name, std::string caption,
                          std::initializer_list<Choice> choices, int chosen, int buttonsInRow)
-    : Control(frame.screen(), &frame, ControlKind::OptionGroup, std::move(name), std::move(caption),
-              {}),
-      chosen_(chosen),
-      buttonsInRow_(buttonsInRow) {
-  buttons_.reserve(choices.size());
-  for (const Choice& choice : choices) {
-    buttons_.push_back(
-        std::make_unique<OptionButton>(*this, choice.index, choice.caption, choice.help));
-    if (!choice.visible) buttons_.back()->SetVisible(false);
-  }
+    : OptionRows(frame, ControlKind::OptionGroup, std::move(name), std::move(caption),
+                 buttonsInRow),
+      chosen_(chosen) {
+  AddButtons(*this, choices);
+}
+
+OptionPart::OptionPart(Frame& frame, OptionGroup& group,
+                       std::initializer_list<OptionChoice> choices, int buttonsInRow)
+    : OptionRows(frame, ControlKind::OptionPart, group.name() + " in " + frame.name(), {},
+                 buttonsInRow) {
+  AddButtons(group, choices);
 }
 
 bool OptionGroup::Choose(int index) {
@@ -575,31 +659,96 @@ void Screen::TakeFocus(Control* control) {
 
 bool Screen::MoveFocus(Control* control) {
   if (focus_ == control) return true;
-  if (auto* left = dynamic_cast<TextControl*>(focus_); left != nullptr && !left->Leave()) {
-    return false;
-  }
+  // What closes works always, and leaves a field as it stands.
+  const auto* command = dynamic_cast<const Command*>(control);
+  const bool closes =
+      command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
+  auto* left = dynamic_cast<TextControl*>(focus_);
+  if (left != nullptr && !closes && !left->Leave()) return false;
   TakeFocus(control);
   return true;
 }
 
+std::vector<Control*> Screen::ReadingOrder() const {
+  std::vector<Control*> order;
+  order.reserve(controls_.size());
+  for (Frame* frame : outermost_) frame->AppendReadingOrder(order);
+  return order;
+}
+
+namespace {
+
+bool TakesKeyboard(const Control& control) {
+  if (!control.Reachable() || !control.enabled()) return false;
+  switch (control.kind()) {
+    case ControlKind::Label:
+    case ControlKind::Frame:
+    case ControlKind::Table:
+    case ControlKind::OptionPart:
+    case ControlKind::OptionGroup: return false;
+    case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
+    default: return true;
+  }
+}
+
+}  // namespace
+
 Control* Screen::NextInTabOrder(const Control& from) const {
-  const auto takesKeyboard = [](const Control& control) {
-    if (!control.Shown() || !control.enabled()) return false;
-    switch (control.kind()) {
-      case ControlKind::Label:
-      case ControlKind::Frame:
-      case ControlKind::OptionGroup: return false;
-      case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
-      default: return true;
-    }
-  };
-  const auto start = std::find(controls_.begin(), controls_.end(), &from);
-  const auto rest = static_cast<std::size_t>(start - controls_.begin());
-  for (std::size_t i = 1; i < controls_.size(); ++i) {
-    Control* next = controls_[(rest + i) % controls_.size()];
-    if (takesKeyboard(*next)) return next;
+  const std::vector<Control*> order = ReadingOrder();
+  const auto start = std::find(order.begin(), order.end(), &from);
+  const auto rest = static_cast<std::size_t>(start - order.begin());
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    Control* next = order[(rest + i) % order.size()];
+    if (TakesKeyboard(*next)) return next;
   }
   return nullptr;
+}
+
+Control* Screen::NextByEnter(const Control& from) const {
+  if (from.whole() == nullptr || from.whole()->kind() != ControlKind::Table) return nullptr;
+  return static_cast<const Table*>(from.whole())->NextByEnter(from);
+}
+
+Control* Screen::AccessKeyTarget(char key) const {
+  Control* first = nullptr;
+  for (Control* control : ReadingOrder()) {
+    const bool clicks = control->kind() == ControlKind::Command ||
+                        control->kind() == ControlKind::CheckBox ||
+                        control->kind() == ControlKind::OptionButton;
+    if (!clicks || control->accessKey() != key || !control->enabled() || !control->Reachable()) {
+      continue;
+    }
+    if (focus_ != nullptr && control->frame() == focus_->frame()) return control;
+    if (first == nullptr) first = control;
+  }
+  return first;
+}
+
+Command* Screen::NextCalculation() {
+  const Control* quit = QuitCommand();
+  const auto isReady = [quit](const Control& control) {
+    return control.kind() == ControlKind::Command && control.enabled() && control.Reachable() &&
+           &control != quit &&
+           static_cast<const Command&>(control).role() == CommandRole::Calculates;
+  };
+  if (lastCalculation_ != nullptr && isReady(*lastCalculation_)) return lastCalculation_;
+  for (Control* control : ReadingOrder()) {
+    if (isReady(*control)) return static_cast<Command*>(control);
+  }
+  return nullptr;
+}
+
+bool Screen::CalculateAgain() {
+  Command* command = NextCalculation();
+  if (command == nullptr) return false;
+  if (auto* field = dynamic_cast<TextControl*>(focus_); field != nullptr && !field->Leave()) {
+    return false;
+  }
+  return command->Click();
+}
+
+void Screen::PutAwayPanel() {
+  if (Panel* top = topPanel()) top->Done();
 }
 
 double Screen::Read(Field& field) const {

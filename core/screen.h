@@ -21,7 +21,9 @@ namespace veldox {
 class Control;
 class Field;
 class Frame;
+class Panel;
 class Screen;
+class ScreenPage;
 
 /// A shared value while it is held in a screen's metric units.
 struct HeldValue {
@@ -78,6 +80,8 @@ enum class ControlKind {
   Frame,
   ReportBox,
   TextArea,
+  OptionPart,
+  Table,
 };
 
 /// How a field stands out until the next command.
@@ -99,12 +103,20 @@ class Control {
   std::string PlainCaption() const;
   bool visible() const { return visible_; }
   bool enabled() const { return enabled_; }
-  /// Visible, and so is the frame it stands in.
+  /// Visible, and so are the frames it stands in.
   bool Shown() const;
+  /// Shown, and no panel lies over it: what a user's mouse and keyboard come to.
+  bool Reachable() const;
   Mark mark() const { return mark_; }
   Screen& screen() const { return screen_; }
-  /// The frame it stands in; null for a frame.
+  /// The frame it stands in; null for a frame that stands in none.
   Frame* frame() const { return frame_; }
+  /// The table that it is a part of, null for what stands in its frame by itself.
+  Control* whole() const { return whole_; }
+  /// The access key of its caption as a small letter, 0 for none.
+  char accessKey() const;
+  /// Appends itself and what stands in it, in reading order.
+  virtual void AppendReadingOrder(std::vector<Control*>& order);
 
   void SetCaption(std::string caption);
   void SetHelp(std::string help);
@@ -127,12 +139,15 @@ class Control {
   void Changed();
   /// The user has turned or picked something: what the file would hold asks to be saved.
   void NoteChange() const;
+  /// Makes a control a part of this one.
+  void Adopt(Control& part) { part.whole_ = this; }
 
  private:
   friend class OptionGroup;
   friend class Screen;
   Screen& screen_;
   Frame* frame_;
+  Control* whole_ = nullptr;
   ControlKind kind_;
   std::string name_;
   std::string caption_;
@@ -151,9 +166,19 @@ class Frame : public Control {
   /// @param column  column of the window the frame stands in, from 0; frames of a
   ///                column stand under each other in the order of declaration
   Frame(Screen& screen, std::string name, std::string caption, int column = 0);
+  /// A frame inside a frame, a panel or a page: it shows and goes with that one, and stands in
+  /// a column of the same page.
+  Frame(Frame& outer, std::string name, std::string caption, int column = 0);
 
+  /// What stands in it, frames inside among them.
   const std::vector<Control*>& controls() const { return controls_; }
   int column() const { return column_; }
+  void AppendReadingOrder(std::vector<Control*>& order) override;
+
+ protected:
+  /// What stands over the page or in its place, and is no frame of it.
+  struct Sheet {};
+  Frame(Screen& screen, std::string name, std::string caption, Sheet);
 
  private:
   friend class Control;
@@ -168,7 +193,7 @@ class TextControl : public Control {
   void SetText(std::string text);
   /// The text changed under the user's hands.
   void Edit(std::string text);
-  KeyRule rule() const { return rule_; }
+  KeyRule rule() const { return readOnly_ ? KeyRule::OutputOnly : rule_; }
   LeaveCheck leaveCheck() const { return leaveCheck_; }
   /// Runs a typed key through the field's rule; 0 when it is refused.
   virtual char32_t FilterKey(char32_t key);
@@ -181,10 +206,12 @@ class TextControl : public Control {
   TextControl(Frame& frame, ControlKind kind, std::string name, std::string caption,
               std::string text, KeyRule rule, std::string help);
   void SetLeaveCheck(LeaveCheck check) { leaveCheck_ = check; }
+  void RefuseKeys(bool refuse);
 
  private:
   std::string text_;
   KeyRule rule_;
+  bool readOnly_ = false;
   LeaveCheck leaveCheck_ = LeaveCheck::None;
 };
 
@@ -214,6 +241,8 @@ class Field : public TextControl {
   const Holds& holds() const { return holds_; }
   /// How "Metric" converts what it shows; null for what is the same in both units.
   const UnitRule* conversion() const;
+  /// A field that only shows for a while: it refuses keys, and can be reached and copied.
+  void SetReadOnly(bool readOnly) { RefuseKeys(readOnly); }
 
  private:
   Unit unit_;
@@ -281,25 +310,72 @@ Handler HandlerOf(const Frame& frame, void (S::*member)()) {
   return [&screen = frame.screen(), member] { (static_cast<S&>(screen).*member)(); };
 }
 
+/// What a command is there for.
+enum class CommandRole {
+  Calculates,  ///< Ctrl+Enter runs it again
+  Serves,      ///< opens or shows a panel, a dialog or another screen, works on files
+  Closes,      ///< puts away what it stands in; always works, whatever a field is left with
+};
+
+/// What a click on a command does.
+class CommandWork {
+ public:
+  /// Work that is not built yet.
+  CommandWork() = default;
+  /// @param run  is told the screen and the index of the command
+  CommandWork(std::function<void(Screen&, int)> run, CommandRole role)
+      : run_(std::move(run)), role_(role) {}
+  /// Work that is not the screen's own.
+  explicit CommandWork(Handler handler, CommandRole role = CommandRole::Serves)
+      : run_([handler = std::move(handler)](Screen&, int) { handler(); }), role_(role) {}
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
+  CommandWork(void (S::*handler)(), CommandRole role = CommandRole::Calculates)
+      : run_([handler](Screen& screen, int) { (static_cast<S&>(screen).*handler)(); }),
+        role_(role) {}
+  /// The same routine for several commands of an array, which is told the index.
+  template <class S>  // NOLINTNEXTLINE(google-explicit-constructor): a routine is a work
+  CommandWork(void (S::*handler)(int), CommandRole role = CommandRole::Calculates)
+      : run_([handler](Screen& screen, int index) { (static_cast<S&>(screen).*handler)(index); }),
+        role_(role) {}
+
+  bool isBuilt() const { return run_ != nullptr; }
+  CommandRole role() const { return role_; }
+  void Run(Screen& screen, int index) const { run_(screen, index); }
+
+ private:
+  std::function<void(Screen&, int)> run_;
+  CommandRole role_ = CommandRole::Calculates;
+};
+
 class Command : public Control {
  public:
-  Command(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
   template <class S>
   Command(Frame& frame, std::string name, std::string caption, std::string help,
-          void (S::*handler)())
+          void (S::*handler)(), CommandRole role = CommandRole::Calculates)
       : Command(frame, std::move(name), std::move(caption), std::move(help),
-                HandlerOf(frame, handler)) {}
+                CommandWork(handler, role)) {}
+  Command(Frame& frame, std::string name, std::string caption, std::string help, Handler handler)
+      : Command(frame, std::move(name), std::move(caption), std::move(help),
+                CommandWork(std::move(handler))) {}
+  /// @param index  of a member of an array, as its routine is told it
+  Command(Frame& frame, std::string name, std::string caption, std::string help, CommandWork work,
+          int index = 0);
   /// A command whose work is not built yet: it is there, disabled.
-  Command(Frame& frame, std::string name, std::string caption, std::string help);
+  Command(Frame& frame, std::string name, std::string caption, std::string help)
+      : Command(frame, std::move(name), std::move(caption), std::move(help), CommandWork()) {}
 
   /// Runs the command as the screen's Click does. False when it cannot be clicked or ended
   /// by an error.
   bool Click();
   /// False for a command whose work is not built yet.
-  bool isBuilt() const { return handler_ != nullptr; }
+  bool isBuilt() const { return work_.isBuilt(); }
+  CommandRole role() const { return work_.role(); }
+  /// True for the command that Ctrl+Enter runs now.
+  bool isNextCalculation() const;
 
  private:
-  Handler handler_;
+  CommandWork work_;
+  int index_;
 };
 
 class CheckBox : public Control {
@@ -332,7 +408,7 @@ class OptionGroup;
 /// One button of an option group; `Option1(3)` has the index 3.
 class OptionButton : public Control {
  public:
-  OptionButton(OptionGroup& group, int index, std::string caption, std::string help);
+  OptionButton(OptionGroup& group, Frame* frame, int index, std::string caption, std::string help);
   int index() const { return index_; }
   OptionGroup& group() const { return group_; }
   bool on() const;
@@ -343,15 +419,37 @@ class OptionButton : public Control {
   int index_;
 };
 
-/// A row of buttons of which one is chosen.
-class OptionGroup : public Control {
+/// One choice of an option group.
+struct OptionChoice {
+  int index;
+  const char* caption;
+  const char* help;
+  bool visible = true;
+};
+
+/// Buttons of an option group that stand together in rows.
+class OptionRows : public Control {
  public:
-  struct Choice {
-    int index;
-    const char* caption;
-    const char* help;
-    bool visible = true;
-  };
+  /// Those that stand here.
+  const std::vector<OptionButton*>& buttonsHere() const { return buttonsHere_; }
+  int buttonsInRow() const { return buttonsInRow_; }
+  void AppendReadingOrder(std::vector<Control*>& order) override;
+
+ protected:
+  OptionRows(Frame& frame, ControlKind kind, std::string name, std::string caption,
+             int buttonsInRow);
+  void AddButtons(OptionGroup& group, std::initializer_list<OptionChoice> choices);
+
+ private:
+  std::vector<OptionButton*> buttonsHere_;
+  int buttonsInRow_;
+};
+
+/// A row of buttons of which one is chosen. Further buttons of the group may stand in other
+/// places (`OptionPart`).
+class OptionGroup : public OptionRows {
+ public:
+  using Choice = OptionChoice;
   OptionGroup(Frame& frame, std::string name, std::string caption,
               std::initializer_list<Choice> choices, int chosen = 0, int buttonsInRow = 1);
 
@@ -360,15 +458,25 @@ class OptionGroup : public Control {
   bool Choose(int index);
   /// The user clicks the button of that index.
   void Pick(int index);
+  /// All of them, in the order of declaration.
   const std::vector<std::unique_ptr<OptionButton>>& buttons() const { return buttons_; }
-  int buttonsInRow() const { return buttonsInRow_; }
+  /// True when buttons of it stand in several places.
+  bool isParted() const { return buttonsHere().size() < buttons_.size(); }
   void Bind(std::int16_t& slot);
 
  private:
+  friend class OptionRows;
   std::vector<std::unique_ptr<OptionButton>> buttons_;
   std::int16_t* slot_ = nullptr;
   int chosen_;
-  int buttonsInRow_;
+};
+
+/// Buttons of an option group that stand in another frame than its first ones: one is chosen
+/// across all.
+class OptionPart : public OptionRows {
+ public:
+  OptionPart(Frame& frame, OptionGroup& group, std::initializer_list<OptionChoice> choices,
+             int buttonsInRow = 1);
 };
 
 /// A drop-down list of rows.
@@ -429,9 +537,22 @@ class Screen {
   ParameterBlock& block() const { return context_.block; }
   DecimalMark mark() const { return context_.mark(); }
 
+  /// The frames that stand on the page in columns, those inside others left out.
   const std::vector<Frame*>& frames() const { return frames_; }
-  /// All controls in reading order, frames and option buttons among them.
+  /// The pages of which one is shown; empty for a screen that is one page.
+  const std::vector<ScreenPage*>& pages() const { return pages_; }
+  /// The panels that commands show over the page.
+  const std::vector<Panel*>& panels() const { return panels_; }
+  /// The panels that are shown, each lying on those before it.
+  const std::vector<Panel*>& openPanels() const { return openPanels_; }
+  /// The panel that lies over all else, null while none is shown.
+  Panel* topPanel() const { return openPanels_.empty() ? nullptr : openPanels_.back(); }
+  /// Puts the top panel away as its closing command does; nothing without one.
+  void PutAwayPanel();
+  /// All controls in the order of declaration, frames and option buttons among them.
   const std::vector<Control*>& controls() const { return controls_; }
+  /// All controls as the tab key walks through them: frame by frame, tables row by row.
+  std::vector<Control*> ReadingOrder() const;
   Control* Find(std::string_view name) const;
 
   bool visible() const { return visible_; }
@@ -498,6 +619,17 @@ class Screen {
   /// Moves the focus without asking a face; the check of the field that is left runs
   /// first and may keep it. False when it was kept.
   bool MoveFocus(Control* control);
+  /// What an access key clicks where several controls have it: the one in the frame that has
+  /// the focus, else the first in reading order. Null when none has it.
+  Control* AccessKeyTarget(char key) const;
+  /// The command that Ctrl+Enter runs: the calculating one that ran last, or else the first;
+  /// null where none can be reached.
+  Command* NextCalculation();
+  /// Runs that command. False when there is none, the field that has the focus keeps it, or the
+  /// command ended by an error.
+  bool CalculateAgain();
+  /// Where the Enter key goes from a control: down a table. Null where it goes nowhere.
+  Control* NextByEnter(const Control& from) const;
   /// Where the tab key goes from a control: the next one in reading order that takes the
   /// keyboard, round to the first. Null when there is no other.
   Control* NextInTabOrder(const Control& from) const;
@@ -568,6 +700,7 @@ class Screen {
 
  private:
   friend class Control;
+  friend class Command;
   friend class Frame;
   friend class ScreenPart;
   friend struct ProgramContext;
@@ -606,6 +739,8 @@ class Screen {
     bool Stands() const;
   };
 
+  friend class ScreenPage;
+  friend class Panel;
   void Report(const CommandError& error);
   void SetMetricShown(bool metric);
   double Converted(const Field& field, double number, bool toMetric) const;
@@ -620,7 +755,12 @@ class Screen {
   std::string title_;
   std::string tag_;
   std::vector<Frame*> frames_;
+  std::vector<ScreenPage*> pages_;
+  std::vector<Panel*> panels_;
+  std::vector<Panel*> openPanels_;
+  std::vector<Frame*> outermost_;  ///< frames, pages and panels in the order of declaration
   std::vector<Control*> controls_;
+  Command* lastCalculation_ = nullptr;
   ScreenFace* face_ = nullptr;
   Control* focus_ = nullptr;
   NumberFormat pattern_ = &FormatField;

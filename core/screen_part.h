@@ -18,13 +18,8 @@ class ScreenPart {
 
   /// Its frames in reading order.
   const std::vector<Frame*>& frames() const { return frames_; }
-  /// Shows the frames.
   void Show() { SetVisible(true); }
-  /// Puts the frames away, and the help sentence with them.
-  void Hide() {
-    SetVisible(false);
-    screen_.ShowHelp({});
-  }
+  void Hide() { SetVisible(false); }
 
  protected:
   explicit ScreenPart(Screen& screen) : screen_(screen) {}
@@ -33,7 +28,7 @@ class ScreenPart {
   /// Tells the frames that stand in the part; they are put away.
   void SetFrames(std::vector<Frame*> frames) {
     frames_ = std::move(frames);
-    SetVisible(false);
+    for (Frame* frame : frames_) frame->SetVisible(false);
   }
   /// The part's controls hold options of the main form.
   void SetAreOptions() {
@@ -55,6 +50,8 @@ class ScreenPart {
  private:
   void SetVisible(bool visible) {
     for (Frame* frame : frames_) frame->SetVisible(visible);
+    // The help sentence was one of what stood there before.
+    screen_.ShowHelp({});
   }
 
   Screen& screen_;

@@ -8,6 +8,7 @@
 #include "core/units.h"
 #include "engine/displacement.h"
 #include "engine/step_bound.h"
+#include "reference/weather.h"
 
 namespace veldox {
 
@@ -17,7 +18,6 @@ constexpr double kRadiansPerDegree = 0.017453292519943278;
 constexpr double kDegreesPerRadian = 57.29577951308238;
 /// Of the compression at cranking speed, which loses little heat.
 constexpr double kCompressionExponent = 1.29;
-constexpr double kMillibarsInVaporFormula = 33.8653;
 
 /// The crank angle at which an offset piston stands at its bottom, less half a turn.
 double BottomLead(const CylinderSize& size) {
@@ -44,8 +44,7 @@ ClosedCylinder CylinderAt(const CylinderSize& size, double crankAngle) {
 VaporPressures VaporPressuresAt(double celsius, double humidity) {
   constexpr double kTrace = 1e-33;
   VaporPressures vapor;
-  vapor.saturated =
-      6.112 * std::pow(10, 7.5 * celsius / (237.7 + celsius)) / kMillibarsInVaporFormula;
+  vapor.saturated = SaturationVaporPressure(celsius);
   vapor.actual = (humidity == 0 ? kTrace : humidity) / 100 * vapor.saturated;
   return vapor;
 }

@@ -123,7 +123,7 @@ class Form1 : public Screen {
   Command EngineFinder{Frame1, "EngineFinder", "Engine &Finder",
                        "Pick a production engine from a list; its Bore, Stroke, Rod Length and "
                        "Number of Cylinders go into this screen.",
-                       &Form1::OpenEngineFinder};
+                       CommandWork(&Form1::OpenEngineFinder, CommandRole::Serves)};
 
   Frame Frame2{*this, "Frame2", "Deck Stack", 0};
   Field Text8{Frame2, "Text8", "Block Deck Height", "9.245",

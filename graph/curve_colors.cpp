@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <iterator>
 
@@ -72,7 +73,40 @@ constexpr FileColor kFileColors[] = {
     {"orange", {"Orange", {255, 165, 0}}},
 };
 
+/// The light that a colour gives, 0 to 1.
+double Luminance(Color color) {
+  const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
+  return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
+}
+
+/// A colour with so much of the way to white gone, 0 to 1.
+Color Tint(Color color, double part) {
+  const auto lighter = [part](std::uint8_t from) {
+    return static_cast<std::uint8_t>(from + std::lround((255 - from) * part));
+  };
+  return {lighter(color.red), lighter(color.green), lighter(color.blue)};
+}
+
 }  // namespace
+
+double Contrast(Color a, Color b) {
+  const double first = Luminance(a) + 0.05;
+  const double second = Luminance(b) + 0.05;
+  return std::max(first, second) / std::min(first, second);
+}
+
+Color SeenOn(Color color, Color background) {
+  constexpr double kWellSeen = 4;
+  constexpr int kSteps = 32;
+  const Color white{255, 255, 255};
+  const bool dark = Contrast(white, background) > Contrast({0, 0, 0}, background);
+  if (!dark || Contrast(color, background) >= kFaintContrast) return color;
+  Color tint = color;
+  for (int i = 1; i <= kSteps && Contrast(tint, background) < kWellSeen; ++i) {
+    tint = Tint(color, static_cast<double>(i) / kSteps);
+  }
+  return tint;
+}
 
 CurveColorEntry CurveColorOf(int index) {
   if (index <= 0) return kFirstPen;

@@ -23,6 +23,14 @@ inline constexpr std::string_view kUserColorName = "User Selected Color";
 /// table's, 29 and up repeat 1 and up. A negative index counts as 0.
 CurveColorEntry CurveColorOf(int index);
 
+/// Below this contrast with the background a curve is hard to see.
+inline constexpr double kFaintContrast = 2.6;
+/// How well two colours can be told apart, from 1 for not at all to 21.
+double Contrast(Color a, Color b);
+/// A colour as it can be seen on a background: one that is hard to see on a dark background
+/// becomes lighter in its own hue, every other stays as it is.
+Color SeenOn(Color color, Color background);
+
 /// A colour by the name that graph files give it, in small letters; nothing for an
 /// unknown one.
 std::optional<CurveColorEntry> ColorByName(std::string_view name);

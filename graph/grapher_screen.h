@@ -163,46 +163,81 @@ class Form8 : public Screen, public Grapher {
 
   Frame Frame2{*this, "Frame2", "Graph File", 0};
   Label Label1{Frame2, "Label1", ""};
-  Command Read{Frame2, "Read", "&Read PRM", "Read a Graph File and draw what it tells.",
-               &Form8::Read_Click};
+  Command Read{Frame2,
+               "Read",
+               "&Read PRM",
+               "Read a Graph File and draw what it tells.",
+               &Form8::Read_Click,
+               CommandRole::Serves};
   Command Command7{Frame2, "Command7", "-", "Zoom the Graph of a File, wider range.",
                    &Form8::Command7_Click};
   Command Command8{Frame2, "Command8", "+", "Zoom the Graph of a File, narrower range.",
                    &Form8::Command8_Click};
 
   Frame Frame3{*this, "Frame3", "Pictures", 0};
-  Command Command5{Frame3, "Command5", "R&ead BMP", "Show a Picture File.", &Form8::Command5_Click};
-  Command Command3{Frame3, "Command3", "&Save as BMP",
+  Command Command5{Frame3,
+                   "Command5",
+                   "R&ead BMP",
+                   "Show a Picture File.",
+                   &Form8::Command5_Click,
+                   CommandRole::Serves};
+  Command Command3{Frame3,
+                   "Command3",
+                   "&Save as BMP",
                    "Save the Graph as a Picture: .bmp, .jpg, .png, .svg or .pdf.",
-                   &Form8::Command3_Click};
-  Command Save_Form_JPG{Frame3, "Save_Form_JPG", "PrtSC &JPG",
+                   &Form8::Command3_Click,
+                   CommandRole::Serves};
+  Command Save_Form_JPG{Frame3,
+                        "Save_Form_JPG",
+                        "PrtSC &JPG",
                         "Save this Screen as a JPG Picture in the Program's Folder.",
-                        &Form8::Save_Form_JPG_Click};
-  Command Save_Picture_Image{Frame3, "Save_Picture_Image", "&P",
+                        &Form8::Save_Form_JPG_Click,
+                        CommandRole::Serves};
+  Command Save_Picture_Image{Frame3,
+                             "Save_Picture_Image",
+                             "&P",
                              "Save the Graph as a JPG Picture in the Program's Folder.",
-                             &Form8::Save_Picture_Image_Click};
-  Command Print_Picture_Image{Frame3, "Print_Picture_Image", "Print Picture",
+                             &Form8::Save_Picture_Image_Click,
+                             CommandRole::Serves};
+  Command Print_Picture_Image{Frame3,
+                              "Print_Picture_Image",
+                              "Print Picture",
                               "Save the Graph as a BMP Picture in the Program's Folder and Print "
                               "it.",
-                              &Form8::Print_Picture_Image_Click};
-  Command Copy_Picture{Frame3, "Copy_Picture", "&Copy", "Copy the Graph to the Clipboard.",
-                       &Form8::Copy_Picture_Click};
-  Command Save_Points{Frame3, "Save_Points", "Save Points as CS&V",
-                      "Save the Points of all Curves as a CSV File.", &Form8::Save_Points_Click};
+                              &Form8::Print_Picture_Image_Click,
+                              CommandRole::Serves};
+  Command Copy_Picture{Frame3,
+                       "Copy_Picture",
+                       "&Copy",
+                       "Copy the Graph to the Clipboard.",
+                       &Form8::Copy_Picture_Click,
+                       CommandRole::Serves};
+  Command Save_Points{Frame3,
+                      "Save_Points",
+                      "Save Points as CS&V",
+                      "Save the Points of all Curves as a CSV File.",
+                      &Form8::Save_Points_Click,
+                      CommandRole::Serves};
 
   Frame Frame4{*this, "Frame4", "Mouse", 0};
   Label Label2{Frame4, "Label2", "Mouse On Graph Pos"};
   Label Label18{Frame4, "Label18", ""};
   Label Label19{Frame4, "Label19", ""};
   CheckBox Check1{Frame4, "Check1", "Draw", "Draw on the Graph with the Mouse."};
-  Command Clear_Draw{Frame4, "Clear_Draw", "Clear Draw",
+  Command Clear_Draw{Frame4,
+                     "Clear_Draw",
+                     "Clear Draw",
                      "Take the Lines away that were drawn with the Mouse.",
-                     &Form8::Clear_Draw_Click};
-  Command Graph_Move_Grid{Frame4, "Graph_Move_Grid", "Moveable Grid Lines -- Is OFF",
+                     &Form8::Clear_Draw_Click,
+                     CommandRole::Serves};
+  Command Graph_Move_Grid{Frame4,
+                          "Graph_Move_Grid",
+                          "Moveable Grid Lines -- Is OFF",
                           "Show Lines on the Graph that can be moved with the Mouse to read off "
                           "Values. On the Graph, the Space Bar takes hold of the next Line and "
                           "the Arrow Keys move it.",
-                          &Form8::Graph_Move_Grid_Click};
+                          &Form8::Graph_Move_Grid_Click,
+                          CommandRole::Serves};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   Label Label7{HelpFrame, "Label7", ""};

@@ -21,7 +21,6 @@ constexpr double kLegendGap = 0.4;    ///< between the sample and the name, in t
 constexpr double kLargeLineWidth = 2;
 constexpr double kSwatchLineWidth = 2.5;
 constexpr double kYPointerLines = 1.5;  ///< text lines that the Y caption takes over the frame
-constexpr double kFaintContrast = 2.6;  ///< below it a curve gets an edge
 constexpr double kEdgeWidth = 1.4;      ///< added to the width of a faint curve
 constexpr double kTickLength = 0.4;     ///< of the semi grid, in text heights
 constexpr double kTickGap = 0.4;        ///< between the frame and the labels under it
@@ -62,8 +61,9 @@ struct Drawing {
   const ParameterBlock& block;
   Surface& surface;
   PlotColors colors;
-  double font;        ///< points of all texts but titles
-  double lineHeight;  ///< of that font
+  bool lightensFaint;  ///< on a dark background
+  double font;         ///< points of all texts but titles
+  double lineHeight;   ///< of that font
   SurfaceRect frame;
 };
 
@@ -251,22 +251,15 @@ std::vector<LegendLine> LegendLines(const PlotEngine& engine, const Surface& sur
   return lines;
 }
 
-/// The light that a colour gives, 0 to 1.
-double Luminance(Color color) {
-  const auto linear = [](std::uint8_t part) { return std::pow(part / 255.0, 2.2); };
-  return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
-}
-
-/// How well two colours can be told apart, from 1 for not at all to 21.
-double Contrast(Color a, Color b) {
-  const double first = Luminance(a) + 0.05;
-  const double second = Luminance(b) + 0.05;
-  return std::max(first, second) / std::min(first, second);
-}
-
 Color Halfway(Color a, Color b) {
   const auto mix = [](int x, int y) { return static_cast<std::uint8_t>((x + y) / 2); };
   return {mix(a.red, b.red), mix(a.green, b.green), mix(a.blue, b.blue)};
+}
+
+/// A pen in the colour that it has on this drawing's background.
+Pen Shown(const Drawing& d, Pen pen) {
+  if (d.lightensFaint) pen.color = SeenOn(pen.color, d.colors.background);
+  return pen;
 }
 
 /// The edge of a curve whose colour is hard to see on the background.
@@ -298,6 +291,7 @@ void Legend(const Drawing& d) {
     if (line.begins) {
       Pen pen = line.series->pen;
       pen.color = d.engine.ShownColor(*line.series);
+      pen = Shown(d, pen);
       pen.width = std::max(pen.width, kSwatchLineWidth);
       const double middle = top + d.lineHeight / 2;
       const SurfacePoint from{left, middle};
@@ -318,6 +312,7 @@ void Curves(const Drawing& d) {
     const FrameMapping map(d.frame, series.range);
     Pen pen = series.pen;
     pen.color = d.engine.ShownColor(series);
+    pen = Shown(d, pen);
     const std::optional<Pen> edge = EdgeOf(d, pen);
     for (std::size_t i = 0; i < series.starts.size(); ++i) {
       const std::size_t from = series.starts[i];
@@ -339,7 +334,7 @@ void Lines(const Drawing& d, const std::vector<PlotLineRecord>& lines) {
   for (const PlotLineRecord& line : lines) {
     if (!IsDrawable(line.range)) continue;
     const FrameMapping map(d.frame, line.range);
-    Pen pen = line.pen;
+    Pen pen = Shown(d, line.pen);
     if (line.inTextColor) pen.color = d.colors.text;
     d.surface.DrawLine(map(line.from), map(line.to), pen);
   }
@@ -359,7 +354,7 @@ void Shapes(const Drawing& d) {
       corners.push_back({center.x + radius * std::cos(angle),
                          center.y - radius * circle.aspect * std::sin(angle)});
     }
-    d.surface.DrawPolyline(corners, circle.pen);
+    d.surface.DrawPolyline(corners, Shown(d, circle.pen));
   }
   const double half = kBoxSize * d.lineHeight;
   for (const PlotBoxRecord& box : d.engine.boxes()) {
@@ -370,7 +365,7 @@ void Shapes(const Drawing& d) {
                                                   {at.x + half, at.y + half},
                                                   {at.x - half, at.y + half},
                                                   {at.x - half, at.y - half}}};
-    d.surface.DrawPolyline(corners, {box.color, 1, LineStyle::Solid});
+    d.surface.DrawPolyline(corners, Shown(d, {box.color, 1, LineStyle::Solid}));
   }
 }
 
@@ -411,9 +406,14 @@ PlotLayout PlotEngine::LayOut(const Surface& surface, const PlotTheme& theme) co
 PlotLayout PlotEngine::DrawOn(Surface& surface, const PlotTheme& theme) {
   const PlotLayout layout = LayOut(surface, theme);
   const double font = GraphFontPoints(block_->GraphFontSize, theme.fontSize);
-  const Drawing drawing{
-      *this,       *block_, surface, ResolveColors(*block_, theme), font, surface.TextHeight(font),
-      layout.frame};
+  const Drawing drawing{*this,
+                        *block_,
+                        surface,
+                        ResolveColors(*block_, theme),
+                        theme.lightensFaint,
+                        font,
+                        surface.TextHeight(font),
+                        layout.frame};
   const SurfaceRect all{0, 0, surface.Width(), surface.Height()};
   surface.Fill(all, drawing.colors.background);
   if (!picture_.empty()) surface.DrawPicture(all, picture_);

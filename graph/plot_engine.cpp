@@ -362,6 +362,11 @@ Color PlotEngine::ShownColor(const PlotSeriesRecord& series) const {
   return UserColor().value_or(series.color);
 }
 
+Color PlotEngine::ShownColor(const PlotSeriesRecord& series, const PlotTheme& theme) const {
+  const Color color = ShownColor(series);
+  return theme.lightensFaint ? SeenOn(color, ResolveColors(*block_, theme).background) : color;
+}
+
 std::string PlotEngine::LegendText(const PlotSeriesRecord& series) const {
   if (series.note.empty()) return UserColor() ? std::string(kUserColorName) : series.name;
   // A note ends with the colour's word.

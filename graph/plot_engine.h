@@ -38,6 +38,9 @@ struct PlotTheme {
   Color text{0, 0, 0};
   Color grid{200, 200, 200};
   double fontSize = 10;  ///< points of the graph's texts at "100%"
+  /// Colours that are hard to see on a dark background are drawn lighter. Files and prints keep
+  /// the colours that were given.
+  bool lightensFaint = false;
 };
 
 /// The colours a graph is drawn in: the user's where they can be read, else the theme's.
@@ -230,6 +233,8 @@ class PlotEngine {
   bool hasAxes() const { return hasAxes_; }
   /// The colour a curve shows: the user's when that is switched on and chosen.
   Color ShownColor(const PlotSeriesRecord& series) const;
+  /// The same as it is drawn in a theme, where that lightens what is hard to see.
+  Color ShownColor(const PlotSeriesRecord& series, const PlotTheme& theme) const;
   /// The colour that the user chose for curves, when it is switched on.
   std::optional<Color> UserColor() const;
   /// The legend's text of a curve.

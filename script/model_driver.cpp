@@ -98,7 +98,10 @@ void ModelDriver::TypeIntoList(PickList& list, Key key) {
 void ModelDriver::TypeIntoField(TextControl& field, Key key) {
   const Key taken = field.FilterKey(key);
   if (taken == 0) return;
-  if (taken == kEnter && field.kind() != ControlKind::TextArea) return;
+  if (taken == kEnter && field.kind() != ControlKind::TextArea) {
+    if (Control* next = field.screen().NextByEnter(field)) TabInto(*next);
+    return;
+  }
   const bool replaces = selected_ == &field;
   std::string text = replaces ? std::string{} : field.text();
   if (taken == kBackspace) {
@@ -124,7 +127,7 @@ void ModelDriver::Press(Control& control, Key key) {
 }
 
 void ModelDriver::Click(Control& control) {
-  if (!control.enabled() || !control.Shown()) return;
+  if (!control.enabled() || !control.Reachable()) return;
   Screen& screen = control.screen();
   screen.Hover(&control);
   // The field that has the focus may keep it, and the click goes nowhere.

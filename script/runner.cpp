@@ -100,6 +100,13 @@ FontChoice ParseFont(std::string_view text) {
   return font;
 }
 
+std::optional<ScriptHost::Orientation> ParseOrientation(std::string_view text) {
+  if (text == "landscape") return ScriptHost::Orientation::Landscape;
+  if (text == "portrait") return ScriptHost::Orientation::Portrait;
+  if (text == "cancel") return std::nullopt;
+  throw ScriptError("a printer is landscape, portrait or cancel");
+}
+
 }  // namespace
 
 ScriptRunner::ScriptRunner(Program& program, ScriptHost& host, Driver& driver,
@@ -148,7 +155,7 @@ void ScriptRunner::RunLine(std::string_view line) {
     TellPlot();
   } else if (verb == "value") {
     TellValue(rest);
-  } else if (isOneOf({"answer", "file", "font", "color"})) {
+  } else if (isOneOf({"answer", "file", "font", "color", "printer"})) {
     Prepare(verb, rest);
   } else if (isOneOf({"get", "state", "rows", "show"})) {
     Tell(verb, rest);
@@ -175,6 +182,8 @@ void ScriptRunner::Prepare(std::string_view verb, std::string_view text) {
     std::optional<FontChoice> font;
     if (!cancel) font = ParseFont(text);
     host_.fonts.push_back({font, line_});
+  } else if (verb == "printer") {
+    host_.printers.push_back({ParseOrientation(text), line_});
   } else {
     const auto color = ParseWhole(text);
     if (!cancel && !color) throw ScriptError("no such colour: " + std::string(text));
@@ -345,6 +354,7 @@ void ScriptRunner::RequireNothingPrepared() const {
   require(host_.files, "the file");
   require(host_.fonts, "the font");
   require(host_.colors, "the colour");
+  require(host_.printers, "the printer");
 }
 
 Control& ScriptRunner::FindControl(std::string_view name) {

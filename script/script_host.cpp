@@ -41,7 +41,7 @@ T Take(std::deque<ScriptHost::Prepared<T>>& prepared) {
 /// A printer that leaves its pages with the host when the job has ended.
 class ScriptPrinter : public PageRecorder {
  public:
-  explicit ScriptPrinter(ScriptHost& host) : PageRecorder(host.landscape), host_(host) {}
+  ScriptPrinter(ScriptHost& host, bool landscape) : PageRecorder(landscape), host_(host) {}
   void EndJob() override {
     PageRecorder::EndJob();
     host_.pages = PageRecorder::pages();
@@ -123,7 +123,26 @@ std::optional<std::int32_t> ScriptHost::AskColor() {
 }
 
 std::unique_ptr<PageSurface> ScriptHost::OpenPrinter() {
-  return std::make_unique<ScriptPrinter>(*this);
+  ChoosePrinter();
+  return std::make_unique<ScriptPrinter>(*this, orientation_ == Orientation::Landscape);
+}
+
+void ScriptHost::PrintGraph() {
+  ChoosePrinter();
+  Host::PrintGraph();
+}
+
+void ScriptHost::PrintWindow(const std::string& screen) {
+  ChoosePrinter();
+  Host::PrintWindow(screen);
+}
+
+void ScriptHost::ChoosePrinter() {
+  // Where none was prepared, the dialog is left by OK.
+  if (printers.empty()) return;
+  const std::optional<Orientation> answer = Take(printers);
+  if (!answer) throw CommandError(ErrorKind::Cancelled, "");
+  orientation_ = *answer;
 }
 
 ClockTime ScriptHost::Now() {

@@ -31,6 +31,8 @@ class ScriptHost : public Host {
 
   explicit ScriptHost(Settings settings) : settings_(std::move(settings)) {}
 
+  enum class Orientation { Portrait, Landscape };
+
   /// Prepared answers, with the script line that prepared them.
   template <class T>
   struct Prepared {
@@ -41,14 +43,13 @@ class ScriptHost : public Host {
   std::deque<Prepared<std::optional<std::filesystem::path>>> files;
   std::deque<Prepared<std::optional<FontChoice>>> fonts;
   std::deque<Prepared<std::optional<std::int32_t>>> colors;
+  std::deque<Prepared<std::optional<Orientation>>> printers;
 
   /// What was shown and asked for since the script last looked, one line each.
   std::vector<std::string> messages;
   std::vector<std::string> dialogs;
   /// The pages of the last print job.
   std::vector<Page> pages;
-  /// How the next print job lays its pages.
-  bool landscape = false;
   /// The first thing that went wrong inside a box, told when the statement is over.
   std::string wrong;
 
@@ -61,9 +62,17 @@ class ScriptHost : public Host {
   std::filesystem::path ProgramFolder() override { return settings_.folder; }
   ScreenSize MeasureScreen() override { return {1366, 768, 96}; }
   std::unique_ptr<PageSurface> OpenPrinter() override;
+  void PrintGraph() override;
+  void PrintWindow(const std::string& screen) override;
+  void SetUpPrinter() override { ChoosePrinter(); }
   void SetBusy(bool) override {}
 
  private:
+  /// Answers the printer dialog; what is chosen stays chosen, as the dialog shows it the next
+  /// time. @throws CommandError (Cancelled)
+  void ChoosePrinter();
+
+  Orientation orientation_ = Orientation::Portrait;
   Settings settings_;
 };
 

@@ -1,6 +1,8 @@
 #include "ui/control_faces.h"
 
 #include <QGridLayout>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "ui/qt_text.h"
@@ -13,6 +15,8 @@ namespace {
 constexpr int kFieldDigits = 13;
 /// Border and margins of a text box, and its point.
 constexpr int kFieldEdges = 20;
+/// Said beside the help of the command that it is true of.
+constexpr const char* kAgainHelp = "Ctrl+Enter anywhere in this window does the same.";
 /// Longer labels take a second line.
 constexpr int kLabelDigits = 30;
 
@@ -86,11 +90,7 @@ void FieldFace::Follow() {
     label->setVisible(field_.visible());
     label->setEnabled(field_.enabled());
   }
-  if (const QString text = ToQt(field_.text()); text != edit_->text()) {
-    edit_->setText(text);
-    if (!edit_->hasFocus()) edit_->home(false);
-  }
-  edit_->update();
+  edit_->Follow();
 }
 
 LabelFace::LabelFace(FaceSet& set, Label& label, QWidget* parent)
@@ -127,6 +127,7 @@ OptionButtonFace::OptionButtonFace(FaceSet& set, OptionButton& option, QWidget* 
     : Face(set, option, new QRadioButton(ToQt(option.caption()), parent)),
       option_(option),
       button_(static_cast<QRadioButton*>(widget())) {
+  if (option.group().isParted()) set.ButtonsOf(option.group()).addButton(button_);
   connect(button_, &QRadioButton::clicked, this, [this] { option_.Click(); });
 }
 
@@ -136,21 +137,21 @@ void OptionButtonFace::Follow() {
   if (option_.on()) button_->setChecked(true);
 }
 
-OptionGroupFace::OptionGroupFace(FaceSet& set, OptionGroup& group, QWidget* parent)
-    : Face(set, group, new QWidget(parent)) {
+OptionRowsFace::OptionRowsFace(FaceSet& set, OptionRows& rows, QWidget* parent)
+    : Face(set, rows, new QWidget(parent)) {
   auto* grid = new QGridLayout(widget());
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(3);
   int row = 0;
-  const int columns = std::max(1, group.buttonsInRow());
-  if (!group.caption().empty()) {
-    QLabel* caption = MakeLabel(group, widget());
+  const int columns = std::max(1, rows.buttonsInRow());
+  if (!rows.caption().empty()) {
+    QLabel* caption = MakeLabel(rows, widget());
     caption->setForegroundRole(QPalette::PlaceholderText);
     grid->addWidget(caption, row++, 0, 1, columns);
   }
   int column = 0;
-  for (const auto& option : group.buttons()) {
+  for (OptionButton* option : rows.buttonsHere()) {
     auto& face = set.Make<OptionButtonFace>(*option, widget());
     buttons_.push_back(&face);
     // Members that are never shown take no cell.
@@ -164,7 +165,7 @@ OptionGroupFace::OptionGroupFace(FaceSet& set, OptionGroup& group, QWidget* pare
   grid->setColumnStretch(columns, 1);
 }
 
-void OptionGroupFace::Follow() {
+void OptionRowsFace::Follow() {
   Face::Follow();
   for (OptionButtonFace* button : buttons_) button->Follow();
 }
@@ -194,6 +195,7 @@ void ComboFace::Follow() {
 
 CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
     : Face(set, command, new QPushButton(ToQt(command.caption()), parent)),
+      command_(command),
       button_(static_cast<QPushButton*>(widget())) {
   connect(button_, &QPushButton::clicked, this, [&command] { command.Click(); });
 }
@@ -203,7 +205,18 @@ void CommandFace::Follow() {
   button_->setText(ToQt(control().caption()));
 }
 
-TextAreaFace::TextAreaFace(FaceSet& set, TextArea& area, QWidget* parent)
+bool CommandFace::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == button_ && event->type() == QEvent::ToolTip && command_.isNextCalculation()) {
+    const QString help = button_->toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                       help + QLatin1String(help.isEmpty() ? "" : "\n") + QLatin1String(kAgainHelp),
+                       button_);
+    return true;
+  }
+  return Face::eventFilter(watched, event);
+}
+
+TextAreaFace::TextAreaFace(FaceSet& set, TextControl& area, QWidget* parent)
     : Face(set, area, new LinesEdit(area, parent)),
       area_(area),
       edit_(static_cast<LinesEdit*>(widget())) {}

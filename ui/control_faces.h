@@ -60,10 +60,10 @@ class OptionButtonFace : public Face {
   QRadioButton* button_;
 };
 
-/// The buttons of an option group in rows, under the group's caption where it has one.
-class OptionGroupFace : public Face {
+/// Buttons of an option group in rows, under the group's caption where it has one.
+class OptionRowsFace : public Face {
  public:
-  OptionGroupFace(FaceSet& set, OptionGroup& group, QWidget* parent);
+  OptionRowsFace(FaceSet& set, OptionRows& rows, QWidget* parent);
   void Follow() override;
 
  private:
@@ -89,19 +89,23 @@ class CommandFace : public Face {
   QPushButton* button() const { return button_; }
   void Follow() override;
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  Command& command_;
   QPushButton* button_;
 };
 
-/// Free text over several lines.
+/// A text over several lines: notes, or results to be read and copied.
 class TextAreaFace : public Face {
  public:
-  TextAreaFace(FaceSet& set, TextArea& area, QWidget* parent);
+  TextAreaFace(FaceSet& set, TextControl& area, QWidget* parent);
   LinesEdit* edit() const { return edit_; }
   void Follow() override;
 
  private:
-  TextArea& area_;
+  TextControl& area_;
   LinesEdit* edit_;
 };
 

@@ -1,7 +1,10 @@
 #include "ui/face.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QScrollArea>
+#include <QShortcutEvent>
 #include <QWidget>
 
 #include "ui/qt_text.h"
@@ -32,11 +35,26 @@ QString InLines(const QString& sentence) {
   return lines;
 }
 
+/// Scrolls whatever a widget stands in until it can be seen.
+void BringIntoView(QWidget& widget) {
+  constexpr int kAir = 8;
+  for (QWidget* outer = widget.parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
+    if (auto* scroll = qobject_cast<QScrollArea*>(outer)) {
+      scroll->ensureWidgetVisible(&widget, kAir, kAir);
+    }
+  }
+}
+
 }  // namespace
 
 bool MovedOnPurpose(Qt::FocusReason reason) {
   return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
          reason != Qt::MenuBarFocusReason;
+}
+
+bool CameByKeyboard(Qt::FocusReason reason) {
+  return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+         reason == Qt::ShortcutFocusReason;
 }
 
 Face::Face(FaceSet& set, Control& control, QWidget* widget)
@@ -82,10 +100,15 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Enter:
       if (TakesPointer(control_)) control_.screen().Hover(&control_);
       break;
+    case QEvent::Shortcut: {
+      const auto& shortcut = static_cast<QShortcutEvent&>(*event);
+      return shortcut.isAmbiguous() && set_.TakeAccessKey(shortcut.key());
+    }
     case QEvent::FocusIn: FocusCame(static_cast<QFocusEvent*>(event)->reason()); break;
     case QEvent::KeyPress:
-      // The first key after the window came to the front enters the control.
-      if (control_.screen().focus() != &control_) EnterControl();
+      // The first key after the window came to the front enters the control. What a control
+      // has no use for comes by the frames it stands in.
+      if (widget_->hasFocus() && control_.screen().focus() != &control_) EnterControl();
       break;
     case QEvent::FocusOut:
       if (MovedOnPurpose(static_cast<QFocusEvent*>(event)->reason())) FocusWent();
@@ -96,11 +119,11 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Face::FocusCame(Qt::FocusReason reason) {
+  // Whatever moved the focus, the user sees where it is; a mouse sees what it clicks.
+  if (reason != Qt::MouseFocusReason) BringIntoView(*widget_);
   // A window that comes to the front enters nothing.
   if (!MovedOnPurpose(reason) || !EnterControl()) return;
-  const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                          reason == Qt::ShortcutFocusReason;
-  if (byKeyboard) control_.screen().Hover(&control_);
+  if (CameByKeyboard(reason)) control_.screen().Hover(&control_);
 }
 
 bool Face::EnterControl() {
@@ -112,8 +135,8 @@ bool Face::EnterControl() {
 
 void Face::FocusWent() {
   // When another control of the window takes over, that one moves the screen's focus; and
-  // what a panel that closes takes with it was not left by anybody.
-  if (set_.Of(QApplication::focusWidget()) != nullptr || !control_.Shown()) return;
+  // what a panel covers, or takes with it when it closes, was not left by anybody.
+  if (set_.Of(QApplication::focusWidget()) != nullptr || !control_.Reachable()) return;
   Screen& screen = control_.screen();
   if (screen.focus() == &control_ && !screen.MoveFocus(nullptr)) set_.ReturnFocus();
 }
@@ -131,6 +154,23 @@ Face* FaceSet::Of(const QWidget* widget) const {
     if (face->widget() == widget) return face.get();
   }
   return nullptr;
+}
+
+QButtonGroup& FaceSet::ButtonsOf(const OptionGroup& group) {
+  std::unique_ptr<QButtonGroup>& buttons = buttons_[&group];
+  if (buttons == nullptr) buttons = std::make_unique<QButtonGroup>();
+  return *buttons;
+}
+
+bool FaceSet::TakeAccessKey(const QKeySequence& key) const {
+  if (key.isEmpty()) return false;
+  const auto letter = static_cast<char>(QChar(key[0].key()).toLower().toLatin1());
+  const Control* target = screen_.AccessKeyTarget(letter);
+  const Face* face = target == nullptr ? nullptr : Of(*target);
+  auto* button = face == nullptr ? nullptr : qobject_cast<QAbstractButton*>(face->widget());
+  if (button == nullptr) return false;
+  button->click();
+  return true;
 }
 
 void FaceSet::ReturnFocus() {

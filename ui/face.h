@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QButtonGroup>
+#include <QKeySequence>
 #include <QObject>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -18,6 +21,8 @@ inline constexpr const char* kNotAvailable = "Not available yet";
 /// True when the user or the program moved the focus to or from a widget itself, and not
 /// the window came to the front or a menu opened and closed.
 bool MovedOnPurpose(Qt::FocusReason reason);
+/// True when a key brought the focus.
+bool CameByKeyboard(Qt::FocusReason reason);
 
 /// Stands for one control in a window: shows what the control holds and tells it what
 /// the user does. Neither knows more of the other.
@@ -37,6 +42,7 @@ class Face : public QObject, public ControlFace {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  FaceSet& set() const { return set_; }
 
  private:
   void FocusCame(Qt::FocusReason reason);
@@ -69,12 +75,18 @@ class FaceSet {
   Face* Of(const Control& control) const;
   Face* Of(const QWidget* widget) const;
   const std::vector<std::unique_ptr<Face>>& all() const { return faces_; }
+  /// The widgets of an option group whose buttons stand in several places, made one group.
+  QButtonGroup& ButtonsOf(const OptionGroup& group);
+  /// An access key that several widgets have was pressed: clicks the one of the screen's choice.
+  /// False where none of them is a control that can be clicked.
+  bool TakeAccessKey(const QKeySequence& key) const;
   /// Gives the keyboard focus back to the control that holds the screen's.
   void ReturnFocus();
 
  private:
   Screen& screen_;
   std::vector<std::unique_ptr<Face>> faces_;
+  std::map<const OptionGroup*, std::unique_ptr<QButtonGroup>> buttons_;
 };
 
 }  // namespace veldox

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <memory>
 
+#include "core/results.h"
 #include "ui/face.h"
 #include "ui/qt_text.h"
 
@@ -42,13 +43,30 @@ bool IsEnter(const QKeyEvent& event) {
 
 }  // namespace
 
-FieldEdit::FieldEdit(TextControl& field, QWidget* parent) : QLineEdit(parent), field_(field) {
-  setAcceptDrops(!output());
+FieldEdit::FieldEdit(TextControl& field, QWidget* parent)
+    : QLineEdit(parent),
+      field_(field),
+      plain_(dynamic_cast<const ResultLabel*>(&field) != nullptr) {
   setTextMargins(3, 0, 3, 0);
   // Results are for reading: dragging them about would take them away.
   setDragEnabled(false);
   connect(this, &QLineEdit::textEdited, this,
           [this](const QString& now) { field_.Edit(FromQt(now)); });
+}
+
+void FieldEdit::SetInRange(bool inRange) {
+  if (inRange == inRange_) return;
+  inRange_ = inRange;
+  update();
+}
+
+void FieldEdit::Follow() {
+  setAcceptDrops(!output());
+  if (const QString shown = ToQt(field_.text()); shown != text()) {
+    setText(shown);
+    if (!hasFocus()) home(false);
+  }
+  update();
 }
 
 void FieldEdit::Replace(const QString& text) {
@@ -134,6 +152,7 @@ void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
       if (auto* action = menu->findChild<QAction*>(QLatin1String(name))) action->setVisible(false);
     }
   }
+  ExtendMenu(*menu);
   menu->exec(event->globalPos());
 }
 
@@ -144,10 +163,10 @@ void FieldEdit::SetMouseDown(bool down) {
 LinesEdit::LinesEdit(TextControl& control, QWidget* parent)
     : QPlainTextEdit(parent), control_(control) {
   setTabChangesFocus(true);
-  if (control.kind() == ControlKind::ReportBox) {
+  if (control.rule() == KeyRule::OutputOnly) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setLineWrapMode(QPlainTextEdit::NoWrap);
+    if (control.kind() == ControlKind::ReportBox) setLineWrapMode(QPlainTextEdit::NoWrap);
     setUndoRedoEnabled(false);
   }
   connect(this, &QPlainTextEdit::textChanged, this, [this] {
@@ -174,7 +193,7 @@ void LinesEdit::keyPressEvent(QKeyEvent* event) {
     key = kEnterKey;
   } else if (event->key() == Qt::Key_Backspace) {
     key = kBackspaceKey;
-  } else if (event->key() == Qt::Key_Escape && isReadOnly()) {
+  } else if (event->key() == Qt::Key_Escape && control_.kind() == ControlKind::ReportBox) {
     key = kEscapeKey;
   }
   if (key != 0) {

@@ -5,6 +5,8 @@
 
 #include "core/screen.h"
 
+class QMenu;
+
 namespace veldox {
 
 /// The text box of a field. Every typed key goes through the field's rule first; what the
@@ -16,10 +18,20 @@ class FieldEdit : public QLineEdit {
   /// True for fields that show results and take no typing.
   bool output() const { return field_.rule() == KeyRule::OutputOnly; }
   Mark mark() const { return field_.mark(); }
+  /// True for a result that stands on the window without a box.
+  bool plain() const { return plain_; }
+  /// True while it is one of several cells that are selected together.
+  bool inRange() const { return inRange_; }
+  void SetInRange(bool inRange);
+  /// Shows what the field holds now.
+  void Follow();
   /// Replaces the whole text as the user's own doing.
   void Replace(const QString& text);
 
  protected:
+  TextControl& field() const { return field_; }
+  /// Adds to the menu of the right mouse button before it opens.
+  virtual void ExtendMenu(QMenu&) {}
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -32,6 +44,8 @@ class FieldEdit : public QLineEdit {
   void SetMouseDown(bool down);
 
   TextControl& field_;
+  bool plain_;
+  bool inRange_ = false;
 };
 
 /// A text over several lines. Read-only ones (reports) hand every key to their control.

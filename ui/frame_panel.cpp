@@ -3,9 +3,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/panel.h"
 #include "ui/control_faces.h"
 #include "ui/pick_list_face.h"
 #include "ui/qt_text.h"
+#include "ui/table_face.h"
 
 namespace veldox {
 namespace {
@@ -33,13 +35,14 @@ int Widest(const std::vector<QWidget*>& widgets) {
 
 bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed) {
   return std::any_of(frame.controls().begin(), frame.controls().end(), [&](Control* control) {
-    return control->kind() != ControlKind::OptionButton && !Contains(placed, control);
+    return control->kind() != ControlKind::OptionButton && control->kind() != ControlKind::Frame &&
+           !Contains(placed, control);
   });
 }
 
 std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*>& frames,
                                         const std::vector<const Control*>& placed, int gap,
-                                        QWidget* parent) {
+                                        QWidget* parent, const Frame* sheet) {
   int columns = 1;
   for (const Frame* frame : frames) columns = std::max(columns, frame->column() + 1);
   std::vector<QWidget*> built;
@@ -54,7 +57,11 @@ std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*
     for (Frame* frame : frames) {
       if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
       panels.push_back(new FramePanel(faces, *frame, placed, column));
-      faces.Make<FrameFace>(*frame, panels.back());
+      if (frame == sheet) {
+        panels.back()->setTitle({});
+      } else {
+        faces.Make<FrameFace>(*frame, panels.back());
+      }
       labelWidth = std::max(labelWidth, panels.back()->labelWidth());
       unitWidth = std::max(unitWidth, panels.back()->unitWidth());
       pile->addWidget(panels.back());
@@ -74,7 +81,8 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
   grid_->setColumnStretch(0, 1);
   std::vector<Command*> commands;
   for (Control* control : frame.controls()) {
-    if (Contains(placed, control)) continue;
+    // A cell stands in its table.
+    if (Contains(placed, control) || control->whole() != nullptr) continue;
     if (control->kind() == ControlKind::Command) {
       commands.push_back(static_cast<Command*>(control));
     } else {
@@ -105,6 +113,7 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
     }
     case ControlKind::PickList:
       grid_->setRowStretch(row, 1);
+      grows_ = true;
       grid_->addWidget(faces.Make<PickListFace>(static_cast<PickList&>(control), this).panel(), row,
                        0, 1, 3);
       break;
@@ -117,19 +126,26 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
                        row, 0, 1, 3);
       break;
     case ControlKind::OptionGroup:
-      grid_->addWidget(
-          faces.Make<OptionGroupFace>(static_cast<OptionGroup&>(control), this).widget(), row, 0, 1,
-          3);
+    case ControlKind::OptionPart:
+      grid_->addWidget(faces.Make<OptionRowsFace>(static_cast<OptionRows&>(control), this).widget(),
+                       row, 0, 1, 3);
       break;
+    case ControlKind::Table: {
+      auto& face = faces.Make<TableFace>(static_cast<Table&>(control), this);
+      grid_->setRowStretch(row, 1);
+      grid_->addWidget(face.widget(), row, 0, 1, 3);
+      break;
+    }
     case ControlKind::TextArea:
       grid_->setRowStretch(row, 1);
-      grid_->addWidget(faces.Make<TextAreaFace>(static_cast<TextArea&>(control), this).widget(),
+      grows_ = true;
+      grid_->addWidget(faces.Make<TextAreaFace>(static_cast<TextControl&>(control), this).widget(),
                        row, 0, 1, 3);
       break;
     case ControlKind::OptionButton:  // stands in its group
     case ControlKind::Command:       // stands below, with the others
-    case ControlKind::Frame:
-    case ControlKind::ReportBox:  // opens at the foot of the window
+    case ControlKind::Frame:         // stands beside this one
+    case ControlKind::ReportBox:     // opens at the foot of the window
       break;
   }
 }
@@ -161,8 +177,9 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   }
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
-  const int columns = std::clamp(fitting, 1, kMostCommandsInRow);
-  for (int i = 0; i < static_cast<int>(filled.size()); ++i) {
+  const int count = static_cast<int>(filled.size());
+  const int columns = std::clamp(grows_ ? count : fitting, 1, kMostCommandsInRow);
+  for (int i = 0; i < count; ++i) {
     const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
     cell.button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -178,7 +195,12 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
     cells->addLayout(row, i / columns, i % columns);
     cells->setColumnMinimumWidth(i % columns, width);
   }
-  for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
+  if (grows_) {
+    // The frame is as wide as the window, its commands are not.
+    cells->setColumnStretch(columns, 1);
+  } else {
+    for (int i = 0; i < columns; ++i) cells->setColumnStretch(i, 1);
+  }
   const int row = grid_->rowCount();
   if (row > 1) grid_->setRowMinimumHeight(row, 2);
   grid_->addLayout(cells, row + 1, 0, 1, 3);
@@ -205,10 +227,25 @@ void FramePanel::Align(int labelWidth, int unitWidth) {
   grid_->setColumnMinimumWidth(2, unitWidth);
 }
 
+namespace {
+
+bool IsSheet(const Control& frame) {
+  return dynamic_cast<const Panel*>(&frame) != nullptr ||
+         dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+}
+
+}  // namespace
+
 FrameFace::FrameFace(FaceSet& set, Frame& frame, FramePanel* panel) : Face(set, frame, panel) {}
 
 void FrameFace::Follow() {
   Face::Follow();
+  // It goes with the frame it stands in, but keeps its place on a page or panel that is covered.
+  bool shown = true;
+  for (const Control* at = &control(); at != nullptr && !IsSheet(*at); at = at->frame()) {
+    shown = shown && at->visible();
+  }
+  widget()->setVisible(shown);
   static_cast<FramePanel*>(widget())->setTitle(ToQt(control().caption()));
 }
 

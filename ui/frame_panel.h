@@ -28,6 +28,7 @@ class FramePanel : public QGroupBox {
   QGridLayout* grid_;
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
+  bool grows_ = false;  ///< holds something that takes all the room there is
 };
 
 /// Stands for a frame that is shown and hidden in its place.
@@ -43,8 +44,9 @@ bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& place
 /// Frames in their columns, under each other in the order of declaration and lined up. A
 /// column is a widget; frames with nothing to show are left out.
 /// @param gap  pixels between the frames of a column
+/// @param sheet  the page or panel they stand in, which has its name and its face elsewhere
 std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*>& frames,
                                         const std::vector<const Control*>& placed, int gap,
-                                        QWidget* parent);
+                                        QWidget* parent, const Frame* sheet = nullptr);
 
 }  // namespace veldox

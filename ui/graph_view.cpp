@@ -158,6 +158,7 @@ PlotTheme GraphView::theme() const {
   theme.background = FromQtColor(colors.color(QPalette::Active, QPalette::Base));
   theme.text = FromQtColor(colors.color(QPalette::Active, QPalette::Text));
   theme.grid = FromQtColor(derived.border);
+  theme.lightensFaint = true;
   return theme;
 }
 
@@ -231,7 +232,8 @@ std::optional<GraphView::ReadOut> GraphView::readOut() const {
     const QString legend = ToQt(plot.LegendText(series));
     // The legend tells the rest; the card must not cover the graph.
     const bool isLong = metrics.horizontalAdvance(legend) > kWidestName && !series.name.empty();
-    read.rows.push_back({ToQtColor(plot.ShownColor(series)), isLong ? ToQt(series.name) : legend,
+    read.rows.push_back({ToQtColor(plot.ShownColor(series, theme())),
+                         isLong ? ToQt(series.name) : legend,
                          ToQt(FormatAxisValue(nearest.point.x, grapher_.mark())),
                          ToQt(FormatAxisValue(nearest.point.y, grapher_.mark()))});
   }

@@ -13,9 +13,11 @@
 
 #include "core/files.h"
 #include "core/report.h"
+#include "ui/fixed_font.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
+#include "ui/widget_help.h"
 
 namespace veldox {
 namespace {
@@ -213,21 +215,10 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
 
 QPushButton* ReportPanel::AddButton(QBoxLayout& row, const char* caption, const char* tip) {
   auto* button = new QPushButton(QLatin1String(caption), this);
-  button->installEventFilter(this);
-  button->setToolTip(QLatin1String(tip));
-  button->setAccessibleDescription(QLatin1String(tip));
+  GiveHelp(*button, box_.screen(), QLatin1String(tip));
   button->setMinimumWidth(button->sizeHint().width() + 16);
   row.addWidget(button);
   return button;
-}
-
-bool ReportPanel::eventFilter(QObject* watched, QEvent* event) {
-  const auto* button = dynamic_cast<const QPushButton*>(watched);
-  if (button != nullptr && (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn)) {
-    box_.screen().ShowHelp(FromQt(button->accessibleDescription()));
-  }
-  if (button != nullptr && event->type() == QEvent::Leave) box_.screen().Hover(nullptr);
-  return QWidget::eventFilter(watched, event);
 }
 
 std::vector<QWidget*> ReportPanel::TabChain() const {
@@ -261,7 +252,7 @@ void ReportPanel::Follow() {
 
 void ReportPanel::showEvent(QShowEvent* event) {
   // Looked up when the first report opens: start-up does not pay for it.
-  edit_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  edit_->setFont(FixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)));
   edit_->setMinimumHeight(QFontMetrics(edit_->font()).lineSpacing() * kReportLines);
   QWidget::showEvent(event);
 }

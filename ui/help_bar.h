@@ -87,7 +87,6 @@ class ReportPanel : public QWidget {
   std::vector<QWidget*> TabChain() const;
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 

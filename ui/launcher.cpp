@@ -7,6 +7,7 @@
 
 #include "ui/face.h"
 #include "ui/qt_text.h"
+#include "ui/widget_help.h"
 
 namespace veldox {
 namespace {
@@ -35,6 +36,7 @@ Launcher::Launcher(Shell& shell, const Chooser& choose, QWidget* parent)
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setMinimumHeight(button->sizeHint().height() * 5 / 4);
     button->setEnabled(shell.MenuEnabled(*menuItem));
+    GiveHelp(*button, shell, ToQt(item.help));
     if (!button->isEnabled()) button->setToolTip(QLatin1String(kNotAvailable));
     connect(button, &QPushButton::clicked, this, [choose, menuItem] { choose(*menuItem); });
     group->layout()->addWidget(button);

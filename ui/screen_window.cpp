@@ -2,16 +2,18 @@
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ui/column_flow.h"
 #include "ui/control_faces.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/qt_text.h"
+#include "ui/sheet_stack.h"
 #include "ui/window_picture.h"
 
 namespace veldox {
@@ -24,6 +26,11 @@ constexpr int kReadableLines = 30;
 /// What a window manager puts around a window.
 constexpr QSize kDecoration(10, 40);
 
+/// The width of the bar that scrolls the frames down.
+int BarWidth(const SheetStack& sheets) {
+  return sheets.views().front().scroll->verticalScrollBar()->sizeHint().width();
+}
+
 }  // namespace
 
 QSize FittingSize(const QWidget& window, QSize wanted) {
@@ -33,7 +40,7 @@ QSize FittingSize(const QWidget& window, QSize wanted) {
 
 void OrderTabs(const FaceSet& faces) {
   QWidget* last = nullptr;
-  for (const Control* control : faces.screen().controls()) {
+  for (const Control* control : faces.screen().ReadingOrder()) {
     const Face* face = faces.Of(*control);
     if (face == nullptr || face->widget()->focusPolicy() == Qt::NoFocus) continue;
     if (last != nullptr) QWidget::setTabOrder(last, face->widget());
@@ -42,7 +49,7 @@ void OrderTabs(const FaceSet& faces) {
 }
 
 ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
-    : screen_(screen), faces_(screen), scroll_(new FlowScroll(this)) {
+    : screen_(screen), faces_(screen) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
   Control* quit = screen.QuitCommand();
@@ -52,8 +59,8 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
     if (control != nullptr) placed.push_back(control);
   }
 
-  body_ = BuildBody(placed);
-  scroll_->setWidget(body_);
+  sheets_ = new SheetStack(faces_, std::move(placed), this);
+  FollowPointerOverBackgrounds();
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);
@@ -61,11 +68,12 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   // Made after all controls: the tab key comes to it last.
   ownFace_ = makeOwnFace(screen, this);
   if (ownFace_ == nullptr) {
-    column->addWidget(scroll_, 1);
+    column->addWidget(sheets_, 1);
   } else {
     column->addLayout(BesideOwnFace(), 1);
   }
   column->addLayout(foot);
+  sheets_->Follow();
   OrderTabs(faces_);
   if (report_ != nullptr) {
     // Behind the report come its buttons, and only then what stands under it.
@@ -75,25 +83,27 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
     if (last != nullptr) QWidget::setTabOrder(chain.back(), last->widget());
   }
   AddPictureKeys(*this, screen);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    connect(again, &QShortcut::activated, this, [this] { screen_.CalculateAgain(); });
+  }
   SizeToScreen();
 }
 
-ColumnFlow* ScreenWindow::BuildBody(const std::vector<const Control*>& placed) {
-  auto* body = new ColumnFlow(kWindowMargin, kFrameGap, scroll_);
-  body->setMouseTracking(true);
-  body->installEventFilter(this);
-  setMouseTracking(true);
-  installEventFilter(this);
-
-  for (QWidget* column : BuildFrameColumns(faces_, screen_.frames(), placed, kFrameGap, body)) {
-    column->setMouseTracking(true);
-    column->installEventFilter(this);
-    body->Add(column);
-    backgrounds_.push_back(column);
+void ScreenWindow::FollowPointerOverBackgrounds() {
+  std::vector<QWidget*> grounds{this};
+  for (const SheetView& view : sheets_->views()) {
+    grounds.push_back(view.flow);
+    for (QWidget* column :
+         view.flow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+      grounds.push_back(column);
+    }
   }
-  backgrounds_.push_back(body);
-  backgrounds_.push_back(this);
-  return body;
+  for (QWidget* ground : grounds) {
+    ground->setMouseTracking(true);
+    ground->installEventFilter(this);
+    backgrounds_.push_back(ground);
+  }
 }
 
 QLayout* ScreenWindow::BuildFoot(Control* quit) {
@@ -131,9 +141,8 @@ QLayout* ScreenWindow::BesideOwnFace() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(0, 0, kWindowMargin, 0);
   row->setSpacing(0);
-  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
-  scroll_->setFixedWidth(scroll_->widget()->sizeHint().width() + bar);
-  row->addWidget(scroll_);
+  sheets_->setFixedWidth(sheets_->WantedWidth() + BarWidth(*sheets_));
+  row->addWidget(sheets_);
   auto* face = new QVBoxLayout;
   face->setContentsMargins(0, kWindowMargin, 0, 0);
   face->addWidget(ownFace_);
@@ -142,27 +151,39 @@ QLayout* ScreenWindow::BesideOwnFace() {
 }
 
 void ScreenWindow::SizeToScreen() {
-  const ColumnFlow& body = *body_;
+  const int least = sheets_->minimumSizeHint().height();
   if (ownFace_ != nullptr) {
     const QSize face = ownFace_->sizeHint();
     const int foot = layout()->minimumSize().height() -
-                     std::max(scroll_->minimumSizeHint().height(),
-                              ownFace_->minimumSizeHint().height() + kWindowMargin);
-    const int height = std::max(body.sizeHint().height(), face.height() + kWindowMargin) + foot;
-    resize(FittingSize(*this, {scroll_->width() + face.width() + kWindowMargin, height}));
+                     std::max(least, ownFace_->minimumSizeHint().height() + kWindowMargin);
+    const SheetView& frames = sheets_->views().front();
+    const int height =
+        std::max(sheets_->WantedHeight(frames, sheets_->width()), face.height() + kWindowMargin) +
+        foot;
+    resize(FittingSize(*this, {sheets_->width() + face.width() + kWindowMargin, height}));
     return;
   }
-  const int foot = layout()->minimumSize().height() - scroll_->minimumSizeHint().height();
-  const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+  const int foot = layout()->minimumSize().height() - least;
   const QSize room = FittingSize(*this, QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
-  int width = std::min(body.sizeHint().width(), room.width());
-  int height = body.WantedHeight(width) + foot;
+  int width = std::min(sheets_->WantedWidth(), room.width());
+  int height = 0;
+  for (const SheetView& view : sheets_->views()) {
+    height = std::max(height, sheets_->WantedHeight(view, width) + foot);
+  }
   if (height > room.height() || report_ != nullptr) {
     // The bar for scrolling down, which a report brings, takes its room beside the frames.
-    width = std::min(width + bar, room.width());
+    width = std::min(width + BarWidth(*sheets_), room.width());
     height = std::min(height, room.height());
   }
   resize(width, height);
+}
+
+void ScreenWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && screen_.topPanel() != nullptr) {
+    screen_.PutAwayPanel();
+    return;
+  }
+  QWidget::keyPressEvent(event);
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
@@ -190,11 +211,12 @@ void ScreenWindow::ShareRoom() {
     report_->updateGeometry();
     layout()->activate();
     const int room = height() - layout()->minimumSize().height() +
-                     scroll_->minimumSizeHint().height() + report_->minimumSizeHint().height();
+                     sheets_->minimumSizeHint().height() + report_->minimumSizeHint().height();
     const int lines = kReadableLines * fontMetrics().lineSpacing();
-    most = std::min(body_->WantedHeight(scroll_->width()), std::max(room - lines, room * 2 / 5));
+    most = std::min(sheets_->WantedHeight(sheets_->current(), sheets_->width()),
+                    std::max(room - lines, room * 2 / 5));
   }
-  scroll_->setMaximumHeight(most);
+  sheets_->setMaximumHeight(most);
 }
 
 void ScreenWindow::resizeEvent(QResizeEvent* event) {

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <QScrollArea>
 #include <QWidget>
 
 #include "ui/face.h"
 
 namespace veldox {
 
-class ColumnFlow;
+class SheetStack;
 
 /// Makes the widget that a screen shows beside its frames, or null.
 using OwnFaceMaker = QWidget* (*)(Screen& screen, QWidget* parent);
 
 /// The window of any screen: its frames in columns, which scroll where they must, and at
-/// the foot the report, the help strip and the "&Quit" button. The face that a screen has
-/// of its own takes all the room at the right of the frames.
+/// the foot the report, the help strip and the "&Quit" button. Pages take turns, and panels
+/// cover them, over the foot. The face that a screen has of its own takes all the room at the
+/// right of the frames. Escape puts a panel away; Ctrl+Enter runs the last calculation again.
 class ScreenWindow : public QWidget {
  public:
   ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace);
@@ -25,10 +25,11 @@ class ScreenWindow : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  ColumnFlow* BuildBody(const std::vector<const Control*>& placed);
+  void FollowPointerOverBackgrounds();
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
   /// The frames' columns at the left, as wide as they must be, and the screen's own face.
@@ -41,8 +42,7 @@ class ScreenWindow : public QWidget {
 
   Screen& screen_;
   FaceSet faces_;
-  QScrollArea* scroll_;
-  ColumnFlow* body_;
+  SheetStack* sheets_;
   QWidget* ownFace_ = nullptr;  ///< null for most screens
   QWidget* report_ = nullptr;
   int heightWithoutReport_ = 0;

@@ -307,7 +307,12 @@ class FlatStyle : public QProxyStyle {
     QColor fill = edit.output() ? colors.outputFill : option.palette.color(QPalette::Base);
     QColor line = edit.output() ? colors.outputBorder : colors.fieldBorder;
     double width = 1;
+    if (edit.plain()) {
+      fill = Qt::transparent;
+      line = Qt::transparent;
+    }
     if (edit.mark() == Mark::Changed) fill = colors.changedFill;
+    if (edit.inRange()) fill = Blend(option.palette.color(QPalette::Base), colors.accent, 0.35);
     if (focused) {
       line = colors.accent;
       width = 2;

@@ -189,7 +189,7 @@ void WindowDriver::Press(Control& control, Key key) {
 }
 
 void WindowDriver::Click(Control& control) {
-  if (!control.enabled() || !control.Shown()) return;
+  if (!control.enabled() || !control.Reachable()) return;
   QWidget* widget = WidgetOf(control);
   if (widget == nullptr) {
     model_.Click(control);

@@ -446,7 +446,7 @@ TEST_F(LoadFileTest, FollowsALink) {
 }
 
 TEST_F(LoadFileTest, ReadsAFileThatTellsNoSize) {
-  if (!fs::exists("/proc/self/status")) GTEST_SKIP() << "this system has no such file";
+  ASSERT_TRUE(fs::exists("/proc/self/status")) << "is /proc mounted?";
   EXPECT_THAT(LoadFile("/proc/self/status"), HasSubstr("Name:"));
 }
 

@@ -374,6 +374,48 @@ TEST_F(PlotEngineTest, AFaintCurveGetsAnEdgeAndKeepsItsColor) {
   }
 }
 
+TEST_F(PlotEngineTest, AWindowShowsAFaintCurveLighterOnDarkAsOneLine) {
+  plot_.SetScale({0, 10, 0, 10});
+  PlotTheme window;
+  window.background = {20, 24, 28};
+  window.text = {230, 230, 230};
+  window.lightensFaint = true;
+  const Color blue = ColorByName("blue")->color;
+  plot_.CurveInColor(*ColorByName("blue"));
+  plot_.PlotLine(0, 0);
+  plot_.PlotLine(10, 10);
+  RecordingSurface shown(400, 400);
+  plot_.DrawOn(shown, window);
+  ASSERT_EQ(shown.polylines.size(), 1U) << "no edge at its sides";
+  const Color tint = shown.polylines.front().pen.color;
+  EXPECT_GE(Contrast(tint, window.background), 4);
+  EXPECT_EQ(tint.red, tint.green) << "a blue still";
+  EXPECT_GT(tint.blue, tint.red + 50);
+  EXPECT_EQ(plot_.ShownColor(plot_.series().front(), window), tint);
+  EXPECT_EQ(shown.lines.back().pen.color, tint) << "its sample in the legend";
+  EXPECT_EQ(plot_.ShownColor(plot_.series().front()), blue);
+  window.lightensFaint = false;
+  RecordingSurface file(400, 400);
+  plot_.DrawOn(file, window);
+  EXPECT_EQ(file.polylines.back().pen.color, blue) << "files keep the colour";
+}
+
+TEST(CurveColors, AreSeenOnDarkAndStayThemselvesOnLight) {
+  const Color dark{20, 24, 28};
+  const Color light{255, 255, 255};
+  std::vector<Color> faint;
+  for (int i = 0; i <= kCurveColorCount; ++i) {
+    const Color color = CurveColorOf(i).color;
+    EXPECT_EQ(SeenOn(color, light), color) << i;
+    const Color seen = SeenOn(color, dark);
+    EXPECT_GE(Contrast(seen, dark), kFaintContrast) << CurveColorOf(i).name;
+    if (seen == color || std::count(faint.begin(), faint.end(), seen) > 0) continue;
+    faint.push_back(seen);
+  }
+  // Blue, dark blue, dark magenta and the like stay apart from each other.
+  EXPECT_GE(faint.size(), 4U);
+}
+
 TEST_F(PlotEngineTest, ManyNamesLeaveTheGraphItsRoom) {
   plot_.SetScale({0, 10, 0, 10});
   plot_.DrawAxes();

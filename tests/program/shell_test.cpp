@@ -55,8 +55,21 @@ TEST_F(ShellTest, TellsWhatIsWrongWithTheStartUpFile) {
   WriteFile("zxqvwu00.prm", "Bore = 4.5\r\nnonsense\r\nStroke = 3\r\n");
   host_.Answer(Button::OK);
   program_.Start();
-  EXPECT_EQ(host_.messages.back().text, "Invalid Input Record # - 2   Data --> nonsense");
+  EXPECT_EQ(host_.messages.back().text, "Invalid Input Record # - 2   Data --> nonsense\r\nFile: zxqvwu00.prm");
   EXPECT_EQ(block().Stroke, 3);
+}
+
+TEST_F(ShellTest, ADamagedStartUpFileIsRefusedByOneBox) {
+  std::string binary;
+  for (int i = 0; i < 20000; ++i) binary += "\x01\x02\n";
+  WriteFile("zxqvwu00.prm", binary);
+  host_.Answer(Button::OK);
+  program_.Start();
+  ASSERT_EQ(host_.messages.size(), 1U);
+  EXPECT_EQ(host_.messages[0].text,
+            "This is no parameter file: none of its first ten lines begins with a key.\r\n"
+            "File: zxqvwu00.prm");
+  EXPECT_EQ(block().Bore, 4.0);
 }
 
 TEST_F(ShellTest, MarkerFilesSetTheSizeOfTheScreens) {
@@ -375,6 +388,33 @@ TEST_F(ShellTest, AnErrorHalfWayThroughAFileStillTellsTheCount) {
   EXPECT_EQ(shell().Label8.caption(), "Parameter File -- half.prm");
   EXPECT_EQ(block().Bore, 4.5);
   EXPECT_EQ(block().RodLength, 5.7);
+}
+
+TEST_F(ShellTest, TheControlsOfItsPanelsAreItsOwn) {
+  program_.Start();
+  std::vector<Frame*> inReadingOrder{&shell().TitleFrame};
+  for (const ScreenPart* panel : shell().Panels()) {
+    for (Frame* frame : panel->frames()) {
+      EXPECT_FALSE(frame->visible()) << frame->name();
+      EXPECT_EQ(&frame->screen(), &shell());
+      inReadingOrder.push_back(frame);
+      for (Control* control : frame->controls()) {
+        EXPECT_EQ(shell().FindControl("Main." + control->name()), control);
+      }
+    }
+  }
+  EXPECT_EQ(shell().frames(), inReadingOrder);
+}
+
+TEST_F(ShellTest, APanelThatOpensOrClosesTakesTheHelpSentenceAway) {
+  program_.Start();
+  shell().ShowHelp("Of the launcher.");
+  Choose("Graph");
+  EXPECT_EQ(shell().Label77.caption(), "");
+  shell().Hover(&shell().graphOptions.DrawLn);
+  EXPECT_EQ(shell().Label77.caption(), shell().graphOptions.DrawLn.help());
+  shell().graphOptions.Command2.Click();
+  EXPECT_EQ(shell().Label77.caption(), "");
 }
 
 TEST_F(ShellTest, NotesOfAFileShowOnTheOpenPanel) {

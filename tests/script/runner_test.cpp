@@ -92,6 +92,14 @@ TEST_F(RunnerTest, AnAnswerThatNothingAskedForIsAnError) {
             "a\nscript line 2: the answer of line 1 was never asked for");
   host_.answers.clear();
   EXPECT_EQ(Run("file a.prm\n"), "script line 1: the file of line 1 was never asked for");
+  host_.files.clear();
+  EXPECT_EQ(Run("pause a\nprinter cancel\n"),
+            "a\nscript line 2: the printer of line 2 was never asked for");
+}
+
+TEST_F(RunnerTest, APrinterIsLandscapePortraitOrCancel) {
+  EXPECT_EQ(Run("printer sideways\n"), "script line 1: a printer is landscape, portrait or cancel");
+  EXPECT_TRUE(host_.printers.empty());
 }
 
 TEST_F(RunnerTest, AnAnswerMustBeAButtonOfItsBox) {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
+#include <set>
 
 #include "tests/ui/window_test.h"
 #include "ui/field_edit.h"
@@ -145,9 +146,32 @@ TEST_F(MainWindowTest, LauncherShowsEveryScreenAndSaysWhatIsNotBuilt) {
         Child(window, (std::string("Launch_") + std::string(item.menuItem)).c_str()));
     EXPECT_EQ(FromQt(button.text()), item.text);
     EXPECT_EQ(button.isEnabled(), shell().MenuEnabled(*Shell::FindMenuItem(item.menuItem)));
-    EXPECT_EQ(button.toolTip(),
-              button.isEnabled() ? QString() : QStringLiteral("Not available yet"));
+    EXPECT_EQ(FromQt(button.toolTip()), button.isEnabled() ? item.help : "Not available yet");
     EXPECT_GE(button.width(), button.fontMetrics().horizontalAdvance(button.text()) + 8);
+  }
+}
+
+TEST_F(MainWindowTest, LauncherButtonsTellWhatTheirScreensAreFor) {
+  auto& line = static_cast<QLabel&>(Child(window, "Label77"));
+  std::set<QString> sentences;
+  for (const LauncherItem& item : Shell::Launcher()) {
+    QWidget& button = Child(window, ("Launch_" + std::string(item.menuItem)).c_str());
+    EXPECT_TRUE(item.help.ends_with('.')) << item.menuItem;
+    EXPECT_EQ(FromQt(button.accessibleDescription()), item.help);
+    EnterWidget(button);
+    EXPECT_EQ(FromQt(line.text()), item.help);
+    EXPECT_LE(line.fontMetrics().horizontalAdvance(line.text()), line.width()) << item.menuItem;
+    sentences.insert(line.text());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, &leave);
+    EXPECT_EQ(line.text(), QString());
+  }
+  EXPECT_EQ(sentences.size(), Shell::Launcher().size()) << "each screen has its own sentence";
+
+  for (const char* name : {"Launch_CompRatio", "Launch_CubicInch"}) {
+    QWidget& button = Child(window, name);
+    button.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(line.text(), button.accessibleDescription()) << "it goes with the keyboard";
   }
 }
 
@@ -175,6 +199,12 @@ TEST_F(MainWindowTest, NotesPanelTakesTheLaunchersPlace) {
   EXPECT_TRUE(notes.isVisible());
   EXPECT_TRUE(notes.hasFocus());
   EXPECT_FALSE(Child(window, "Launch_CubicInch").isVisible());
+  for (const char* name : {"Command11", "Command12"}) {
+    auto& button = static_cast<QPushButton&>(Child(window, name));
+    const int caption = button.fontMetrics().horizontalAdvance(button.text());
+    EXPECT_GE(button.width(), caption + 8);
+    EXPECT_LE(button.width(), caption * 2) << "as wide as a button, not as the window";
+  }
   notes.insertPlainText(QStringLiteral("one\ntwo"));
   ClickOn(Child(window, "Command11"));
   EXPECT_EQ(program->context().block.Notes, "one\r\ntwo");

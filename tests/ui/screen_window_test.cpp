@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTest>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -96,6 +98,39 @@ TEST_F(Form1WindowTest, CommandThatIsNotBuiltSaysSo) {
   screen.Now.SetEnabled(false);
   EXPECT_FALSE(Child(half, "Now").isEnabled());
   EXPECT_EQ(Child(half, "Now").toolTip(), QStringLiteral("Works."));
+}
+
+TEST_F(Form1WindowTest, AnAccessKeyThatCommandsShareComputes) {
+  // "&Engine Size" and "B&earing Speed" share Alt+E.
+  Edit("Text1").setFocus(Qt::TabFocusReason);
+  QTest::keyClick(window.windowHandle(), Qt::Key_E, Qt::AltModifier);
+  Settle();
+  // 8 cylinders of 4 by 3.25 inches: 4 * 4 * 3.25 * 8 * pi / 4
+  EXPECT_EQ(Text("Text6"), "326.7256");
+  EXPECT_TRUE(Edit("Text1").hasFocus());
+  EXPECT_EQ(Model<Field>("Form1.Text6").mark(), Mark::Changed);
+  Command& bearing = Model<Command>("Form1.Command26");
+  ASSERT_EQ(bearing.accessKey(), 'e');
+  for (Control* control : bearing.frame()->controls()) {
+    if (control->kind() != ControlKind::Field) continue;
+    Child(window, control->name().c_str()).setFocus(Qt::TabFocusReason);
+    break;
+  }
+  QTest::keyClick(window.windowHandle(), Qt::Key_E, Qt::AltModifier);
+  Settle();
+  EXPECT_EQ(Model<Field>("Form1.Text6").mark(), Mark::None) << "another command has run";
+  EXPECT_TRUE(bearing.isNextCalculation());
+}
+
+TEST_F(Form1WindowTest, CtrlEnterComputesAgain) {
+  Model<Command>("Form1.Command1").Click();
+  Edit("Text1").Replace(QStringLiteral("4.030"));
+  Edit("Text1").setFocus(Qt::TabFocusReason);
+  QTest::keyClick(window.windowHandle(), Qt::Key_Return, Qt::ControlModifier);
+  Settle();
+  // 8 * 4.03 * 4.03 * 3.25 * pi / 4 = 331.6448...
+  EXPECT_EQ(Text("Text6").substr(0, 5), "331.6");
+  EXPECT_TRUE(Edit("Text1").hasFocus());
 }
 
 TEST_F(Form1WindowTest, TabKeyWalksInReadingOrder) {
