@@ -254,18 +254,9 @@ void Form3::EstimateSixtyFootGs() {
 // ---------------------------------------------------------------- split times
 
 std::array<Form3::Run, 3> Form3::Runs() {
-  return {{{{&Text4, &Text10, &Text13, &Text17, &Text21},
-            {&Text7_0, &Text7_1, &Text7_2, &Text7_3},
-            &Text40,
-            &Text41},
-           {{&Text22, &Text23, &Text24, &Text27, &Text28},
-            {&Text7_4, &Text7_5, &Text7_6, &Text7_7},
-            &Text42,
-            &Text43},
-           {{&Text29, &Text30, &Text31, &Text32, &Text33},
-            {&Text7_8, &Text7_9, &Text7_10, &Text7_11},
-            &Text44,
-            &Text45}}};
+  return {{{{&Text4, &Text10, &Text13, &Text17, &Text21}, 0, &Text40, &Text41},
+           {{&Text22, &Text23, &Text24, &Text27, &Text28}, 4, &Text42, &Text43},
+           {{&Text29, &Text30, &Text31, &Text32, &Text33}, 8, &Text44, &Text45}}};
 }
 
 bool Form3::IsUnused(const Run& run) const {
@@ -276,20 +267,25 @@ bool Form3::IsUnused(const Run& run) const {
 }
 
 void Form3::ShowSplits(const Run& run) {
-  for (std::size_t i = 0; i < run.splits.size(); ++i) {
+  for (std::size_t i = 0; i + 1 < kSplits; ++i) {
     const double before = Read(*run.times[i]);
-    Show(*run.splits[i], Read(*run.times[i + 1]) - before);
+    Show(Text7[run.firstSplit + static_cast<int>(i)], Read(*run.times[i + 1]) - before);
   }
 }
 
-void Form3::ShowRunPower(const Run& run, int number, double weightLb) {
+void Form3::EmptyResults(const Run& run) {
+  for (int i = 0; i + 1 < static_cast<int>(kSplits); ++i) Text7[run.firstSplit + i].SetText({});
+  run.peak->SetText({});
+  run.average->SetText({});
+}
+
+void Form3::ShowRunPower(const Run& run, double weightLb) {
   std::array<double, kSplits> times{};
-  const std::string ofRun = "of run " + std::to_string(number) + " must be ";
   for (std::size_t i = 0; i < kSplits; ++i) {
-    times[i] = Read(*run.times[i]);
-    Require(i > 0 || times[i] > 0, *run.times[i], (ofRun + "greater than 0.").c_str());
-    Require(i == 0 || times[i] > times[i - 1], *run.times[i],
-            (ofRun + "later than the time before it.").c_str());
+    Field& field = *run.times[i];
+    times[i] = Read(field);
+    Require(i > 0 || times[i] > 0, field, "must be greater than 0.");
+    Require(i == 0 || times[i] > times[i - 1], field, "must be later than the time before it.");
   }
   const RunPowers powers = RunPower(weightLb, times);
   ShowAs<".00">(*run.peak, powers.peak, {&Text2});
@@ -298,18 +294,10 @@ void Form3::ShowRunPower(const Run& run, int number, double weightLb) {
 
 void Form3::AnalyseRuns() {
   const std::array<Run, 3> runs = Runs();
-  for (const Run& run : runs) {
-    if (!IsUnused(run)) {
-      ShowSplits(run);
-      continue;
-    }
-    for (Field* split : run.splits) split->SetText({});
-    run.peak->SetText({});
-    run.average->SetText({});
-  }
+  for (const Run& run : runs) IsUnused(run) ? EmptyResults(run) : ShowSplits(run);
   const double weightLb = ReadWeight();
-  for (std::size_t i = 0; i < runs.size(); ++i) {
-    if (!IsUnused(runs[i])) ShowRunPower(runs[i], static_cast<int>(i) + 1, weightLb);
+  for (const Run& run : runs) {
+    if (!IsUnused(run)) ShowRunPower(run, weightLb);
   }
 }
 

@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 
+#include "core/field_array.h"
 #include "core/screen.h"
+#include "core/table.h"
 #include "vehicle/elapsed_time.h"
 #include "vehicle/gearbox.h"
 #include "vehicle/horsepower_curve.h"
@@ -26,10 +28,10 @@ class Form3 : public Screen, public GearboxTaker {
   void TakeGearbox(const Gearbox& gearbox) override;
 
  private:
-  /// A run down the strip as its fields stand side by side.
+  /// A run down the strip as its fields stand in its column.
   struct Run {
     std::array<Field*, kSplits> times;
-    std::array<Field*, kSplits - 1> splits;  ///< results, between two times each
+    int firstSplit;  ///< of Text7
     Field* peak;
     Field* average;
   };
@@ -80,7 +82,8 @@ class Form3 : public Screen, public GearboxTaker {
   /// True for a run whose times are all left empty or 0.
   bool IsUnused(const Run& run) const;
   void ShowSplits(const Run& run);
-  void ShowRunPower(const Run& run, int number, double weightLb);
+  void EmptyResults(const Run& run);
+  void ShowRunPower(const Run& run, double weightLb);
   /// The curve that the type field asks for: a fraction asks for the one drawn last.
   ScaledCurve ReadCurve();
   void TellSlippage();
@@ -239,59 +242,56 @@ class Form3 : public Screen, public GearboxTaker {
 
   Frame Frame7{*this, "Frame7", "Split Times of up to 3 Runs", 2};
   Field Text4{Frame7, "Text4", "60 Foot", "2.287", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_0{Frame7, "Text7(0)", "60 - 330 Foot", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text10{Frame7, "Text10", "330 Foot", "6.341", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_1{Frame7, "Text7(1)", "330 Foot - 1/8 Mile", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text13{Frame7, "Text13", "1/8 Mile ET", "9.658",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_2{Frame7, "Text7(2)", "1/8 Mile - 1000 Foot", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text17{Frame7, "Text17", "1000 Foot", "12.506",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_3{Frame7, "Text7(3)", "1000 Foot - 1/4 Mile", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text21{Frame7, "Text21", "1/4 Mile ET", "14.864",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text40{Frame7, "Text40", "Peak HP", "131.04", KeyRule::OutputOnly};
-  Field Text41{Frame7, "Text41", "Average HP", "98.95", KeyRule::OutputOnly};
   Field Text22{Frame7, "Text22", "60 Foot", "2.141", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_4{Frame7, "Text7(4)", "60 - 330 Foot", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text23{Frame7, "Text23", "330 Foot", "5.976", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_5{Frame7, "Text7(5)", "330 Foot - 1/8 Mile", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text24{Frame7, "Text24", "1/8 Mile ET", "9.322",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_6{Frame7, "Text7(6)", "1/8 Mile - 1000 Foot", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text27{Frame7, "Text27", "1000 Foot", "12.175",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_7{Frame7, "Text7(7)", "1000 Foot - 1/4 Mile", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text28{Frame7, "Text28", "1/4 Mile ET", "14.534",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text42{Frame7, "Text42", "Peak HP", "125.88", KeyRule::OutputOnly};
-  Field Text43{Frame7, "Text43", "Average HP", "100.50", KeyRule::OutputOnly};
   Field Text29{Frame7, "Text29", "60 Foot", "2.056", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_8{Frame7, "Text7(8)", "60 - 330 Foot", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text30{Frame7, "Text30", "330 Foot", "5.845", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_9{Frame7, "Text7(9)", "330 Foot - 1/8 Mile", "0.0",
-                Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text31{Frame7, "Text31", "1/8 Mile ET", "9.043",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_10{Frame7, "Text7(10)", "1/8 Mile - 1000 Foot", "0.0",
-                 Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text32{Frame7, "Text32", "1000 Foot", "11.801",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
-  Field Text7_11{Frame7, "Text7(11)", "1000 Foot - 1/4 Mile", "0.0",
-                 Entry(KeyRule::OutputOnly, Unit::Seconds)};
   Field Text33{Frame7, "Text33", "1/4 Mile ET", "14.122",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
+  FieldArray Text7{Frame7, "Text7", 12, "Split", "0.0", Entry(KeyRule::OutputOnly, Unit::Seconds)};
+  Table Times{
+      Frame7,
+      "Times",
+      "Times and Splits",
+      {{"Run 1",
+        {&Text4, &Text7[0], &Text10, &Text7[1], &Text13, &Text7[2], &Text17, &Text7[3], &Text21}},
+       {"Run 2",
+        {&Text22, &Text7[4], &Text23, &Text7[5], &Text24, &Text7[6], &Text27, &Text7[7], &Text28}},
+       {"Run 3",
+        {&Text29, &Text7[8], &Text30, &Text7[9], &Text31, &Text7[10], &Text32, &Text7[11],
+         &Text33}}},
+      {"",
+       {"60 Foot", "60 - 330 Foot", "330 Foot", "330 Foot - 1/8 Mile", "1/8 Mile ET",
+        "1/8 Mile - 1000 Foot", "1000 Foot", "1000 Foot - 1/4 Mile", "1/4 Mile ET"}}};
+  Field Text40{Frame7, "Text40", "Peak HP", "131.04", KeyRule::OutputOnly};
+  Field Text41{Frame7, "Text41", "Average HP", "98.95", KeyRule::OutputOnly};
+  Field Text42{Frame7, "Text42", "Peak HP", "125.88", KeyRule::OutputOnly};
+  Field Text43{Frame7, "Text43", "Average HP", "100.50", KeyRule::OutputOnly};
   Field Text44{Frame7, "Text44", "Peak HP", "136.88", KeyRule::OutputOnly};
   Field Text45{Frame7, "Text45", "Average HP", "106.30", KeyRule::OutputOnly};
+  Table Powers{
+      Frame7,
+      "Powers",
+      "Horsepower of the Runs",
+      {{"Run 1", {&Text40, &Text41}}, {"Run 2", {&Text42, &Text43}}, {"Run 3", {&Text44, &Text45}}},
+      {"", {"Peak HP", "Average HP"}}};
   Command Command4{
       Frame7, "Command4", "1/4 Split Times",
       "Calculate Split Time for up to 3 Different Runs, also Estimate Peak and Average "
