@@ -846,6 +846,11 @@ std::string Screen::TextOf(const Field& field, double value) const {
   return (format != nullptr ? format : pattern_)(value, mark());
 }
 
+std::string Screen::SwitchedTextOf(const Field& field, double value) const {
+  const NumberFormat format = field.holds().switchedFormat();
+  return format != nullptr ? format(value, mark()) : TextOf(field, value);
+}
+
 void Screen::Show(Field& field, double value, DividesBy divisors) {
   RequireResult(field, value, divisors);
   const bool keptInUs = field.holds().conversion() == Holds::Conversion::ShownOnly;
@@ -951,7 +956,7 @@ void Screen::ConvertValues(bool toMetric) {
     // A field without a number is left alone, its value is not.
     if (value.field != nullptr && (isShown || !readsText)) {
       RequireResult(*value.field, now);
-      ShowText(*value.field, TextOf(*value.field, now));
+      ShowText(*value.field, SwitchedTextOf(*value.field, now));
     } else if (!std::isfinite(now)) {
       now = number;
       std::feclearexcept(FE_OVERFLOW);
@@ -1027,7 +1032,7 @@ void Screen::SwitchBlankUnits(bool toMetric) {
       field->SetText(lastSwitch_.Find(field)->before);
     } else if (rule != nullptr && IsNumber(before, mark())) {
       const double now = rule->Convert(ParseNumber(before, mark()), toMetric);
-      if (std::isfinite(now)) field->SetText(TextOf(*field, now));
+      if (std::isfinite(now)) field->SetText(SwitchedTextOf(*field, now));
     }
     made.texts.push_back({field, std::move(before), field->text()});
   }

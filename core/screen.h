@@ -747,6 +747,7 @@ class Screen {
   std::vector<MetricValue> MetricValues();
   std::vector<Field*> Fields() const;
   std::string TextOf(const Field& field, double value) const;
+  std::string SwitchedTextOf(const Field& field, double value) const;
   void ConvertValues(bool toMetric);
   void TakeFocus(Control* control);
 

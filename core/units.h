@@ -64,6 +64,8 @@ inline constexpr UnitRule kWeightRule{[](double lb) { return lb * kKilogramsPerP
                                       [](double kg) { return kg / kKilogramsPerPound; }};
 inline constexpr UnitRule kRoadSpeedRule{[](double mph) { return mph * kKilometresPerMile; },
                                          [](double kmh) { return kmh / kKilometresPerMile; }};
+inline constexpr UnitRule kFeetRule{[](double feet) { return feet * kMetresPerFoot; },
+                                    [](double metres) { return metres / kMetresPerFoot; }};
 inline constexpr UnitRule kTorqueRule{
     [](double footPounds) { return footPounds * kMetreKilogramsPerFootPound; },
     [](double metreKg) { return metreKg / kMetreKilogramsPerFootPound; }};
@@ -104,6 +106,8 @@ enum class Unit {
   Torque,
   MeanPressure,
   Seconds,
+  Feet,  ///< lengths on the road
+  Miles,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -131,6 +135,8 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Torque: return metric ? "m-kg" : "lb-ft";
     case Unit::MeanPressure: return metric ? "bar" : "psi";
     case Unit::Seconds: return "s";
+    case Unit::Feet: return metric ? "m" : "ft";
+    case Unit::Miles: return metric ? "km" : "mi";
   }
   return "";
 }
@@ -148,7 +154,9 @@ constexpr const UnitRule* RuleOf(Unit unit) {
     case Unit::GaugePressure: return &kGaugePressureRule;
     case Unit::Temperature: return &kTemperatureRule;
     case Unit::Weight: return &kWeightRule;
-    case Unit::RoadSpeed: return &kRoadSpeedRule;
+    case Unit::RoadSpeed:
+    case Unit::Miles: return &kRoadSpeedRule;
+    case Unit::Feet: return &kFeetRule;
     case Unit::Torque: return &kTorqueRule;
     case Unit::MeanPressure: return &kMeanPressureRule;
     default: return nullptr;

@@ -5,6 +5,7 @@
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
+#include "vehicle/gear_screen.h"
 #include "vehicle/gearbox_finder_screen.h"
 
 namespace veldox {
@@ -27,8 +28,11 @@ Program::Program(Host& host)
   AddScreen<Form21>(displacement);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   auto& elapsedTime = AddScreen<Form3>();
+  auto& gear = AddScreen<Form5>();
   auto& gearboxFinder = AddScreen<Form19>();
   gearboxFinder.AddTaker(elapsedTime);
+  gearboxFinder.AddTaker(gear);
+  gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });

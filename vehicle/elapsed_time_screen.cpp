@@ -253,7 +253,7 @@ void Form3::EstimateSixtyFootGs() {
 
 // ---------------------------------------------------------------- split times
 
-std::array<Form3::Run, 3> Form3::Runs() {
+std::array<Form3::Run, 3> Form3::AllRuns() {
   return {{{{&Text4, &Text10, &Text13, &Text17, &Text21}, 0, &Text40, &Text41},
            {{&Text22, &Text23, &Text24, &Text27, &Text28}, 4, &Text42, &Text43},
            {{&Text29, &Text30, &Text31, &Text32, &Text33}, 8, &Text44, &Text45}}};
@@ -293,7 +293,7 @@ void Form3::ShowRunPower(const Run& run, double weightLb) {
 }
 
 void Form3::AnalyseRuns() {
-  const std::array<Run, 3> runs = Runs();
+  const std::array<Run, 3> runs = AllRuns();
   for (const Run& run : runs) IsUnused(run) ? EmptyResults(run) : ShowSplits(run);
   const double weightLb = ReadWeight();
   for (const Run& run : runs) {

@@ -78,7 +78,7 @@ class Form3 : public Screen, public GearboxTaker {
   void EstimateTimeForSpeed(SpeedTrap trap);
   void EstimatePowerForSpeed(SpeedTrap trap);
   void EstimatePowerForTimeAndSpeed(SpeedTrap trap);
-  std::array<Run, 3> Runs();
+  std::array<Run, 3> AllRuns();
   /// True for a run whose times are all left empty or 0.
   bool IsUnused(const Run& run) const;
   void ShowSplits(const Run& run);
@@ -240,7 +240,7 @@ class Form3 : public Screen, public GearboxTaker {
                     "Time.",
                     &Form3::EstimateSixtyFootGs};
 
-  Frame Frame7{*this, "Frame7", "Split Times of up to 3 Runs", 2};
+  Frame Frame7{*this, "Frame7", "Split Times of up to 3 Runs, in Seconds", 2};
   Field Text4{Frame7, "Text4", "60 Foot", "2.287", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
   Field Text10{Frame7, "Text10", "330 Foot", "6.341", Entry(KeyRule::UnsignedReal, Unit::Seconds)};
   Field Text13{Frame7, "Text13", "1/8 Mile ET", "9.658",
@@ -266,32 +266,28 @@ class Form3 : public Screen, public GearboxTaker {
   Field Text33{Frame7, "Text33", "1/4 Mile ET", "14.122",
                Entry(KeyRule::UnsignedReal, Unit::Seconds)};
   FieldArray Text7{Frame7, "Text7", 12, "Split", "0.0", Entry(KeyRule::OutputOnly, Unit::Seconds)};
-  Table Times{
-      Frame7,
-      "Times",
-      "Times and Splits",
-      {{"Run 1",
-        {&Text4, &Text7[0], &Text10, &Text7[1], &Text13, &Text7[2], &Text17, &Text7[3], &Text21}},
-       {"Run 2",
-        {&Text22, &Text7[4], &Text23, &Text7[5], &Text24, &Text7[6], &Text27, &Text7[7], &Text28}},
-       {"Run 3",
-        {&Text29, &Text7[8], &Text30, &Text7[9], &Text31, &Text7[10], &Text32, &Text7[11],
-         &Text33}}},
-      {"",
-       {"60 Foot", "60 - 330 Foot", "330 Foot", "330 Foot - 1/8 Mile", "1/8 Mile ET",
-        "1/8 Mile - 1000 Foot", "1000 Foot", "1000 Foot - 1/4 Mile", "1/4 Mile ET"}}};
   Field Text40{Frame7, "Text40", "Peak HP", "131.04", KeyRule::OutputOnly};
   Field Text41{Frame7, "Text41", "Average HP", "98.95", KeyRule::OutputOnly};
   Field Text42{Frame7, "Text42", "Peak HP", "125.88", KeyRule::OutputOnly};
   Field Text43{Frame7, "Text43", "Average HP", "100.50", KeyRule::OutputOnly};
   Field Text44{Frame7, "Text44", "Peak HP", "136.88", KeyRule::OutputOnly};
   Field Text45{Frame7, "Text45", "Average HP", "106.30", KeyRule::OutputOnly};
-  Table Powers{
-      Frame7,
-      "Powers",
-      "Horsepower of the Runs",
-      {{"Run 1", {&Text40, &Text41}}, {"Run 2", {&Text42, &Text43}}, {"Run 3", {&Text44, &Text45}}},
-      {"", {"Peak HP", "Average HP"}}};
+  Table Runs{Frame7,
+             "Runs",
+             "Runs",
+             {{"Run 1",
+               {&Text4, &Text7[0], &Text10, &Text7[1], &Text13, &Text7[2], &Text17, &Text7[3],
+                &Text21, &Text40, &Text41}},
+              {"Run 2",
+               {&Text22, &Text7[4], &Text23, &Text7[5], &Text24, &Text7[6], &Text27, &Text7[7],
+                &Text28, &Text42, &Text43}},
+              {"Run 3",
+               {&Text29, &Text7[8], &Text30, &Text7[9], &Text31, &Text7[10], &Text32, &Text7[11],
+                &Text33, &Text44, &Text45}}},
+             {"",
+              {"60 Foot", "60 - 330 Foot", "330 Foot", "330 Foot - 1/8 Mile", "1/8 Mile ET",
+               "1/8 Mile - 1000 Foot", "1000 Foot", "1000 Foot - 1/4 Mile", "1/4 Mile ET",
+               "Peak HP", "Average HP"}}};
   Command Command4{
       Frame7, "Command4", "1/4 Split Times",
       "Calculate Split Time for up to 3 Different Runs, also Estimate Peak and Average "
