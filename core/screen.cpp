@@ -36,6 +36,8 @@ std::string Control::PlainCaption() const {
   std::string plain;
   std::copy_if(caption_.begin(), caption_.end(), std::back_inserter(plain),
                [](char c) { return c != '&'; });
+  // Some captions are filled up with blanks.
+  plain.erase(plain.find_last_not_of(' ') + 1);
   return plain;
 }
 

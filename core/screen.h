@@ -99,7 +99,7 @@ class Control {
   const std::string& name() const { return name_; }
   const std::string& caption() const { return caption_; }
   const std::string& help() const { return help_; }
-  /// The caption without access key signs, as messages quote it.
+  /// The caption without access key signs and blanks behind it, as messages quote it.
   std::string PlainCaption() const;
   bool visible() const { return visible_; }
   bool enabled() const { return enabled_; }

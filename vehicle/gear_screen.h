@@ -234,18 +234,6 @@ class Form5 : public Screen, public GearboxTaker {
                    "change.",
                    &Form5::SolveRatioForNewTire};
 
-  Frame Frame6{*this, "Frame6", "Primary Drive", 1};
-  CheckBox Check2{Frame6, "Check2", "Primary Drive",
-                  "The engine drives the transmission through a primary drive, as motorcycles have "
-                  "it; it counts in all ratios."};
-  Field Text60{Frame6, "Text60", "Front Sprocket", "12",
-               Entry(KeyRule::Digits, Holds(&P::FrontSprocket).ShownAtOpening().ZeroKeepsText())};
-  Field Text61{Frame6, "Text61", "Rear Sprocket", "24",
-               Entry(KeyRule::Digits, Holds(&P::RearSprocket).ShownAtOpening().ZeroKeepsText())};
-  Field Text62{
-      Frame6, "Text62", "Primary Gear Ratio", "2.00",
-      Entry(KeyRule::OutputOnly, Holds(&P::PrimaryDrive).ShownAtOpening().ZeroKeepsText())};
-
   Frame Frame5{*this, "Frame5", "Engine and Converter", 1};
   Field Text20{Frame5, "Text20", "Horsepower", "1295",
                Entry(KeyRule::UnsignedReal, Unit::Power, Holds(&P::HorsePower).ConvertedAsShown())};
@@ -311,8 +299,6 @@ class Form5 : public Screen, public GearboxTaker {
               {"",
                {"1st Gear", "2nd Gear", "3rd Gear", "4th Gear", "5th Gear", "6th Gear", "7th Gear",
                 "8th Gear", "9th Gear", "10th Gear"}}};
-  Field Text75{Frame3, "Text75", "Trans Drop %", "81.25",
-               Entry(KeyRule::UnsignedReal, Unit::Percent)};
   Command Command1{Frame3, "Command1", "&Speed (MPH)",
                    "Calculate Speed (MPH) from RPM, Rear Gear Ratio, Trans Gear Ratio(s), and Tire "
                    "Diameter",
@@ -326,52 +312,69 @@ class Form5 : public Screen, public GearboxTaker {
                     "Ratios. Note: If the engine has a flat torque curve, use the RPM at which the "
                     "curve starts to dip.",
                     &Form5::SolveShiftRpm};
-  Command Command24{Frame3, "Command24", "Trans G Drop %",
-                    "Calculate Trans Gear Ratios Using Trans Drop %, and Trans 1st Gear Ratio.",
-                    &Form5::StepGearsDown};
-  Command Command30{Frame3, "Command30", "Trans G Up %",
-                    "Calculate Trans Gear Ratios Using Trans Drop %, and Trans 10th Gear Ratio.",
-                    &Form5::StepGearsUp};
-  Command Command25{Frame3, "Command25", "Trans G Spread",
-                    "Calculate Trans Drop % Needed Using Trans 1st Gear Ratio (low gear), Trans "
-                    "9th Gear Ratio (high gear), and Trans 10th Gear Ratio (number of gears).",
-                    &Form5::SpreadGears};
-  Command Command29{Frame3, "Command29", "Trans Ratios T C",
-                    "Calculate Trans Gear Ratios using the user supplied Input Shaft, Cluster "
-                    "Gears, and Output Shaft Gears Tooth Counts).",
-                    Opens(&Form5::Frame8)};
   Command GearboxFinder{Frame3, "GearboxFinder", "Trans Finder",
                         "Pick a production transmission from a list; its ratios go into this "
                         "screen.",
                         CommandWork(&Form5::OpenGearboxFinder, CommandRole::Serves)};
 
+  Frame Frame7{*this, "Frame7", "Gear Ratios by Steps or Teeth", 2};
+  Field Text75{Frame7, "Text75", "Trans Drop %", "81.25",
+               Entry(KeyRule::UnsignedReal, Unit::Percent)};
+  Command Command24{Frame7, "Command24", "Trans G Drop %",
+                    "Calculate Trans Gear Ratios Using Trans Drop %, and Trans 1st Gear Ratio.",
+                    &Form5::StepGearsDown};
+  Command Command30{Frame7, "Command30", "Trans G Up %",
+                    "Calculate Trans Gear Ratios Using Trans Drop %, and Trans 10th Gear Ratio.",
+                    &Form5::StepGearsUp};
+  Command Command25{Frame7, "Command25", "Trans G Spread",
+                    "Calculate Trans Drop % Needed Using Trans 1st Gear Ratio (low gear), Trans "
+                    "9th Gear Ratio (high gear), and Trans 10th Gear Ratio (number of gears).",
+                    &Form5::SpreadGears};
+  Command Command29{Frame7, "Command29", "Trans Ratios T C",
+                    "Calculate Trans Gear Ratios using the user supplied Input Shaft, Cluster "
+                    "Gears, and Output Shaft Gears Tooth Counts).",
+                    Opens(&Form5::Frame8)};
+  Frame Frame6{*this, "Frame6", "Primary Drive", 2};
+  CheckBox Check2{Frame6, "Check2", "Primary Drive",
+                  "The engine drives the transmission through a primary drive, as motorcycles have "
+                  "it; it counts in all ratios."};
+  Field Text60{Frame6, "Text60", "Front Sprocket", "12",
+               Entry(KeyRule::Digits, Holds(&P::FrontSprocket).ShownAtOpening().ZeroKeepsText())};
+  Field Text61{Frame6, "Text61", "Rear Sprocket", "24",
+               Entry(KeyRule::Digits, Holds(&P::RearSprocket).ShownAtOpening().ZeroKeepsText())};
+  Field Text62{
+      Frame6, "Text62", "Primary Gear Ratio", "2.00",
+      Entry(KeyRule::OutputOnly, Holds(&P::PrimaryDrive).ShownAtOpening().ZeroKeepsText())};
+
   Panel Frame8{*this, "Frame8", "Trans Gear Ratios from Tooth Counts"};
-  Field Text13{Frame8, "Text13", "Input Cluster Gear Tooth Count", "10", KeyRule::Digits};
-  Field Text14{Frame8, "Text14", "Input Shaft Gear Tooth Count", "10", KeyRule::Digits};
-  FieldArray Text11{Frame8,
+  Frame InputFrame{Frame8, "InputFrame", "Input", 0};
+  Field Text13{InputFrame, "Text13", "Input Cluster Gear Tooth Count", "10", KeyRule::Digits};
+  Field Text14{InputFrame, "Text14", "Input Shaft Gear Tooth Count", "10", KeyRule::Digits};
+  Frame TeethFrame{Frame8, "TeethFrame", "Gears", 1};
+  FieldArray Text11{TeethFrame,
                     "Text11",
                     kMostGears,
                     "Cluster Gear Tooth Count",
                     {"14", "15", "17", "19", "21", "10", "25", "27", "0", "0"},
                     KeyRule::Digits};
-  FieldArray Text12{Frame8,
+  FieldArray Text12{TeethFrame,
                     "Text12",
                     kMostGears,
                     "Output Shaft Gear Tooth Count",
                     {"34", "31", "29", "27", "25", "10", "21", "19", "0", "0"},
                     KeyRule::Digits};
-  Table Teeth{Frame8,
+  Table Teeth{TeethFrame,
               "Teeth",
               "Teeth",
               {Text11, Text12},
               {"",
                {"1st Gear", "2nd Gear", "3rd Gear", "4th Gear", "5th Gear", "6th Gear", "7th Gear",
                 "8th Gear", "9th Gear", "10th Gear"}}};
-  Command Command26{Frame8, "Command26", "Calculate",
+  Command Command26{TeethFrame, "Command26", "Calculate",
                     "Calculate the Trans Gear Ratios from these tooth counts. A gear with a count "
                     "of 0 becomes 0.",
                     &Form5::SolveGearsFromTeeth};
-  Command Command27{Frame8, "Command27", "Clear Fields", "Set all tooth counts to 0.",
+  Command Command27{TeethFrame, "Command27", "Clear Fields", "Set all tooth counts to 0.",
                     &Form5::ClearTeeth};
   Command Command28{Frame8, "Command28", "Done", "Back to the gears.", PutsAway()};
 

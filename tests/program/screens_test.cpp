@@ -88,6 +88,8 @@ TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
     for (const Control* control : screen->controls()) {
       const auto* field = dynamic_cast<const Field*>(control);
       if (field == nullptr || field->rule() == KeyRule::AnyText) continue;
+      // A result that no command has worked out yet.
+      if (field->rule() == KeyRule::OutputOnly && field->text().empty()) continue;
       EXPECT_TRUE(IsNumber(field->text(), DecimalMark::Point))
           << screen->name() << '.' << field->name() << ": " << field->text();
     }
