@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/notes.h"
 #include "core/screen.h"
 
 namespace veldox {
@@ -170,6 +171,13 @@ bool FieldRules::CheckNotZero(TextControl& field) {
   if (!rest.empty() && !zero) return true;
   field.Focus();
   Warn(messages_.MsgNotBlankOrZero);
+  return false;
+}
+
+bool FieldRules::TakesNotes(std::string_view text) {
+  const std::string reason = ReasonAgainstNotes(text);
+  if (reason.empty()) return true;
+  Warn(reason);
   return false;
 }
 

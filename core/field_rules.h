@@ -64,6 +64,9 @@ class FieldRules {
   /// 1 after showing MsgNotBlank when the text holds nothing but "-", "." and ",", else 0.
   int TextHasDigits(std::string_view text);
 
+  /// False, after a box with the reason, for a text that cannot be the notes of a file.
+  bool TakesNotes(std::string_view text);
+
   /// Marks the shared values as changed since the last Read.
   void NoteChange();
 

@@ -32,8 +32,7 @@ using ScientificBuffer = std::array<char, static_cast<std::size_t>(DigitCount) +
 void RequireFinite(double value) {
   if (std::isfinite(value)) return;
   if (std::isnan(value)) {
-    throw CommandError(ErrorKind::InvalidArgument,
-                       "The calculation has no result for these numbers.");
+    throw CommandError(ErrorKind::NotANumber, "The calculation has no result for these numbers.");
   }
   throw CommandError(ErrorKind::Overflow, "A result is too large a number to be shown.");
 }

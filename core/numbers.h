@@ -63,7 +63,7 @@ struct PatternText {
 /// the value's 15 significant decimal digits, half away from zero (cut where they would exceed
 /// the largest double, so that every text can be read back). A value that rounds to zero has no
 /// minus sign.
-/// @throws CommandError (Overflow) for an infinity, (InvalidArgument) for no number
+/// @throws CommandError (Overflow) for an infinity, (NotANumber) for no number
 std::string FormatByPattern(double value, const NumberPattern& pattern, DecimalMark mark);
 
 /// The family of number formats: `FormatValue<"0.00">(1.005, mark)` is "1.01".

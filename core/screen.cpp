@@ -158,7 +158,15 @@ void TextControl::SetText(std::string text) {
   Changed();
 }
 
+bool TextControl::CanHold(std::string_view text) const {
+  return kind() != ControlKind::TextArea || screen().context().rules.TakesNotes(text);
+}
+
 void TextControl::Edit(std::string text) {
+  if (!CanHold(text)) {
+    Changed();
+    return;
+  }
   screen().context().rules.NoteChange();
   SetText(std::move(text));
 }
@@ -826,7 +834,7 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
   try {
     report = build();
   } catch (const CommandError& error) {
-    if (error.kind() == ErrorKind::Overflow) throw cannot;
+    if (error.kind() == ErrorKind::Overflow || error.kind() == ErrorKind::NotANumber) throw cannot;
     throw;
   }
   if (std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID) != 0) throw cannot;

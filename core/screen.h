@@ -191,8 +191,11 @@ class TextControl : public Control {
  public:
   const std::string& text() const { return text_; }
   void SetText(std::string text);
-  /// The text changed under the user's hands.
+  /// The text changed under the user's hands; one that the control does not take is undone.
   void Edit(std::string text);
+  /// False, after a box with the reason, for a text that the control cannot hold. A face asks
+  /// before it works on a long one.
+  bool CanHold(std::string_view text) const;
   KeyRule rule() const { return readOnly_ ? KeyRule::OutputOnly : rule_; }
   LeaveCheck leaveCheck() const { return leaveCheck_; }
   /// Runs a typed key through the field's rule; 0 when it is refused.
@@ -346,6 +349,12 @@ class CommandWork {
   std::function<void(Screen&, int)> run_;
   CommandRole role_ = CommandRole::Calculates;
 };
+
+/// The work of a command that does not calculate: it opens or shows something, or works on files.
+template <class S>
+CommandWork Serves(void (S::*handler)()) {
+  return {handler, CommandRole::Serves};
+}
 
 class Command : public Control {
  public:
@@ -680,7 +689,8 @@ class Screen {
   /// Shows a report in the screen's report box. @param fontSize  points it is printed in
   void ShowReport(std::string report, int fontSize = 10, const ReportFile& file = {});
   /// A report that `build` makes of numbers no field has shown yet.
-  /// @param impossible  what is told when one of them divides by zero or is too large
+  /// @param impossible  what is told, with the fields at fault, when one of them divides by zero,
+  ///                    is too large or is no number
   /// @throws CommandError (InvalidArgument) with it, and what else `build` throws
   static std::string BuildReport(const std::function<std::string()>& build, const char* impossible);
   /// Ends the command unless a condition on a field's value holds; the message follows the

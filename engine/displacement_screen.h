@@ -123,7 +123,7 @@ class Form1 : public Screen {
   Command EngineFinder{Frame1, "EngineFinder", "Engine &Finder",
                        "Pick a production engine from a list; its Bore, Stroke, Rod Length and "
                        "Number of Cylinders go into this screen.",
-                       CommandWork(&Form1::OpenEngineFinder, CommandRole::Serves)};
+                       Serves(&Form1::OpenEngineFinder)};
 
   Frame Frame2{*this, "Frame2", "Deck Stack", 0};
   Field Text8{Frame2, "Text8", "Block Deck Height", "9.245",

@@ -67,8 +67,8 @@ class Reader {
     throw BadLine{{title, what + Clipped(line_, kShownCharacters) + "\r\n" + where}};
   }
 
-  void RequireRoom() const {
-    if (script_.curves.size() + script_.circles.size() < kMostScriptCurves) return;
+  void CountCurve() {
+    if (++pieces_ <= kMostScriptCurves) return;
     throw lines_.Refusal("The file holds more than 10,000 curves, the most that a graph shows.");
   }
 
@@ -159,7 +159,7 @@ class Reader {
       const auto [x, y, radius] = Numbers<3>();
       const double shown = radius * std::abs(xScale_);
       if (radius < 0 || !std::isfinite(shown)) Invalid();
-      RequireRoom();
+      CountCurve();
       script_.circles.push_back({Placed(x, y), shown, color_, width_, style_});
     } else if (Is("reset =")) {
       EndCurve();
@@ -208,7 +208,6 @@ class Reader {
 
   void Add(GraphPoint point, bool start) {
     if (!open_) {
-      RequireRoom();
       GraphScript::Curve curve;
       // A curve behind a "reset =" keeps the colour; the first one takes the next pen.
       curve.sameColor = !colorChanged_ && !script_.curves.empty();
@@ -220,13 +219,17 @@ class Reader {
       colorChanged_ = false;
       // A new pen alone does not break the line.
       if (carried_ && !start) {
+        CountCurve();
         script_.curves.back().starts.push_back(0);
         script_.curves.back().points.push_back(*carried_);
       }
       carried_.reset();
     }
     GraphScript::Curve& curve = script_.curves.back();
-    if (start || curve.points.empty()) curve.starts.push_back(curve.points.size());
+    if (start || curve.points.empty()) {
+      CountCurve();
+      curve.starts.push_back(curve.points.size());
+    }
     curve.points.push_back(point);
   }
 
@@ -248,6 +251,7 @@ class Reader {
   std::string lower_;
   std::string_view value_;  // behind the prefix, in small letters
   std::string_view text_;   // the same as it stands in the file
+  std::size_t pieces_ = 0;
   std::optional<double> x_;
   double xScale_ = 1;
   double yScale_ = 1;

@@ -48,7 +48,8 @@ struct GraphScriptFailure {
   std::string text;
 };
 
-/// The most curves that a graph script may draw, circles among them.
+/// The most curves that a graph script may draw: circles, and pieces of a line that nothing joins
+/// to the one before, count each as one.
 inline constexpr std::size_t kMostScriptCurves = 10000;
 
 /// Reads a graph script. Every line is a record; the first one that cannot be understood

@@ -176,7 +176,7 @@ bool Form8::ReadCurveType(int& type) {
   return false;
 }
 
-void Form8::Command2_Click() {
+void Form8::DrawStandardCurve() {
   Label1.SetCaption("");
   int type = 0;
   if (!ReadCurveType(type)) return;
@@ -199,8 +199,8 @@ void Form8::DrawPowerCurve(int type, const std::optional<AxisRange>& limits) {
     power.push_back({rpm, horsepower});
     torque.push_back({rpm, horsepower * kRpmOfEqualTorqueAndPower / rpm});
   }
-  PlotEngine::RequireSeries(power);
-  PlotEngine::RequireSeries(torque);
+  PlotEngine::RequireSeries(power, "Horsepower");
+  PlotEngine::RequireSeries(torque, "Torque");
 
   AxisRange range;
   if (limits) {
@@ -268,7 +268,7 @@ void Form8::ZoomFile(int direction) {
 
 // ---------------------------------------------------------------- graph-script files
 
-void Form8::Read_Click() {
+void Form8::ReadGraphFile() {
   const std::filesystem::path file =
       AskFile(FileDialog::Kind::Open, kScriptFilter, kScriptFilterIndex);
   RunGraphScript(file, ReadMode::NewLimits, plot_.scale());
@@ -356,7 +356,7 @@ void Form8::RunGraphScript(const std::filesystem::path& file, ReadMode mode,
 
 // ---------------------------------------------------------------- pictures
 
-void Form8::Command5_Click() {
+void Form8::ShowPictureFile() {
   const std::filesystem::path file = AskFile(FileDialog::Kind::Open, kOpenPictureFilter, 1);
   const BusyCursor busy(context().host);
   std::string bytes = LoadFile(file);
@@ -381,7 +381,7 @@ void Form8::SaveGraph(const std::filesystem::path& file) {
   Label1.SetCaption(PathText(file.filename()));
 }
 
-void Form8::Command3_Click() {
+void Form8::SaveGraphAs() {
   RequireSomethingDrawn();
   std::filesystem::path file =
       AskFile(FileDialog::Kind::Save, kSavePictureFilter, kSavePictureFilterIndex);
@@ -389,28 +389,28 @@ void Form8::Command3_Click() {
   SaveGraph(file);
 }
 
-void Form8::Save_Form_JPG_Click() {
+void Form8::SaveScreenPicture() {
   const std::filesystem::path file = SaveWindowAsJpeg(*this, "CarGraph");
   Label1.SetCaption(PathText(file.filename()));
 }
 
-void Form8::Save_Picture_Image_Click() {
+void Form8::SaveGraphPicture() {
   SaveGraph(GraphPictureFile(context().host, ".jpg"));
 }
 
-void Form8::Print_Picture_Image_Click() {
+void Form8::PrintGraphPicture() {
   SaveGraph(GraphPictureFile(context().host, ".bmp"));
   context().host.PrintGraph();
 }
 
-void Form8::Copy_Picture_Click() {
+void Form8::CopyGraph() {
   RequireSomethingDrawn();
   context().host.CopyPicture({PictureRequest::Of::Graph, name(), PictureFormat::Png,
                               GraphPixels(block().CustomGraphWidth),
                               GraphPixels(block().CustomGraphHeight), kQuality});
 }
 
-void Form8::Save_Points_Click() {
+void Form8::SavePoints() {
   if (plot_.series().empty()) {
     throw CommandError(ErrorKind::InvalidArgument, "There is no curve yet whose points are saved.");
   }
@@ -471,7 +471,7 @@ void Form8::ContinueStroke(SurfacePoint place) {
   GraphChanged();
 }
 
-void Form8::Clear_Draw_Click() {
+void Form8::ClearDrawing() {
   plot_.ClearFreeLines();
   GraphChanged();
 }
@@ -491,7 +491,7 @@ double Form8::GridLineValue(std::size_t line) const {
   return read.vertical ? value.x : value.y;
 }
 
-void Form8::Graph_Move_Grid_Click() {
+void Form8::SwitchMoveableLines() {
   block().MoveGridLines = block().MoveGridLines != 0 ? 0 : 1;
   OptionsChanged();
   if (listener_) listener_();

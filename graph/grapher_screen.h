@@ -88,21 +88,21 @@ class Form8 : public Screen, public Grapher {
   enum class Shown { Nothing, PowerCurve, File, Other };
   enum class ReadMode { NewLimits, KeepLimits };
 
-  void Command2_Click();
-  void Command4_Click() { ZoomPowerCurve(-1); }
-  void Command6_Click() { ZoomPowerCurve(1); }
-  void Command7_Click() { ZoomFile(-1); }
-  void Command8_Click() { ZoomFile(1); }
-  void Read_Click();
-  void Command5_Click();
-  void Command3_Click();
-  void Save_Form_JPG_Click();
-  void Save_Picture_Image_Click();
-  void Print_Picture_Image_Click();
-  void Copy_Picture_Click();
-  void Save_Points_Click();
-  void Clear_Draw_Click();
-  void Graph_Move_Grid_Click();
+  void DrawStandardCurve();
+  void WidenPowerCurve() { ZoomPowerCurve(-1); }
+  void NarrowPowerCurve() { ZoomPowerCurve(1); }
+  void WidenFileGraph() { ZoomFile(-1); }
+  void NarrowFileGraph() { ZoomFile(1); }
+  void ReadGraphFile();
+  void ShowPictureFile();
+  void SaveGraphAs();
+  void SaveScreenPicture();
+  void SaveGraphPicture();
+  void PrintGraphPicture();
+  void CopyGraph();
+  void SavePoints();
+  void ClearDrawing();
+  void SwitchMoveableLines();
 
   void SetGrapherCommands(bool enabled);
   bool ReadCurveType(int& type);
@@ -155,89 +155,55 @@ class Form8 : public Screen, public Grapher {
   Command Command2{Frame1, "Command2", "&Graph",
                    "Graph Horsepower and Torque from Horsepower, RPM and Type Curve; this clears "
                    "and starts a new Graph.",
-                   &Form8::Command2_Click};
+                   &Form8::DrawStandardCurve};
   Command Command4{Frame1, "Command4", "-", "Zoom the Horsepower Curve, wider range.",
-                   &Form8::Command4_Click};
+                   &Form8::WidenPowerCurve};
   Command Command6{Frame1, "Command6", "+", "Zoom the Horsepower Curve, narrower range.",
-                   &Form8::Command6_Click};
+                   &Form8::NarrowPowerCurve};
 
   Frame Frame2{*this, "Frame2", "Graph File", 0};
   Label Label1{Frame2, "Label1", ""};
-  Command Read{Frame2,
-               "Read",
-               "&Read PRM",
-               "Read a Graph File and draw what it tells.",
-               &Form8::Read_Click,
-               CommandRole::Serves};
+  Command Read{Frame2, "Read", "&Read PRM", "Read a Graph File and draw what it tells.",
+               Serves(&Form8::ReadGraphFile)};
   Command Command7{Frame2, "Command7", "-", "Zoom the Graph of a File, wider range.",
-                   &Form8::Command7_Click};
+                   &Form8::WidenFileGraph};
   Command Command8{Frame2, "Command8", "+", "Zoom the Graph of a File, narrower range.",
-                   &Form8::Command8_Click};
+                   &Form8::NarrowFileGraph};
 
   Frame Frame3{*this, "Frame3", "Pictures", 0};
-  Command Command5{Frame3,
-                   "Command5",
-                   "R&ead BMP",
-                   "Show a Picture File.",
-                   &Form8::Command5_Click,
-                   CommandRole::Serves};
-  Command Command3{Frame3,
-                   "Command3",
-                   "&Save as BMP",
+  Command Command5{Frame3, "Command5", "R&ead BMP", "Show a Picture File.",
+                   Serves(&Form8::ShowPictureFile)};
+  Command Command3{Frame3, "Command3", "&Save as BMP",
                    "Save the Graph as a Picture: .bmp, .jpg, .png, .svg or .pdf.",
-                   &Form8::Command3_Click,
-                   CommandRole::Serves};
-  Command Save_Form_JPG{Frame3,
-                        "Save_Form_JPG",
-                        "PrtSC &JPG",
+                   Serves(&Form8::SaveGraphAs)};
+  Command Save_Form_JPG{Frame3, "Save_Form_JPG", "PrtSC &JPG",
                         "Save this Screen as a JPG Picture in the Program's Folder.",
-                        &Form8::Save_Form_JPG_Click,
-                        CommandRole::Serves};
-  Command Save_Picture_Image{Frame3,
-                             "Save_Picture_Image",
-                             "&P",
+                        Serves(&Form8::SaveScreenPicture)};
+  Command Save_Picture_Image{Frame3, "Save_Picture_Image", "&P",
                              "Save the Graph as a JPG Picture in the Program's Folder.",
-                             &Form8::Save_Picture_Image_Click,
-                             CommandRole::Serves};
-  Command Print_Picture_Image{Frame3,
-                              "Print_Picture_Image",
-                              "Print Picture",
+                             Serves(&Form8::SaveGraphPicture)};
+  Command Print_Picture_Image{Frame3, "Print_Picture_Image", "Print Picture",
                               "Save the Graph as a BMP Picture in the Program's Folder and Print "
                               "it.",
-                              &Form8::Print_Picture_Image_Click,
-                              CommandRole::Serves};
-  Command Copy_Picture{Frame3,
-                       "Copy_Picture",
-                       "&Copy",
-                       "Copy the Graph to the Clipboard.",
-                       &Form8::Copy_Picture_Click,
-                       CommandRole::Serves};
-  Command Save_Points{Frame3,
-                      "Save_Points",
-                      "Save Points as CS&V",
-                      "Save the Points of all Curves as a CSV File.",
-                      &Form8::Save_Points_Click,
-                      CommandRole::Serves};
+                              Serves(&Form8::PrintGraphPicture)};
+  Command Copy_Picture{Frame3, "Copy_Picture", "&Copy", "Copy the Graph to the Clipboard.",
+                       Serves(&Form8::CopyGraph)};
+  Command Save_Points{Frame3, "Save_Points", "Save Points as CS&V",
+                      "Save the Points of all Curves as a CSV File.", Serves(&Form8::SavePoints)};
 
   Frame Frame4{*this, "Frame4", "Mouse", 0};
   Label Label2{Frame4, "Label2", "Mouse On Graph Pos"};
   Label Label18{Frame4, "Label18", ""};
   Label Label19{Frame4, "Label19", ""};
   CheckBox Check1{Frame4, "Check1", "Draw", "Draw on the Graph with the Mouse."};
-  Command Clear_Draw{Frame4,
-                     "Clear_Draw",
-                     "Clear Draw",
+  Command Clear_Draw{Frame4, "Clear_Draw", "Clear Draw",
                      "Take the Lines away that were drawn with the Mouse.",
-                     &Form8::Clear_Draw_Click,
-                     CommandRole::Serves};
-  Command Graph_Move_Grid{Frame4,
-                          "Graph_Move_Grid",
-                          "Moveable Grid Lines -- Is OFF",
+                     Serves(&Form8::ClearDrawing)};
+  Command Graph_Move_Grid{Frame4, "Graph_Move_Grid", "Moveable Grid Lines -- Is OFF",
                           "Show Lines on the Graph that can be moved with the Mouse to read off "
                           "Values. On the Graph, the Space Bar takes hold of the next Line and "
                           "the Arrow Keys move it.",
-                          &Form8::Graph_Move_Grid_Click,
-                          CommandRole::Serves};
+                          Serves(&Form8::SwitchMoveableLines)};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   Label Label7{HelpFrame, "Label7", ""};

@@ -16,19 +16,34 @@ constexpr double kShortLabelsFrom = 100;
 constexpr int kFewestGridLines = 2;
 constexpr int kMostGridLines = 400;
 constexpr int kWidestLine = 50;
+/// Far above where a pixel of the axis would round to nothing.
+constexpr double kNarrowestAxis = 1e-300;
 constexpr double kUsualCurveWidth = 1.5;  ///< where no width is chosen
 
-void RequireFinite(double x, double y) {
-  if (std::isfinite(x) && std::isfinite(y)) return;
+[[noreturn]] void FailForPoint(const std::string& what) {
   throw CommandError(ErrorKind::Overflow,
-                     "The graph cannot be drawn: a point of it is too large or is no number. "
-                     "Please check the values that it is computed from.");
+                     "The graph cannot be drawn: a point of it is too large or is no number (" +
+                         what + "). Please check the values that it is computed from.");
+}
+
+/// @param shape  what the point belongs to, for the refusal
+void RequireFinite(double x, double y, const char* shape) {
+  if (!std::isfinite(x) || !std::isfinite(y)) FailForPoint(shape);
+}
+
+void RequireFiniteOn(std::string_view curve, double x, double y) {
+  if (std::isfinite(x) && std::isfinite(y)) return;
+  FailForPoint(curve.empty() ? "a curve" : "the curve \"" + std::string(curve) + '"');
 }
 
 void RequireAxis(const char* axis, double low, double high, DecimalMark mark) {
   const std::string begin = std::string("The graph cannot be drawn: the ") + axis + " axis ";
   if (!std::isfinite(low) || !std::isfinite(high) || !std::isfinite(high - low)) {
     throw CommandError(ErrorKind::Overflow, begin + "has a limit that is too large.");
+  }
+  if (low < high && high - low < kNarrowestAxis) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       begin + "has limits that are too close to each other.");
   }
   if (!(low < high)) {
     throw CommandError(ErrorKind::InvalidArgument,
@@ -267,7 +282,10 @@ void PlotEngine::ReservePoints(std::size_t count) {
 }
 
 void PlotEngine::Add(GraphPoint point, bool start) {
-  RequireFinite(point.x, point.y);
+  std::string_view name;
+  if (!series_.empty())
+    name = series_.back().note.empty() ? series_.back().name : series_.back().note;
+  RequireFiniteOn(name, point.x, point.y);
   PlotSeriesRecord& series = Current();
   if (start || series.points.empty()) series.starts.push_back(series.points.size());
   series.points.push_back(point);
@@ -282,13 +300,13 @@ void PlotEngine::PlotLine(double x, double y) {
 }
 
 void PlotEngine::PlotPoint(double x, double y, Color color) {
-  RequireFinite(x, y);
+  RequireFinite(x, y, "a curve");
   if (series_.empty() || series_.back().color != color) CurveInColor({"", color});
   PlotPoint(x, y);
 }
 
 void PlotEngine::PlotLine(double x, double y, Color color) {
-  RequireFinite(x, y);
+  RequireFinite(x, y, "a curve");
   if (series_.empty() || series_.back().color != color) {
     const std::optional<GraphPoint> last = series_.empty() || series_.back().points.empty()
                                                ? std::nullopt
@@ -299,7 +317,7 @@ void PlotEngine::PlotLine(double x, double y, Color color) {
   PlotLine(x, y);
 }
 
-void PlotEngine::RequireSeries(std::span<const GraphPoint> points) {
+void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_view curve) {
   if (points.empty()) {
     throw CommandError(ErrorKind::InvalidArgument, "There is nothing to graph: no point came out.");
   }
@@ -308,12 +326,12 @@ void PlotEngine::RequireSeries(std::span<const GraphPoint> points) {
         ErrorKind::InvalidArgument,
         "There is nothing to graph: only one point came out, and a curve needs two.");
   }
-  for (const GraphPoint& point : points) RequireFinite(point.x, point.y);
+  for (const GraphPoint& point : points) RequireFiniteOn(curve, point.x, point.y);
 }
 
 void PlotEngine::PlotSeries(std::span<const GraphPoint> points, std::string note,
                             std::span<const std::size_t> moves) {
-  RequireSeries(points);
+  RequireSeries(points, note.empty() ? Caption(kTitleCaption) : note);
   CurveColor();
   PlotSeriesRecord& series = series_.back();
   series.note = std::move(note);
@@ -325,13 +343,13 @@ void PlotEngine::PlotSeries(std::span<const GraphPoint> points, std::string note
 }
 
 void PlotEngine::PlotBox(double x, double y, Color color) {
-  RequireFinite(x, y);
+  RequireFinite(x, y, "a box");
   boxes_.push_back({{x, y}, color, scale()});
 }
 
 void PlotEngine::PlotCircle(double x, double y, double radius, Pen pen, double aspect) {
-  RequireFinite(x, y);
-  RequireFinite(radius, aspect);
+  RequireFinite(x, y, "a circle");
+  RequireFinite(radius, aspect, "a circle");
   if (radius < 0 || aspect <= 0) {
     throw CommandError(ErrorKind::InvalidArgument,
                        "A circle needs a radius that is not negative, and an aspect above 0.");
@@ -342,14 +360,14 @@ void PlotEngine::PlotCircle(double x, double y, double radius, Pen pen, double a
 
 void PlotEngine::PlotAdjustedLine(GraphPoint from, GraphPoint to, const Pen& pen,
                                   bool inTextColor) {
-  RequireFinite(from.x, from.y);
-  RequireFinite(to.x, to.y);
+  RequireFinite(from.x, from.y, "a line");
+  RequireFinite(to.x, to.y, "a line");
   lines_.push_back({from, to, pen, scale(), inTextColor});
 }
 
 void PlotEngine::PlotFreeLine(GraphPoint from, GraphPoint to, const Pen& pen, bool inTextColor) {
-  RequireFinite(from.x, from.y);
-  RequireFinite(to.x, to.y);
+  RequireFinite(from.x, from.y, "a line");
+  RequireFinite(to.x, to.y, "a line");
   freeLines_.push_back({from, to, pen, scale(), inTextColor});
 }
 
@@ -436,7 +454,7 @@ void PlotEngine::DrawDyno(std::span<const DynoRow> rows, const DynoTexts& texts)
   for (std::size_t i = 0; i < curves.size(); ++i) {
     points[i].reserve(rows.size());
     for (const DynoRow& row : rows) points[i].push_back({row.rpm, row.*curves[i].column});
-    RequireSeries(points[i]);
+    RequireSeries(points[i], i % 2 == 0 ? "Horsepower" : "Torque");
   }
   SetCaption(kXPointerCaption, "<--- RPM");
   SetCaption(kXNameCaption, "RPM");

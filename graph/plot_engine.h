@@ -198,7 +198,8 @@ class PlotEngine {
   void PlotSeries(std::span<const GraphPoint> points, std::string note = {},
                   std::span<const std::size_t> moves = {});
   /// Throws what PlotSeries would, so that a graph can be checked before the old one goes.
-  static void RequireSeries(std::span<const GraphPoint> points);
+  /// @param curve  its name, which a refusal tells
+  static void RequireSeries(std::span<const GraphPoint> points, std::string_view curve = {});
   /// A small box around a point.
   void PlotBox(double x, double y, Color color);
   /// A circle; its radius is in X units. @throws CommandError (Overflow, InvalidArgument)

@@ -78,14 +78,10 @@ void FieldFace::Follow() {
   Face::Follow();
   if (const QString caption = ToQtLines(field_.caption()); caption != label_->text()) {
     label_->setText(caption);
-    edit_->setAccessibleName(ToQt(field_.PlainCaption()));
   }
   const QString unit = ToQt(UnitSign(field_.unit(), field_.screen().metric()));
   if (unit != unit_->text()) unit_->setText(unit);
-  // Assistive tools read the unit with the field, as eyes do.
-  const QString help = ToQt(field_.help());
-  edit_->setAccessibleDescription(
-      help.isEmpty() || unit.isEmpty() ? help + unit : help + QLatin1Char(' ') + unit);
+  edit_->Describe(field_);
   for (QLabel* label : {label_, unit_}) {
     label->setVisible(field_.visible());
     label->setEnabled(field_.enabled());

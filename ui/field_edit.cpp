@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <memory>
 
 #include "core/results.h"
@@ -28,9 +29,12 @@ QString Filtered(TextControl& control, const QString& typed) {
   return passed;
 }
 
-/// True for a key that types a character (and is no shortcut).
+/// True for a key that types a character (and is no shortcut). Whatever the text box would put
+/// in counts, also one half of a pair and signs that join others, as emoji have them.
 bool TypesText(const QKeyEvent& event) {
-  if (event.text().isEmpty() || !event.text().front().isPrint()) return false;
+  if (event.text().isEmpty() || event.text().front().category() == QChar::Other_Control) {
+    return false;
+  }
   const Qt::KeyboardModifiers held = event.modifiers();
   // The right Alt key of many keyboards comes as Ctrl and Alt together and types.
   const bool control = held.testFlag(Qt::ControlModifier);
@@ -67,6 +71,14 @@ void FieldEdit::Follow() {
     if (!hasFocus()) home(false);
   }
   update();
+}
+
+void FieldEdit::Describe(const Field& field) {
+  const QString help = ToQt(field.help());
+  const QString unit = ToQt(UnitSign(field.unit(), field.screen().metric()));
+  setAccessibleName(ToQt(field.PlainCaption()));
+  setAccessibleDescription(help.isEmpty() || unit.isEmpty() ? help + unit
+                                                            : help + QLatin1Char(' ') + unit);
 }
 
 void FieldEdit::Replace(const QString& text) {
@@ -175,6 +187,7 @@ LinesEdit::LinesEdit(TextControl& control, QWidget* parent)
 }
 
 void LinesEdit::Replace(const QString& text) {
+  if (!control_.CanHold(FromQtLines(text))) return;
   selectAll();
   insertPlainText(text);
 }
@@ -207,6 +220,15 @@ void LinesEdit::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QPlainTextEdit::keyPressEvent(event);
+}
+
+void LinesEdit::insertFromMimeData(const QMimeData* source) {
+  // A text that is too long is refused before any work is spent on it.
+  const QTextCursor cursor = textCursor();
+  QString text = toPlainText();
+  text.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(),
+               source->text());
+  if (control_.CanHold(FromQtLines(text))) QPlainTextEdit::insertFromMimeData(source);
 }
 
 void LinesEdit::focusInEvent(QFocusEvent* event) {

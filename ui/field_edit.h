@@ -25,6 +25,8 @@ class FieldEdit : public QLineEdit {
   void SetInRange(bool inRange);
   /// Shows what the field holds now.
   void Follow();
+  /// Tells assistive tools the field's name, and its help and unit as eyes see them.
+  void Describe(const Field& field);
   /// Replaces the whole text as the user's own doing.
   void Replace(const QString& text);
 
@@ -60,6 +62,7 @@ class LinesEdit : public QPlainTextEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 

@@ -132,8 +132,9 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
       break;
     case ControlKind::Table: {
       auto& face = faces.Make<TableFace>(static_cast<Table&>(control), this);
-      grid_->setRowStretch(row, 1);
-      grid_->addWidget(face.widget(), row, 0, 1, 3);
+      if (face.grows()) grid_->setRowStretch(row, 1);
+      grid_->addWidget(face.widget(), row, 0, 1, 3,
+                       face.grows() ? Qt::Alignment() : Qt::AlignTop | Qt::AlignLeft);
       break;
     }
     case ControlKind::TextArea:

@@ -61,6 +61,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
 
   sheets_ = new SheetStack(faces_, std::move(placed), this);
   FollowPointerOverBackgrounds();
+  connect(sheets_, &QStackedWidget::currentChanged, this, [this] { ShareRoom(); });
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, kWindowMargin);
   column->setSpacing(kWindowMargin);

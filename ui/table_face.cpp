@@ -134,12 +134,7 @@ CellFace::CellFace(FaceSet& set, Field& field, TableFace& table, QWidget* parent
 
 void CellFace::Follow() {
   Face::Follow();
-  edit_->setAccessibleName(ToQt(field_.PlainCaption()));
-  const QString unit = ToQt(UnitSign(field_.unit(), field_.screen().metric()));
-  if (!unit.isEmpty()) {
-    const QString help = ToQt(field_.help());
-    edit_->setAccessibleDescription(help.isEmpty() ? unit : help + QLatin1Char(' ') + unit);
-  }
+  edit_->Describe(field_);
   edit_->Follow();
   table_.CellChanged();
 }
@@ -162,6 +157,10 @@ TableFace::TableFace(FaceSet& set, Table& table, QWidget* parent)
   pile->addWidget(scroll_, 1, Qt::AlignLeft);
   rows->setAutoFillBackground(false);
   scroll_->viewport()->setAutoFillBackground(false);
+}
+
+bool TableFace::grows() const {
+  return table_.rows() > kLeastRows;
 }
 
 int TableFace::CaptionWidth() const {

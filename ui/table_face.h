@@ -56,6 +56,8 @@ class TableFace : public Face {
   TableFace(FaceSet& set, Table& table, QWidget* parent);
 
   void Follow() override;
+  /// True for a table that can use more height than its least rows take.
+  bool grows() const;
   /// A cell has changed: heads and decimal points are brought in line once all have.
   void CellChanged();
 

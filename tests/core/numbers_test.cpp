@@ -338,13 +338,13 @@ TEST(FormatValue, WritesTheDecimalMarkOfTheSystem) {
 TEST(FormatValue, RefusesWhatIsNoFiniteNumber) {
   EXPECT_FAILS(FormatValue<"0.0">(kInfinity, kPoint), ErrorKind::Overflow);
   EXPECT_FAILS(FormatValue<"0.0">(-kInfinity, kPoint), ErrorKind::Overflow);
-  EXPECT_FAILS(FormatValue<"0.0">(kNoNumber, kPoint), ErrorKind::InvalidArgument);
-  EXPECT_FAILS(FormatSmart(kNoNumber, kPoint), ErrorKind::InvalidArgument);
+  EXPECT_FAILS(FormatValue<"0.0">(kNoNumber, kPoint), ErrorKind::NotANumber);
+  EXPECT_FAILS(FormatSmart(kNoNumber, kPoint), ErrorKind::NotANumber);
   EXPECT_FAILS(FormatField(kInfinity, kPoint), ErrorKind::Overflow);
   EXPECT_FAILS(FormatField11(kInfinity, kPoint), ErrorKind::Overflow);
-  EXPECT_FAILS(FormatInt(kNoNumber, kPoint), ErrorKind::InvalidArgument);
+  EXPECT_FAILS(FormatInt(kNoNumber, kPoint), ErrorKind::NotANumber);
   EXPECT_FAILS(FormatShortest(kInfinity), ErrorKind::Overflow);
-  EXPECT_FAILS(FormatShortest(kNoNumber), ErrorKind::InvalidArgument);
+  EXPECT_FAILS(FormatShortest(kNoNumber), ErrorKind::NotANumber);
 }
 
 TEST(FormatValue, AgreesWithExactArithmeticOnRandomValuesOfAllSizes) {

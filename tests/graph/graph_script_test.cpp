@@ -189,6 +189,11 @@ TEST(GraphScript, MoreThan10000CurvesAreRefused) {
       "The file holds more than 10,000 curves, the most that a graph shows.";
   EXPECT_EQ(RefusalOf(text + "line to = 5,6\n"), refusal + last + "line to = 5,6");
   EXPECT_EQ(RefusalOf(text + "circle = 5,6,7\n"), refusal + last + "circle = 5,6,7");
+  // Lines that nothing joins are as many curves.
+  std::string lines;
+  for (std::size_t i = 0; i < kMostScriptCurves; ++i) lines += "line = 1,2,3,4\n";
+  EXPECT_EQ(Parse(lines).curves.size(), 1U);
+  EXPECT_TRUE(RefusalOf(lines + "line = 5,6,7,8\n").starts_with(refusal));
 }
 
 TEST(GraphScript, ANulIsRefused) {

@@ -153,6 +153,20 @@ TEST_F(PlotEngineTest, RefusesLimitsThatSpanNothing) {
   EXPECT_EQ(plot_.scale(), (AxisRange{0, 1, 0, 1}));
 }
 
+TEST_F(PlotEngineTest, RefusesLimitsThatNoPixelCanTellApart) {
+  for (const double high : {5e-324, 1e-310, 9e-301}) {
+    EXPECT_EQ(MessageOf([&] {
+                plot_.SetScale({0, high, 0, 5});
+              }),
+              "The graph cannot be drawn: the X axis has limits that are too close to each other.");
+    EXPECT_EQ(MessageOf([&] {
+                plot_.SetScale({0, 5, -high, 0});
+              }),
+              "The graph cannot be drawn: the Y axis has limits that are too close to each other.");
+  }
+  plot_.SetScale({0, 1e-300, 0, 1e-300});
+}
+
 TEST_F(PlotEngineTest, RefusesCurvesThatAreNone) {
   plot_.SetScale({0, 1, 0, 1});
   EXPECT_THAT(MessageOf([&] { plot_.PlotSeries({}); }), HasSubstr("no point"));
@@ -162,6 +176,21 @@ TEST_F(PlotEngineTest, RefusesCurvesThatAreNone) {
   EXPECT_THAT(MessageOf([&] { plot_.PlotSeries(overflown); }), HasSubstr("too large"));
   EXPECT_THAT(MessageOf([&] { plot_.PlotLine(NAN, 0); }), HasSubstr("no number"));
   EXPECT_TRUE(plot_.series().empty());
+}
+
+TEST_F(PlotEngineTest, NamesTheCurveThatHoldsAPointThatIsNone) {
+  plot_.SetScale({0, 1, 0, 1});
+  const std::vector<GraphPoint> overflown{{1, 1}, {2, std::numeric_limits<double>::infinity()}};
+  const char* const named = "a point of it is too large or is no number (the curve \"Torque\")";
+  EXPECT_THAT(MessageOf([&] { plot_.PlotSeries(overflown, "Torque"); }), HasSubstr(named));
+  EXPECT_THAT(MessageOf([&] { PlotEngine::RequireSeries(overflown, "Torque"); }), HasSubstr(named));
+  // A curve without a name of its own has that of its graph, or of its colour.
+  plot_.SetCaption(kTitleCaption, "Torque");
+  EXPECT_THAT(MessageOf([&] { plot_.PlotSeries(overflown); }), HasSubstr(named));
+  plot_.CurveColor();
+  EXPECT_THAT(MessageOf([&] { plot_.PlotPoint(INFINITY, 0); }),
+              HasSubstr("(the curve \"" + plot_.series().back().name + "\")"));
+  EXPECT_THAT(MessageOf([&] { plot_.PlotCircle(0, 0, INFINITY, {}); }), HasSubstr("(a circle)"));
 }
 
 TEST_F(PlotEngineTest, GoesOnWithTheNextPenUntilCleared) {

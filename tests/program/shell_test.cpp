@@ -55,7 +55,8 @@ TEST_F(ShellTest, TellsWhatIsWrongWithTheStartUpFile) {
   WriteFile("zxqvwu00.prm", "Bore = 4.5\r\nnonsense\r\nStroke = 3\r\n");
   host_.Answer(Button::OK);
   program_.Start();
-  EXPECT_EQ(host_.messages.back().text, "Invalid Input Record # - 2   Data --> nonsense\r\nFile: zxqvwu00.prm");
+  EXPECT_EQ(host_.messages.back().text,
+            "Invalid Input Record # - 2   Data --> nonsense\r\nFile: zxqvwu00.prm");
   EXPECT_EQ(block().Stroke, 3);
 }
 

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
@@ -216,6 +217,37 @@ TEST_F(MainWindowTest, NotesPanelTakesTheLaunchersPlace) {
   notes.Replace(QStringLiteral("three"));
   ClickOn(Child(window, "Command12"));
   EXPECT_EQ(program->context().block.Notes, "one\r\ntwo");
+}
+
+TEST_F(MainWindowTest, NotesThatAreTooLongAreRefusedAtOnceWhenPasted) {
+  Action("Notes").trigger();
+  Settle();
+  auto& notes = static_cast<LinesEdit&>(Child(window, "Text22"));
+  notes.Replace(QStringLiteral("kept"));
+  QElapsedTimer clock;
+  clock.start();
+  const auto refuse = [&](const QString& text, const char* reason) {
+    ExpectBox(reason);
+    QApplication::clipboard()->setText(text);
+    PressKey(notes, Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+    EXPECT_EQ(notes.toPlainText(), QStringLiteral("kept"));
+    ExpectBox(reason);
+    notes.Replace(text);
+    EXPECT_EQ(notes.toPlainText(), QStringLiteral("kept"));
+  };
+  constexpr const char* kTooLong = "The notes are longer than 1 MB, the most that they may hold.";
+  refuse(QString(9 << 20, QLatin1Char('n')), kTooLong);
+  refuse(QStringLiteral("a line\n").repeated(200'000), kTooLong);
+  refuse(QString(100'000, QLatin1Char('n')),
+         "A line of the notes is longer than 64 KB, the most that it may be.");
+  EXPECT_LT(clock.elapsed(), 10'000) << "far more than a busy machine needs";
+  // A text that replaces what is selected counts as what comes out.
+  const QString most = QStringLiteral("1234567890123456789012345678901\n").repeated(31'000);
+  notes.Replace(most);
+  notes.selectAll();
+  QApplication::clipboard()->setText(most);
+  PressKey(notes, Qt::Key_V, QStringLiteral("\x16"), Qt::ControlModifier);
+  EXPECT_EQ(notes.toPlainText().size(), most.size());
 }
 
 TEST_F(MainWindowTest, OptionPanelsAreBuiltWhenTheyShow) {

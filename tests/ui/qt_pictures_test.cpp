@@ -73,6 +73,18 @@ TEST_F(PicturesTest, EachExtensionGivesItsFormat) {
   EXPECT_NE(svg.find("stroke=\"#0000ff\""), std::string::npos) << "the curve is a line";
 }
 
+TEST_F(PicturesTest, AnSvgOfTheNarrowestLimitsHoldsNumbersOnly) {
+  DrawCurve();
+  const std::vector<GraphPoint> points = {{0, 0}, {1e-300, 5e-324}, {1e300, 1e-300}};
+  const GraphCurve curve{"", points, {}};
+  GraphFrame frame;
+  frame.range = {0, 1e-300, 0, 1e-300};
+  program->grapher().DrawGraph(frame, {&curve, 1});
+  const std::string svg = SaveAs("narrow.svg");
+  EXPECT_NE(svg.find("<polyline"), std::string::npos);
+  for (const char* none : {"nan", "inf"}) EXPECT_EQ(svg.find(none), std::string::npos) << none;
+}
+
 TEST_F(PicturesTest, PicturesOfGraphsAreLightInADarkWindow) {
   ApplyTheme(*qApp, Theme::Dark);
   DrawCurve();
@@ -120,9 +132,11 @@ TEST_F(PicturesTest, AltJSavesTheMainWindow) {
 
 TEST_F(PicturesTest, OnTheGrapherTheKeysAreThoseOfItsCommand) {
   Open("GRAPHER");
-  EXPECT_EQ(Grapher().findChild<QShortcut*>(), nullptr);
-  EXPECT_EQ(Child<QPushButton>(Grapher(), "Save_Form_JPG").shortcut(),
-            QKeySequence(Qt::ALT | Qt::Key_J));
+  const QKeySequence keys(Qt::ALT | Qt::Key_J);
+  for (const QShortcut* shortcut : Grapher().findChildren<QShortcut*>()) {
+    EXPECT_NE(shortcut->key(), keys) << "the command has them alone";
+  }
+  EXPECT_EQ(Child<QPushButton>(Grapher(), "Save_Form_JPG").shortcut(), keys);
 }
 
 TEST_F(PicturesTest, AFileThatIsNoPictureLeavesTheSurface) {

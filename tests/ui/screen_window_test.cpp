@@ -207,6 +207,20 @@ TEST_F(Form1WindowTest, FieldMouseDownHoldsWhileTheButtonIsDown) {
   EXPECT_EQ(program->context().block.FieldMouseDown, 0);
 }
 
+TEST_F(Form1WindowTest, AnEmojiDoesNotPassTheRuleOfANumberField) {
+  FieldEdit& bore = Edit("Text1");
+  bore.setFocus(Qt::TabFocusReason);
+  const std::string before = Text("Text1");
+  // A character beyond 16 bits, one made of several, and signs without a shape of their own.
+  for (const char* typed : {"\U0001F600", "\U0001F468\u200D\U0001F527", "\u200D", "\uE000"}) {
+    PressKey(bore, 0, QString::fromUtf8(typed));
+    EXPECT_EQ(Text("Text1"), before);
+    EXPECT_EQ(bore.text().toStdString(), before);
+  }
+  PressKey(bore, 0, QStringLiteral("4"));
+  EXPECT_EQ(Text("Text1"), "4");
+}
+
 TEST_F(Form1WindowTest, PasteTakesTheTextAsItStandsAndCountsAsAChange) {
   program->context().block.DataChanged = 0;
   FieldEdit& bore = Edit("Text1");
