@@ -175,9 +175,9 @@ TEST_F(CompileOtherTable, OfGearboxes) {
        "Manual\tgearbox\tB\t9 8 7 6 5 4 3 2 1 .5\tmaker"},
       {{"Manual\tgearbox\tX\t1.0\tmaker", "ratios \"1.0\" are not 2 to 10 numbers"},
        {"Manual\tgearbox\tX\t9 8 7 6 5 4 3 2 1 1 1\tmaker", "ratios \"9 8 7 6 5 4 3 2 1 1 1\" are"},
-       {"Manual\tgearbox\tX\t3.0  1.0\tmaker", "\"\" is not a number"},
-       {"Manual\tgearbox\tX\t3.0 1.0R\tmaker", "\"1.0R\" is not a number"},
-       {"Manual\tgearbox\tX\t3.0 0\tmaker", "is out of range"},
+       {"Manual\tgearbox\tX\t3.0  1.0\tmaker", "ratios \"3.0  1.0\": \"\" is not a number"},
+       {"Manual\tgearbox\tX\t3.0 1.0R\tmaker", "ratios \"3.0 1.0R\": \"1.0R\" is not a number"},
+       {"Manual\tgearbox\tX\t3.0 0\tmaker", "ratios \"3.0 0\" is out of range"},
        {"Manual\tgearbox\tX\t3.0 1.0\t", "the figures have no source"}});
 }
 
