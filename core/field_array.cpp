@@ -9,13 +9,14 @@ std::string MemberName(const std::string& array, int index) {
 }
 
 FieldArray::FieldArray(Frame& frame, const std::string& name, int count, std::string label,
-                       const RowTexts& texts, const Entry& entry, const std::string& help)
+                       const RowTexts& texts, const Entry& entry, const std::string& help,
+                       int firstIndex)
     : name_(name), label_(std::move(label)) {
   fields_.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     Entry member = entry;
     member.holds = entry.holds.InRow(i);
-    fields_.push_back(std::make_unique<Field>(frame, MemberName(name, i),
+    fields_.push_back(std::make_unique<Field>(frame, MemberName(name, firstIndex + i),
                                               label_ + ", row " + std::to_string(i + 1),
                                               texts.Of(i), member, help));
   }

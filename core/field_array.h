@@ -36,13 +36,15 @@ class FieldArray {
   /// @param label  of the whole; a member is called "label, row N" in messages, N from 1
   /// @param entry  what it holds is the column's first row (`HoldsColumn`); every member holds
   ///               the row of its index
+  /// @param firstIndex  in the name of the first member, which is row 0 all the same
   FieldArray(Frame& frame, const std::string& name, int count, std::string label,
-             const RowTexts& texts, const Entry& entry, const std::string& help = {});
+             const RowTexts& texts, const Entry& entry, const std::string& help = {},
+             int firstIndex = 0);
 
   int count() const { return static_cast<int>(fields_.size()); }
   const std::string& name() const { return name_; }
   const std::string& label() const { return label_; }
-  /// A member by its index. @throws CommandError (IndexOutOfRange)
+  /// A member by its row, from 0. @throws CommandError (IndexOutOfRange)
   Field& operator[](int index) const;
 
   /// All members in the order of their indexes.

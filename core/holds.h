@@ -69,6 +69,12 @@ class Holds {
     return As(&FormatValue<Text>);
   }
 
+  /// What the "Metric" box has converted is shown in another pattern than results.
+  template <PatternText Text>
+  Holds SwitchedPattern() const {
+    return With(&Holds::switchedFormat_, NumberFormat{&FormatValue<Text>});
+  }
+
   // ---- what the screen model asks
 
   enum class Opening { ByKey, Shown, NotShown };
@@ -87,6 +93,8 @@ class Holds {
   const UnitRule* rule() const { return rule_; }
   /// Null where the screen's pattern holds.
   NumberFormat format() const { return format_; }
+  /// Null where what was converted goes by the pattern of results.
+  NumberFormat switchedFormat() const { return switchedFormat_; }
 
   /// The place of the value; monostate where there is none.
   Slot In(ParameterBlock& block) const {
@@ -128,6 +136,7 @@ class Holds {
   bool zeroKeepsText_ = false;
   const UnitRule* rule_ = nullptr;
   NumberFormat format_ = nullptr;
+  NumberFormat switchedFormat_ = nullptr;
 };
 
 /// A column of a table of the shared values, from its first row on.

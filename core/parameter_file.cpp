@@ -777,10 +777,14 @@ class ParameterFile::Reader {
     double torque = value;
     switch (unit) {
       case TorqueUnit::PoundFeet: break;
-      case TorqueUnit::Horsepower: torque = value * 5252 / rpm; break;
+      case TorqueUnit::Horsepower: torque = value * kRpmOfEqualTorqueAndPower / rpm; break;
       case TorqueUnit::NewtonMetres: torque = value / 1.3558179; break;
-      case TorqueUnit::Kilowatts: torque = (value / kKilowattsPerHorsepower) * 5252 / rpm; break;
-      case TorqueUnit::MetricHorsepower: torque = (value * 0.9863) * 5252 / rpm; break;
+      case TorqueUnit::Kilowatts:
+        torque = (value / kKilowattsPerHorsepower) * kRpmOfEqualTorqueAndPower / rpm;
+        break;
+      case TorqueUnit::MetricHorsepower:
+        torque = (value * 0.9863) * kRpmOfEqualTorqueAndPower / rpm;
+        break;
     }
     if (!std::isfinite(torque)) {
       throw CommandError(ErrorKind::Overflow, "is too large a torque.");

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <utility>
 
+#include "core/line_reader.h"
 #include "core/text.h"
 
 namespace veldox {
@@ -40,18 +41,21 @@ std::vector<std::string_view> Words(std::string_view text) {
 
 }  // namespace
 
-std::string PickHeader(std::string_view name) {
-  return "      -- " + std::string(name) + " --";
+std::string PickHeader(std::string_view name, const PickLook& look) {
+  return std::string(look.indent) + "-- " + std::string(name) + " --";
 }
 
-std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVerified) {
+std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVerified,
+                                const PickLook& look) {
   std::vector<PickRow> rows;
   rows.reserve(group.rows.size());
   for (const TableRow& row : group.rows) {
     const std::string name(row.name);
     switch (row.kind) {
       case TableRow::Kind::Header:
-        rows.push_back({PickRow::Kind::Section, name.empty() ? " " : PickHeader(name), {}});
+        rows.push_back({PickRow::Kind::Section,
+                        name.empty() ? std::string(look.apart) : PickHeader(name, look),
+                        {}});
         break;
       case TableRow::Kind::NameOnly:
         rows.push_back({PickRow::Kind::NameOnly, name, std::string(notVerified)});
@@ -63,6 +67,18 @@ std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVer
                                                            : std::string(row.source))});
         break;
     }
+  }
+  return rows;
+}
+
+std::vector<PickRow> UserPickRows(std::string_view text, const std::string& fileName) {
+  std::vector<PickRow> rows;
+  LineReader lines(text, fileName);
+  while (lines.Next()) {
+    const bool picks = lines.line().find(kFiguresSign) != std::string_view::npos;
+    rows.push_back(
+        {picks ? PickRow::Kind::Choice : PickRow::Kind::Section, std::string(lines.line()),
+         picks ? "Source: " + fileName + ", line " + std::to_string(lines.number()) : ""});
   }
   return rows;
 }

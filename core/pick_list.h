@@ -32,13 +32,27 @@ struct PickPlace {
 /// The sign between the name of a row and its figures.
 inline constexpr char kFiguresSign = '|';
 
+/// How the headings of a list stand.
+struct PickLook {
+  std::string_view indent = "      ";
+  std::string_view apart = " ";  ///< a heading without a name
+};
+
 /// The heading of a group of rows, as lists show it.
-std::string PickHeader(std::string_view name);
+std::string PickHeader(std::string_view name, const PickLook& look = {});
 
 /// The rows of a group of a table: "name | figures" where there are figures, the name alone
-/// where they are not verified, and a single blank for a header without a name.
+/// where they are not verified, and blanks for a header without a name.
 /// @param notVerified  note of the rows without figures
-std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVerified);
+/// @param look  how headings stand
+std::vector<PickRow> PickRowsOf(const TableGroup& group, std::string_view notVerified,
+                                const PickLook& look = {});
+
+/// The rows of a table that a user keeps in a text file: "name | figures" can be picked, all other
+/// lines are headings.
+/// @param fileName  what the notes of the rows call the file
+/// @throws CommandError (File) as LineReader does
+std::vector<PickRow> UserPickRows(std::string_view text, const std::string& fileName);
 
 /// The words behind the sign of a row: where the figures are apart.
 /// @param most  the last word takes the rest of the row

@@ -36,6 +36,8 @@ std::string Control::PlainCaption() const {
   std::string plain;
   std::copy_if(caption_.begin(), caption_.end(), std::back_inserter(plain),
                [](char c) { return c != '&'; });
+  // Some captions are filled up with blanks.
+  plain.erase(plain.find_last_not_of(' ') + 1);
   return plain;
 }
 
@@ -213,8 +215,9 @@ ReportBox::ReportBox(Frame& frame, std::string name)
   SetVisible(false);
 }
 
-void ReportBox::ShowReport(std::string report, int fontSize) {
+void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file) {
   report_ = std::move(report);
+  file_ = file;
   fontSize_ = fontSize;
   showsReport_ = true;
   SetText(ReportBoxText(report_));
@@ -260,14 +263,15 @@ char32_t ReportBox::FilterKey(char32_t key) {
 }
 
 void ReportBox::WriteReportToFile() const {
-  constexpr int kPrinterFiles = 3;
   Host& host = screen().context().host;
   const auto path =
-      host.AskFile({FileDialog::Kind::Save,
-                    "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt",
-                    kPrinterFiles, host.ProgramFolder()});
+      host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
-  SaveFile(*path, ReportFileText(report_));
+  std::string_view report = report_;
+  if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
+    report.remove_prefix(ReportPrompt.size());
+  }
+  SaveFile(*path, ReportFileText(report));
 }
 
 void ReportBox::PrintReport() const {
@@ -849,13 +853,24 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
   return report;
 }
 
-void Screen::ShowReport(std::string report, int fontSize) {
-  ReportPane()->ShowReport(std::move(report), fontSize);
+void Screen::FailAt(Field& field, std::string message) {
+  field.SetMark(Mark::Error);
+  field.Focus();
+  throw CommandError(ErrorKind::InvalidArgument, std::move(message));
+}
+
+void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file) {
+  ReportPane()->ShowReport(std::move(report), fontSize, file);
 }
 
 std::string Screen::TextOf(const Field& field, double value) const {
   const NumberFormat format = field.holds().format();
   return (format != nullptr ? format : pattern_)(value, mark());
+}
+
+std::string Screen::SwitchedTextOf(const Field& field, double value) const {
+  const NumberFormat format = field.holds().switchedFormat();
+  return format != nullptr ? format(value, mark()) : TextOf(field, value);
 }
 
 void Screen::Show(Field& field, double value, DividesBy divisors) {
@@ -966,7 +981,7 @@ void Screen::ConvertValues(bool toMetric) {
     // A field without a number is left alone, its value is not.
     if (value.field != nullptr && (isShown || !readsText)) {
       RequireResult(*value.field, now);
-      ShowText(*value.field, TextOf(*value.field, now));
+      ShowText(*value.field, SwitchedTextOf(*value.field, now));
     } else if (!std::isfinite(now)) {
       now = number;
       std::feclearexcept(FE_OVERFLOW);
@@ -1042,7 +1057,7 @@ void Screen::SwitchBlankUnits(bool toMetric) {
       field->SetText(lastSwitch_.Find(field)->before);
     } else if (rule != nullptr && IsNumber(before, mark())) {
       const double now = rule->Convert(ParseNumber(before, mark()), toMetric);
-      if (std::isfinite(now)) field->SetText(TextOf(*field, now));
+      if (std::isfinite(now)) field->SetText(SwitchedTextOf(*field, now));
     }
     made.texts.push_back({field, std::move(before), field->text()});
   }

@@ -99,7 +99,7 @@ class Control {
   const std::string& name() const { return name_; }
   const std::string& caption() const { return caption_; }
   const std::string& help() const { return help_; }
-  /// The caption without access key signs, as messages quote it.
+  /// The caption without access key signs and blanks behind it, as messages quote it.
   std::string PlainCaption() const;
   bool visible() const { return visible_; }
   bool enabled() const { return enabled_; }
@@ -259,6 +259,13 @@ class TextArea : public TextControl {
   TextArea(Frame& frame, std::string name, std::string label);
 };
 
+/// How a report goes to a file.
+struct ReportFile {
+  const char* filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt";
+  int filterIndex = 3;    ///< counts from 1
+  bool hasPrompt = true;  ///< false: the file begins behind the report's first lines
+};
+
 /// The pane that shows a report; also the help place of screens without one of their own.
 class ReportBox : public TextControl {
  public:
@@ -266,7 +273,7 @@ class ReportBox : public TextControl {
 
   /// Shows a report (core/report.h); it stays until a key closes it.
   /// @param fontSize  points it is printed in
-  void ShowReport(std::string report, int fontSize);
+  void ShowReport(std::string report, int fontSize, const ReportFile& file = {});
   bool showsReport() const { return showsReport_; }
   /// The report with its marks, empty when none is shown.
   const std::string& report() const { return report_; }
@@ -289,6 +296,7 @@ class ReportBox : public TextControl {
   std::string sentence_;
   Control* before_ = nullptr;  // what had the focus when the report opened
   int fontSize_ = 0;
+  ReportFile file_;
   bool showsReport_ = false;
 };
 
@@ -684,7 +692,7 @@ class Screen {
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
   void ShowText(TextControl& field, std::string text);
   /// Shows a report in the screen's report box. @param fontSize  points it is printed in
-  void ShowReport(std::string report, int fontSize = 10);
+  void ShowReport(std::string report, int fontSize = 10, const ReportFile& file = {});
   /// A report that `build` makes of numbers no field has shown yet.
   /// @param impossible  what is told, with the fields at fault, when one of them divides by zero,
   ///                    is too large or is no number
@@ -695,6 +703,9 @@ class Screen {
   static void Require(bool holds, Field& field, const char* message) {
     if (!holds) throw CommandError(ErrorKind::InvalidArgument, message, &field);
   }
+  /// Ends a command with a sentence that stands alone in the box, and points at a field.
+  /// @throws CommandError (InvalidArgument)
+  [[noreturn]] static void FailAt(Field& field, std::string message);
   /// The Click of the "Metric" box, after the read-all routine: changes all values to the
   /// other units. What nobody has changed since the last switch comes back as it stood before
   /// it, text and value; with no change at all so does what is derived. A failure leaves
@@ -754,6 +765,7 @@ class Screen {
   std::vector<MetricValue> MetricValues();
   std::vector<Field*> Fields() const;
   std::string TextOf(const Field& field, double value) const;
+  std::string SwitchedTextOf(const Field& field, double value) const;
   void ConvertValues(bool toMetric);
   void TakeFocus(Control* control);
 

@@ -15,7 +15,11 @@ std::vector<Field*> CellsOf(const FieldArray& array) {
 
 Unit UnitOf(const std::vector<Field*>& cells) {
   const auto first = std::ranges::find_if(cells, [](const Field* cell) { return cell != nullptr; });
-  return first == cells.end() ? Unit::None : (*first)->unit();
+  if (first == cells.end()) return Unit::None;
+  const bool agree = std::all_of(first, cells.end(), [&](const Field* cell) {
+    return cell == nullptr || cell->unit() == (*first)->unit();
+  });
+  return agree ? (*first)->unit() : Unit::None;
 }
 
 std::string_view Trimmed(std::string_view text) {

@@ -23,7 +23,7 @@ struct TableColumn {
   std::string head;
   Label* headLabel = nullptr;
   std::vector<Field*> cells;
-  /// What the column measures; its sign stands in the head.
+  /// What all of the column measures; its sign stands in the head.
   Unit unit = Unit::None;
 };
 

@@ -15,6 +15,15 @@ inline constexpr double kGramsPerPound = 453.5923696;
 inline constexpr double kMillibarsPerInchMercury = 33.8638867;
 /// Centimetres of mercury in a pound a square inch: the unit of gauges in metric.
 inline constexpr double kGaugeUnitsPerPsi = 5.171507;
+inline constexpr double kKilogramsPerPound = 0.4535923696;
+inline constexpr double kKilometresPerMile = 1.609344;
+inline constexpr double kMetreKilogramsPerFootPound = 0.13825499407704847;
+inline constexpr double kBarPerPsi = 0.0689475729;
+/// Gravity.
+inline constexpr double kMetresASecondSquared = 9.80665;
+inline constexpr double kFeetASecondSquared = 32.17405;
+/// Horsepower of one foot pound at this RPM: torque is horsepower times it by RPM.
+inline constexpr double kRpmOfEqualTorqueAndPower = 5252;
 
 /// How a value changes between inches, pounds and Fahrenheit and the metric units.
 struct UnitRule {
@@ -48,6 +57,21 @@ inline constexpr UnitRule kGaugePressureRule{
     [](double psi) { return psi * kGaugeUnitsPerPsi; },
     [](double units) { return units * (1 / kGaugeUnitsPerPsi); }};
 
+/// Engine sizes where the metric screen works with the rounded number of cubic inches in a cc.
+inline constexpr UnitRule kEngineSizeRule{[](double inches) { return inches / kCubicInchesPerCc; },
+                                          [](double cc) { return cc * kCubicInchesPerCc; }};
+inline constexpr UnitRule kWeightRule{[](double lb) { return lb * kKilogramsPerPound; },
+                                      [](double kg) { return kg / kKilogramsPerPound; }};
+inline constexpr UnitRule kRoadSpeedRule{[](double mph) { return mph * kKilometresPerMile; },
+                                         [](double kmh) { return kmh / kKilometresPerMile; }};
+inline constexpr UnitRule kFeetRule{[](double feet) { return feet * kMetresPerFoot; },
+                                    [](double metres) { return metres / kMetresPerFoot; }};
+inline constexpr UnitRule kTorqueRule{
+    [](double footPounds) { return footPounds * kMetreKilogramsPerFootPound; },
+    [](double metreKg) { return metreKg / kMetreKilogramsPerFootPound; }};
+inline constexpr UnitRule kMeanPressureRule{[](double psi) { return psi * kBarPerPsi; },
+                                            [](double bar) { return bar / kBarPerPsi; }};
+
 /// Temperature in degrees Celsius.
 inline constexpr double CelsiusOf(double fahrenheit) {
   return (fahrenheit - 32) * 5 / 9;
@@ -77,11 +101,19 @@ enum class Unit {
   Temperature,
   Percent,
   SpringRate,
-  Modulus,  ///< of elasticity or rigidity
+  Modulus,             ///< of elasticity or rigidity
   Inches,              ///< in both modes
   Altitude,            ///< feet in both modes
   PoundsPerCubicFoot,  ///< in both modes
   GrainsPerPound,      ///< in both modes
+  Weight,
+  RoadSpeed,
+  MilesPerHour,  ///< in both modes
+  Torque,
+  MeanPressure,
+  Seconds,
+  Feet,  ///< lengths on the road
+  Miles,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -109,6 +141,14 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Altitude: return "ft";
     case Unit::PoundsPerCubicFoot: return "lb/cu ft";
     case Unit::GrainsPerPound: return "gr/lb";
+    case Unit::Weight: return metric ? "kg" : "lb";
+    case Unit::RoadSpeed: return metric ? "km/h" : "MPH";
+    case Unit::MilesPerHour: return "MPH";
+    case Unit::Torque: return metric ? "m-kg" : "lb-ft";
+    case Unit::MeanPressure: return metric ? "bar" : "psi";
+    case Unit::Seconds: return "s";
+    case Unit::Feet: return metric ? "m" : "ft";
+    case Unit::Miles: return metric ? "km" : "mi";
   }
   return "";
 }
@@ -125,6 +165,12 @@ constexpr const UnitRule* RuleOf(Unit unit) {
     case Unit::Barometer: return &kBarometerRule;
     case Unit::GaugePressure: return &kGaugePressureRule;
     case Unit::Temperature: return &kTemperatureRule;
+    case Unit::Weight: return &kWeightRule;
+    case Unit::RoadSpeed:
+    case Unit::Miles: return &kRoadSpeedRule;
+    case Unit::Feet: return &kFeetRule;
+    case Unit::Torque: return &kTorqueRule;
+    case Unit::MeanPressure: return &kMeanPressureRule;
     default: return nullptr;
   }
 }

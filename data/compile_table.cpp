@@ -24,6 +24,7 @@ namespace {
 /// What may stand in the cells of a column.
 enum class Cell {
   Number,
+  Numbers,   ///< two to ten numbers with single blanks between them
   Whole,     ///< a whole number
   Fraction,  ///< such as 3, 5/16 or 3-47/64 in lowest terms of halves down to 64ths
   Drill,     ///< a fraction, a number drill #1 to #80 or a letter drill A to Z
@@ -35,8 +36,8 @@ enum class Cell {
 struct ColumnRule {
   std::string_view head;
   Cell cell;
-  double least = 0;  ///< of numbers
-  double most = 0;   ///< of numbers
+  double least = 0;  ///< of each number
+  double most = 0;   ///< of each number
   bool mayBeEmpty = false;
 };
 
@@ -55,6 +56,7 @@ const std::vector<Shape>& Shapes() {
         {"rod", Cell::Number, 0, 200},
         {"cylinders", Cell::Whole, 1, 64}},
        true},
+      {"gearbox", {{"ratios", Cell::Numbers, 0.2, 20}}, true},
       {"unit",
        {{"option", Cell::Whole, 0, 63},
         {"of", Cell::Whole, 0, 63, true},
@@ -259,6 +261,7 @@ class Table {
         }
         if (!(value >= rule.least && value <= rule.most)) Fail(what + " is out of range");
         break;
+      case Cell::Numbers: CheckNumbers(what, Split(cell, ' '), rule); break;
       case Cell::Fraction:
         if (!IsFraction(cell)) Fail(what + " is not a fraction in lowest terms");
         break;
@@ -271,6 +274,20 @@ class Table {
       case Cell::Text:
         if (cell.empty()) Fail(what + " is not told");
         break;
+    }
+  }
+
+  void CheckNumbers(const std::string& what, const std::vector<std::string>& words,
+                    const ColumnRule& rule) const {
+    constexpr std::size_t kFewest = 2;
+    constexpr std::size_t kMost = 10;
+    if (words.size() < kFewest || words.size() > kMost) {
+      Fail(what + " are not 2 to 10 numbers");
+    }
+    for (const std::string& word : words) {
+      double value = 0;
+      if (!ReadNumber(word, value)) Fail(what + ": \"" + word + "\" is not a number");
+      if (!(value >= rule.least && value <= rule.most)) Fail(what + " is out of range");
     }
   }
 

@@ -29,6 +29,10 @@ struct TableGroup {
 /// not known), number of cylinders. Made from engines.tsv by the build.
 std::span<const TableGroup> EngineTable();
 
+/// Transmissions by list: the ratios from first gear up. What is known of the primary drive and of
+/// the final drive stands in the name, as does the torque capacity. Made from gearboxes.tsv.
+std::span<const TableGroup> GearboxTable();
+
 /// Units by the heading over them: index of the unit's option button, that of the unit it comes
 /// of (empty for one that others come of), and the steps from that unit to this one, such as
 /// "- 32 * 5 / 9", taken from left to right. Made from units.tsv.

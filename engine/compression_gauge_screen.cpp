@@ -39,13 +39,6 @@ CylinderSize Form12::Size() const {
   return {b.Bore, b.Stroke, b.RodLength, b.WristPinOffset};
 }
 
-void Form12::FailAt(Field& field, std::string message) {
-  // The sentence stands alone in the box, so the field is pointed at here.
-  field.SetMark(Mark::Error);
-  field.Focus();
-  throw CommandError(ErrorKind::InvalidArgument, std::move(message));
-}
-
 void Form12::RequireRod() {
   const ParameterBlock& b = block();
   const double reach = b.Stroke / 2 + std::abs(b.WristPinOffset);

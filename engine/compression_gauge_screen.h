@@ -55,8 +55,6 @@ class Form12 : public Screen {
   double CcOf(double volume) const;
   double FahrenheitShown(double temperature) const;
   void ShowIntakeClose(double degrees);
-  /// Ends a command with a sentence of its own that points at a field. @throws CommandError
-  [[noreturn]] static void FailAt(Field& field, std::string message);
 
   CrankingGraphInput ReadGraphInput();
   void GraphCranking(bool first);

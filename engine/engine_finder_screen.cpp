@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "core/files.h"
-#include "core/line_reader.h"
 #include "core/shell.h"
 #include "core/text.h"
 
@@ -55,18 +54,6 @@ std::vector<PickRow> RowsOfAllMakes() {
 
 }  // namespace
 
-std::vector<PickRow> UserEngineRows(std::string_view text, const std::string& fileName) {
-  std::vector<PickRow> rows;
-  LineReader lines(text, fileName);
-  while (lines.Next()) {
-    const bool picks = lines.line().find(kFiguresSign) != std::string_view::npos;
-    rows.push_back(
-        {picks ? PickRow::Kind::Choice : PickRow::Kind::Section, std::string(lines.line()),
-         picks ? "Source: " + fileName + ", line " + std::to_string(lines.number()) : ""});
-  }
-  return rows;
-}
-
 Form21::Form21(ProgramContext& context, Form1& form1)
     : Screen(context, "Form21", "Select Engine - Bore - Stroke - Rod Length - Number of Cylinders",
              ""),
@@ -99,8 +86,7 @@ void Form21::ReadUserRows() {
   // A file that cannot be read leaves the list empty.
   Combo1.Offer({});
   const std::filesystem::path file = InFolder(context().host.ProgramFolder(), kUserFile);
-  Combo1.Offer(UserEngineRows(DecodeText(LoadFile(file)), PathText(file.filename())),
-               places_[list_]);
+  Combo1.Offer(UserPickRows(DecodeText(LoadFile(file)), PathText(file.filename())), places_[list_]);
 }
 
 std::vector<Form21::Figure> Form21::FiguresOf(const std::string& row) const {

@@ -12,11 +12,6 @@
 
 namespace veldox {
 
-/// The rows of a user's own table, as they stand in its file: those with figures can be picked,
-/// the others are headings.
-/// @throws CommandError (File) as LineReader does
-std::vector<PickRow> UserEngineRows(std::string_view text, const std::string& fileName);
-
 /// The engine finder: a pick from the list of production engines fills the fields of the
 /// displacement screen. It computes nothing itself.
 class Form21 : public Screen {

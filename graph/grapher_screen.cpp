@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/files.h"
+#include "core/units.h"
 #include "graph/image_export.h"
 #include "graph/power_curves.h"
 
@@ -26,7 +27,6 @@ constexpr const char* kBadCurveType = "Type of Curve may only be 1 Thru 8.";
 constexpr const char* kNoGraph = "User Error No Graph to Zoom!!!!";
 
 constexpr double kWalkStep = 5;               ///< model RPM from point to point
-constexpr double kTorqueConstant = 5252;      ///< horsepower to foot pounds at an RPM
 constexpr double kZoomParts = 10;             ///< a zoom step is this part of the range
 constexpr double kPixelsPerSizeUnit = 100;    ///< of "Custom Graph Width" and "Height"
 constexpr std::int32_t kNoDrawColor = 99999;  ///< "Draw Line Color" without a selection
@@ -167,7 +167,7 @@ void Form8::DrawPicture(Surface& surface, const PlotTheme& theme) {
 
 bool Form8::ReadCurveType(int& type) {
   const double value = Screen::Read(Text6);
-  if (value >= kFirstCurveType && value <= kLastCurveType && value == Floor(value)) {
+  if (value >= kFirstCurveType && value <= kLastGraphedCurveType && value == Floor(value)) {
     type = static_cast<int>(value);
     block().TypeCurve = RoundToInt16(value);
     return true;
@@ -197,7 +197,7 @@ void Form8::DrawPowerCurve(int type, const std::optional<AxisRange>& limits) {
     const double rpm = speed * speedScale;
     const double horsepower = ModelHorsepower(type, speed, b.HorsePower);
     power.push_back({rpm, horsepower});
-    torque.push_back({rpm, horsepower * kTorqueConstant / rpm});
+    torque.push_back({rpm, horsepower * kRpmOfEqualTorqueAndPower / rpm});
   }
   PlotEngine::RequireSeries(power, "Horsepower");
   PlotEngine::RequireSeries(torque, "Torque");

@@ -8,6 +8,9 @@
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
 #include "reference/weather_screen.h"
+#include "vehicle/elapsed_time_screen.h"
+#include "vehicle/gear_screen.h"
+#include "vehicle/gearbox_finder_screen.h"
 
 namespace veldox {
 
@@ -32,6 +35,12 @@ Program::Program(Host& host)
   AddScreen<Form10>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
+  auto& elapsedTime = AddScreen<Form3>();
+  auto& gear = AddScreen<Form5>();
+  auto& gearboxFinder = AddScreen<Form19>();
+  gearboxFinder.AddTaker(elapsedTime);
+  gearboxFinder.AddTaker(gear);
+  gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });

@@ -23,6 +23,9 @@ constexpr int kWantedRows = 23;
 constexpr int kFewestRows = 6;
 /// What a list would like to be wide, in digits of its font.
 constexpr int kWantedDigits = 94;
+/// And how much wider for each figure beyond these.
+constexpr int kUsualFigures = 4;
+constexpr int kDigitsOfFigure = 7;
 constexpr int kFewestDigits = 30;
 constexpr int kMostFigures = 12;
 constexpr int kMostDigits = 12;
@@ -281,7 +284,9 @@ void PickView::Measure() {
 }
 
 QSize PickView::sizeHint() const {
-  return QSize(kWantedDigits * fontMetrics().horizontalAdvance(QLatin1Char('0')),
+  const int figures = static_cast<int>(list_.heads().size()) - 1;
+  const int digits = kWantedDigits + std::max(0, figures - kUsualFigures) * kDigitsOfFigure;
+  return QSize(digits * fontMetrics().horizontalAdvance(QLatin1Char('0')),
                (kWantedRows + 1) * RowHeight() + 2 * frameWidth());
 }
 

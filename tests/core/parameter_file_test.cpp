@@ -994,7 +994,7 @@ TEST(ParameterFileOwners, ReadingPutsFallbackValuesIntoTheirFields) {
   Field& bore = screen.AddField("Form1.Text1", "4.0", &ParameterBlock::Bore);
   Field& height = screen.AddField("Form1.Text8", "9.0", &ParameterBlock::BlockDeckHeight);
   Field& ratio = screen.AddField("Form1CR.Text29", "0", &ParameterBlock::NewCompressionRatio);
-  Field& teeth = screen.AddField("Form5", "0", &ParameterBlock::TypeCurve);
+  Field& teeth = screen.AddField("Form3.Text16", "0", &ParameterBlock::TypeCurve);
   program.file.BindOwners(screen.Finder(), screen.Itself());
   program.Read(
       "Bore = 4.125\r\nBlock Deck Height = 9.0256789\r\nNew Compression Ratio = 1234.56789\r\n"

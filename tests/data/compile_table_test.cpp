@@ -167,6 +167,20 @@ TEST_F(CompileOtherTable, OfUnits) {
          {unit + "7\t11\t* two\tgiven", "steps \"* two\" are not"}});
 }
 
+TEST_F(CompileOtherTable, OfGearboxes) {
+  Check(
+      "ratios",
+      {"Automatic\theader\tAisin\t\t", "Automatic\tgearbox\t68RC\t3.74 1.96 1.00\tmaker",
+       "Automatic\tgearbox\t68RD\t\t", "Manual\tgearbox\tA\t2.4 1\tmaker",
+       "Manual\tgearbox\tB\t9 8 7 6 5 4 3 2 1 .5\tmaker"},
+      {{"Manual\tgearbox\tX\t1.0\tmaker", "ratios \"1.0\" are not 2 to 10 numbers"},
+       {"Manual\tgearbox\tX\t9 8 7 6 5 4 3 2 1 1 1\tmaker", "ratios \"9 8 7 6 5 4 3 2 1 1 1\" are"},
+       {"Manual\tgearbox\tX\t3.0  1.0\tmaker", "ratios \"3.0  1.0\": \"\" is not a number"},
+       {"Manual\tgearbox\tX\t3.0 1.0R\tmaker", "ratios \"3.0 1.0R\": \"1.0R\" is not a number"},
+       {"Manual\tgearbox\tX\t3.0 0\tmaker", "ratios \"3.0 0\" is out of range"},
+       {"Manual\tgearbox\tX\t3.0 1.0\t", "the figures have no source"}});
+}
+
 TEST_F(CompileOtherTable, OfTextsThatMayBeLeftOut) {
   Check("hose\ttube\tthread",
         {"AN\tdash\t-2\t\t1/8\t5/16-24\tSAE", "AN\tdash\t-72\t\t4-1/2\t\tSAE"},

@@ -10,7 +10,7 @@ namespace veldox {
 namespace {
 
 TEST(PowerCurves, ReachTheirPeakNearTheModelsPeakSpeed) {
-  for (int type = kFirstCurveType; type <= kLastCurveType; ++type) {
+  for (int type = kFirstCurveType; type <= kLastGraphedCurveType; ++type) {
     const ModelRange range = ModelSpeeds(type, 8800);
     double best = 0;
     double bestSpeed = 0;
@@ -59,9 +59,49 @@ TEST(PowerCurves, HaveTheirSpeeds) {
   }
 }
 
-TEST(PowerCurves, AreEight) {
+TEST(PowerCurves, OfTorqueReachIt) {
+  for (int type = kFirstTorqueCurveType; type <= kLastCurveType; ++type) {
+    double best = 0;
+    double bestSpeed = 0;
+    const ModelRange range = OwnModelSpeeds(type);
+    for (double speed = range.low; speed <= range.high; speed += 5) {
+      const double torque = ModelTorque(type, speed, 300);
+      if (torque > best) {
+        best = torque;
+        bestSpeed = speed;
+      }
+    }
+    // The divisors are the model's torque at 100 RPM steps, rounded to six digits.
+    EXPECT_NEAR(best, 300, 0.03) << type;
+    EXPECT_NEAR(bestSpeed, ModelPeakSpeed(type), 60) << type;
+  }
+}
+
+TEST(PowerCurves, HaveRangesOfTheirOwn) {
+  const double ranges[][2] = {{7000, 10450}, {3100, 6200}, {3100, 6200}, {3300, 7000},
+                              {3000, 6000},  {1000, 6000}, {1000, 5400}};
+  for (int type = kFirstRangedCurveType; type <= kLastCurveType; ++type) {
+    EXPECT_EQ(OwnModelSpeeds(type).low, ranges[type - kFirstRangedCurveType][0]) << type;
+    EXPECT_EQ(OwnModelSpeeds(type).high, ranges[type - kFirstRangedCurveType][1]) << type;
+  }
+}
+
+TEST(PowerCurves, OfTypes9And10WorkedOutByHand) {
+  // The polynomial of type 9 at 5000, power by power:
+  // 33305.406 - 234357.46 + 678821.2025 - 1031455.3375 + 869517.375 - 385773.90625 + 70367.6
+  EXPECT_NEAR(ModelHorsepower(9, 5000, 450), 424.87975, 1e-6);
+  // Type 10 at 3000, 50 turns a second: -1200.51 + 14946.7 - 43965 + 70427.5 - 65393.125 +
+  // 35383.75 - 10383.015625 + 1274.1953125 = 1090.494688; kPa to psi, 122.047488 cubic inches
+  EXPECT_NEAR(ModelTorque(10, 3000, 134.725), 1090.4946875 / 6.89475729 * 122.047488 / 150.8, 1e-6);
+}
+
+TEST(PowerCurves, AreEleven) {
   EXPECT_THROW(ModelPeakSpeed(0), CommandError);
-  EXPECT_THROW(ModelHorsepower(9, 5000, 100), CommandError);
+  EXPECT_THROW(ModelPeakSpeed(12), CommandError);
+  EXPECT_THROW(ModelHorsepower(10, 5000, 100), CommandError);
+  EXPECT_THROW(ModelTorque(9, 5000, 100), CommandError);
+  EXPECT_THROW(OwnModelSpeeds(4), CommandError);
+  EXPECT_THROW(ModelSpeeds(9, 5000), CommandError);
 }
 
 }  // namespace
