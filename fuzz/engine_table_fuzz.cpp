@@ -1,14 +1,14 @@
 #include "core/error.h"
 #include "core/files.h"
 #include "core/line_reader.h"
-#include "engine/engine_finder_screen.h"
+#include "core/pick_list.h"
 #include "fuzz/fuzz_target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text = veldox::DecodeText(std::string(veldox::BytesOf(data, size)));
   std::vector<veldox::PickRow> rows;
   try {
-    rows = veldox::UserEngineRows(text, "user_bsr.prm");
+    rows = veldox::UserPickRows(text, "user_bsr.prm");
   } catch (const veldox::CommandError& error) {
     veldox::RequireSound(error.kind() == veldox::ErrorKind::File, "a refusal is not of a file");
     return 0;
