@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "airfuel/nitrous_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
@@ -33,6 +34,7 @@ Program::Program(Host& host)
   AddScreen<Form16>();
   AddScreen<Form9>();
   AddScreen<Form10>();
+  AddScreen<Form17>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
   auto& elapsedTime = AddScreen<Form3>();

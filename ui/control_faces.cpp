@@ -25,9 +25,16 @@ int DigitsWidth(const QWidget& widget, int digits) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits;
 }
 
-/// A caption for a label. A file's name, which is one long word, may break behind its signs.
+/// A caption for a label. A file's name, which is one long word, may break behind its signs; a
+/// number without a leading zero must not.
 QString LabelText(const Control& control) {
   QString text = ToQtLines(control.caption());
+  constexpr QChar kNoBreakHere(0x2060);
+  for (qsizetype i = 1; i + 1 < text.size(); ++i) {
+    if (text[i] == QLatin1Char('.') && text[i - 1].isSpace() && text[i + 1].isDigit()) {
+      text.insert(i + 1, kNoBreakHere);
+    }
+  }
   constexpr QChar kBreakHere(0x200b);
   constexpr qsizetype kLongWord = 24;
   if (text.size() > kLongWord && !text.contains(QLatin1Char(' '))) {

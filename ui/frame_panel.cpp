@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/caution_frame.h"
 #include "core/panel.h"
 #include "ui/control_faces.h"
 #include "ui/pick_list_face.h"
@@ -74,7 +75,9 @@ std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*
 
 FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Control*>& placed,
                        QWidget* parent)
-    : QGroupBox(ToQt(frame.caption()), parent), grid_(new QGridLayout(this)) {
+    : QGroupBox(ToQt(frame.caption()), parent),
+      grid_(new QGridLayout(this)),
+      asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr) {
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(6);
   grid_->setVerticalSpacing(3);

@@ -18,6 +18,8 @@ class FramePanel : public QGroupBox {
 
   int labelWidth() const;
   int unitWidth() const;
+  /// It is drawn so that it stands out.
+  bool asksForCare() const { return asksForCare_; }
   /// Lines the grid up with those of the other frames in its column.
   void Align(int labelWidth, int unitWidth);
 
@@ -28,6 +30,7 @@ class FramePanel : public QGroupBox {
   QGridLayout* grid_;
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
+  bool asksForCare_;
   bool grows_ = false;  ///< holds something that takes all the room there is
 };
 

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "ui/field_edit.h"
+#include "ui/frame_panel.h"
 #include "ui/menu_rows.h"
 
 namespace veldox {
@@ -21,6 +22,8 @@ constexpr int kFramePadding = 8;
 constexpr int kTitleGap = 5;
 constexpr double kFrameRadius = 6;
 constexpr double kControlRadius = 4;
+/// What asks for care.
+constexpr QRgb kCaution = 0xffd98200;
 
 /// `part` of b laid over a.
 QColor Blend(const QColor& a, const QColor& b, double part) {
@@ -138,7 +141,8 @@ class FlatStyle : public QProxyStyle {
                           QPainter* painter, const QWidget* widget) const override {
     if (control == CC_GroupBox) {
       if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
-        DrawFrame(*box, painter);
+        const auto* panel = dynamic_cast<const FramePanel*>(widget);
+        DrawFrame(*box, panel != nullptr && panel->asksForCare(), painter);
         return;
       }
     }
@@ -151,7 +155,7 @@ class FlatStyle : public QProxyStyle {
     switch (which) {
       case SP_MessageBoxInformation: return SignIcon(colors.accent, QLatin1Char('i'));
       case SP_MessageBoxQuestion: return SignIcon(colors.accent, QLatin1Char('?'));
-      case SP_MessageBoxWarning: return SignIcon(QColor(0xd98200), QLatin1Char('!'));
+      case SP_MessageBoxWarning: return SignIcon(QColor(kCaution), QLatin1Char('!'));
       case SP_MessageBoxCritical: return SignIcon(QColor(0xc62828), QChar(0x00d7));
       default: return QProxyStyle::standardIcon(which, option, widget);
     }
@@ -214,10 +218,16 @@ class FlatStyle : public QProxyStyle {
                  chosen ? QPalette::HighlightedText : QPalette::ButtonText);
   }
 
-  static void DrawFrame(const QStyleOptionGroupBox& box, QPainter* painter) {
+  static void DrawFrame(const QStyleOptionGroupBox& box, bool asksForCare, QPainter* painter) {
     const ThemeColors colors(box.palette);
     painter->save();
-    Panel(painter, box.rect, kFrameRadius, colors.card, colors.border);
+    if (asksForCare) {
+      Panel(painter, box.rect, kFrameRadius, colors.cautionFill, colors.cautionBorder);
+      DrawBar(painter, QRectF(box.rect).adjusted(0, kFrameRadius / 2, 0, -kFrameRadius / 2),
+              colors.cautionBorder);
+    } else {
+      Panel(painter, box.rect, kFrameRadius, colors.card, colors.border);
+    }
     if (!box.text.isEmpty()) {
       QFont font = painter->font();
       font.setBold(true);
@@ -227,6 +237,13 @@ class FlatStyle : public QProxyStyle {
       painter->drawText(label, Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, box.text);
     }
     painter->restore();
+  }
+
+  /// A bar at the left edge: what stands out must not hang on colour alone.
+  static void DrawBar(QPainter* painter, const QRectF& rect, const QColor& color) {
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(color);
+    painter->drawRoundedRect(QRectF(rect.left(), rect.top() + 2, 3, rect.height() - 4), 1.5, 1.5);
   }
 
   static void DrawFocus(const QStyleOption& option, QPainter* painter) {
@@ -324,14 +341,7 @@ class FlatStyle : public QProxyStyle {
     }
     painter->save();
     Panel(painter, option.rect, kControlRadius, fill, line, width);
-    if (edit.mark() == Mark::Changed) {
-      // A bar as well as a ground: the mark must not hang on colour alone.
-      painter->setPen(Qt::NoPen);
-      painter->setBrush(colors.accent);
-      const QRectF field(option.rect);
-      painter->drawRoundedRect(QRectF(field.left(), field.top() + 2, 3, field.height() - 4), 1.5,
-                               1.5);
-    }
+    if (edit.mark() == Mark::Changed) DrawBar(painter, option.rect, colors.accent);
     painter->restore();
   }
 };
@@ -351,6 +361,8 @@ ThemeColors::ThemeColors(const QPalette& palette) {
   outputBorder = Blend(window, text, 0.3);
   outputFill = Blend(card, text, dark ? 0.07 : 0.065);
   changedFill = Blend(base, accent, dark ? 0.34 : 0.2);
+  cautionFill = Blend(card, QColor(kCaution), dark ? 0.13 : 0.1);
+  cautionBorder = Blend(card, QColor(kCaution), 0.8);
   errorFill = Blend(base, QColor(0xe53935), dark ? 0.26 : 0.13);
   errorBorder = red;
 }

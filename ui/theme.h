@@ -18,16 +18,18 @@ void ApplyTheme(QApplication& app, Theme theme);
 struct ThemeColors {
   explicit ThemeColors(const QPalette& palette);
 
-  bool dark;            ///< the palette's windows are dark
-  QColor card;          ///< ground of a frame
-  QColor border;        ///< line around frames
-  QColor fieldBorder;   ///< line around what takes input
-  QColor outputBorder;  ///< line around fields that show results
-  QColor outputFill;    ///< ground of fields that show results
-  QColor changedFill;   ///< ground of fields that the last command changed
-  QColor errorFill;     ///< ground of the field that is wrong
-  QColor errorBorder;   ///< line around the field that is wrong
-  QColor accent;        ///< focus and changed marks
+  bool dark;             ///< the palette's windows are dark
+  QColor card;           ///< ground of a frame
+  QColor border;         ///< line around frames
+  QColor fieldBorder;    ///< line around what takes input
+  QColor outputBorder;   ///< line around fields that show results
+  QColor outputFill;     ///< ground of fields that show results
+  QColor changedFill;    ///< ground of fields that the last command changed
+  QColor errorFill;      ///< ground of the field that is wrong
+  QColor errorBorder;    ///< line around the field that is wrong
+  QColor cautionFill;    ///< ground of frames that ask for care
+  QColor cautionBorder;  ///< line around them
+  QColor accent;         ///< focus and changed marks
 };
 
 }  // namespace veldox
