@@ -960,11 +960,13 @@ TEST(ParameterFileOwners, NumbersWithoutFallbackDoNotLookAtTheirField) {
 TEST(ParameterFileOwners, IntegersFallBackOnlyOnWhatTheirMemberCanHold) {
   Program program;
   OwnerScreen screen(program.context);
-  Field& shared = screen.AddField("Form17", "42");
+  Field& jets = screen.AddField("Form17.Text4", "42");
+  Field& pressure = screen.AddField("Form17.Text1", "42");
   program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(Value(program.Bytes(), "Number Nitrous Jets"), "42");
   EXPECT_EQ(Value(program.Bytes(), "Fuel Pressure"), "42");
-  shared.SetText("99999");
+  jets.SetText("99999");
+  pressure.SetText("99999");
   EXPECT_EQ(Value(program.Bytes(), "Number Nitrous Jets"), "0");
   EXPECT_EQ(Value(program.Bytes(), "Fuel Pressure"), "99999");
 }
