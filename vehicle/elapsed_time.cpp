@@ -104,15 +104,16 @@ double SixtyFootGs3110(double time) {
 }
 
 RunPowers RunPower(double weight, const std::array<double, kSplits>& times) {
-  constexpr std::array<double, kSplits + 1> kFeet{0, 60, 330, 660, 1000, 1320};
+  // Length of each part of the strip.
+  const std::array<double, kSplits> splitFeet{60, 330 - 60, 660 - 330, 1000 - 660, 1320 - 1000};
   const double mass = weight / kFeetASecondSquared;
   RunPowers powers;
   double sum = 0;
   int count = 0;
   double speedBefore = 0;
-  for (std::size_t i = 1; i <= kSplits; ++i) {
-    const double splitTime = times[i - 1] - (i == 1 ? 0 : times[i - 2]);
-    const double splitSpeed = (kFeet[i] - kFeet[i - 1]) / splitTime;
+  for (std::size_t i = 0; i < kSplits; ++i) {
+    const double splitTime = times[i] - (i == 0 ? 0 : times[i - 1]);
+    const double splitSpeed = splitFeet[i] / splitTime;
     const double splitAccel = (splitSpeed - speedBefore) / splitTime;
     const double power = splitAccel * mass * splitSpeed / kFootPoundsASecond;
     speedBefore = splitSpeed;

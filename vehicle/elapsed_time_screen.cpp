@@ -116,14 +116,16 @@ void Form3::ShowSpeeds(double mph) {
 
 void Form3::EstimateTime() {
   const double weightLb = ReadWeight();
-  const double elapsedTime = ElapsedTimeForPower(weightLb, ReadPower());
+  const double powerHp = ReadPower();
+  const double elapsedTime = ElapsedTimeForPower(weightLb, powerHp);
   Store(Text1, elapsedTime, {&Text5});
   Store(Text8, EighthMileTime(elapsedTime));
 }
 
 void Form3::EstimateSpeed(SpeedTrap trap) {
   const double weightLb = ReadWeight();
-  ShowSpeeds(TrapSpeedForPower(trap, weightLb, ReadPower()));
+  const double powerHp = ReadPower();
+  ShowSpeeds(TrapSpeedForPower(trap, weightLb, powerHp));
 }
 
 void Form3::EstimateSpeed66() {
