@@ -222,7 +222,7 @@ class Form3 : public Screen, public GearboxTaker {
       "Charged or Diesel.",
       &Form3::GenerateCurve};
 
-  Frame Frame3{*this, "Frame3", "60 Foot", 1};
+  Frame Frame3{*this, "Frame3", "60 Foot", 2};
   Field Text19{Frame3, "Text19", "60 Ft Time", "1.1133",
                Entry(KeyRule::UnsignedReal, Unit::Seconds,
                      Holds(&P::ET60).ShownAtOpening().ZeroKeepsText())};
