@@ -531,7 +531,7 @@ bool Screen::ShowsAtOpening(const Control& control) {
   return row != nullptr && (row->form == KeyForm::Number || row->form == KeyForm::Integer);
 }
 
-void Screen::ShowShared(Control& control, double number) const {
+void Screen::ShowShared(Control& control, double number) {
   if (number == 0 && HeldBy(control).zeroKeepsText()) return;
   if (control.kind() == ControlKind::ComboList) {
     static_cast<ComboList&>(control).ChooseNumber(number);
@@ -539,13 +539,34 @@ void Screen::ShowShared(Control& control, double number) const {
   }
   auto& field = static_cast<Field&>(control);
   const KeyRow* row = KeyOf(control);
-  const KeyForm form = row == nullptr ? KeyForm::Number : row->form;
-  if (form == KeyForm::Integer || form == KeyForm::IntegerOrField) {
-    field.SetText(FormatInt(number, mark()));
-  } else if (form == KeyForm::Table && row->tableForm == TableForm::Smart) {
-    field.SetText(FormatSmart(number, mark()));
-  } else {
-    field.SetText(FormatField(AsShown(field, number), mark()));
+  // A value whose key is a whole number has the text of the file, unless openers show it.
+  const bool isAsInFile = row != nullptr && row->form == KeyForm::IntegerOrField &&
+                          !ShowsAtOpening(control) && number == Floor(number);
+  const bool isCount = std::holds_alternative<std::int16_t*>(field.holds().In(block())) ||
+                       field.rule() == KeyRule::Digits || field.rule() == KeyRule::SignedDigits ||
+                       isAsInFile;
+  const bool isSmart = row != nullptr && row->tableForm == TableForm::Smart;
+  const NumberFormat format = isCount ? &FormatInt : isSmart ? &FormatSmart : &FormatField;
+  const std::string before = field.text();
+  field.SetText(format(AsShown(field, number), mark()));
+  if (metric() && field.conversion() != nullptr && field.text() != before) {
+    NoteShown(field, format(number, mark()), number);
+  }
+}
+
+void Screen::NoteShown(Field& field, std::string inUs, double number) {
+  auto text = std::find_if(lastSwitch_.texts.begin(), lastSwitch_.texts.end(),
+                           [&](const UnitSwitch::Text& t) { return t.field == &field; });
+  if (text == lastSwitch_.texts.end()) return;
+  text->before = std::move(inUs);
+  text->after = field.text();
+  // What is derived does not stand any more.
+  lastSwitch_.isWhole = false;
+  const Holds::Slot slot = field.holds().In(block());
+  auto* const* place = std::get_if<double*>(&slot);
+  if (place == nullptr) return;
+  for (UnitSwitch::Value& value : lastSwitch_.values) {
+    if (value.slot == *place) value = {*place, number, field.conversion()->toMetric(number)};
   }
 }
 
@@ -1010,7 +1031,7 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
     }
     made.values.push_back({value.slot, before, 0});
   }
-  const bool comesBack = lastSwitch_.Stands();
+  const bool comesBack = lastSwitch_.isWhole && lastSwitch_.Stands();
   const auto blockBefore = std::make_unique<ParameterBlock>(block());
   block().MetricSwitch = toMetric ? 1 : 0;
   block().MetricFactor = toMetric ? kMillimetresPerInch : 1 / kMillimetresPerInch;

@@ -575,7 +575,7 @@ class Screen {
   void CopyShared();
   /// Shows the shared value of a control, in this screen's units, as opening the screen does.
   /// @param number  the value in US units
-  void ShowShared(Control& control, double number) const;
+  void ShowShared(Control& control, double number);
   /// True for a control whose shared value opening the screen shows.
   static bool ShowsAtOpening(const Control& control);
   /// The place of the shared value that a control shows; null where it shows none.
@@ -745,6 +745,7 @@ class Screen {
     };
     std::vector<Text> texts;
     std::vector<Value> values;
+    bool isWhole = true;  ///< no field has been shown another value since
 
     const Text* Find(const Field* field) const;
     const Value* Find(const double* slot) const;
@@ -767,6 +768,8 @@ class Screen {
   std::string TextOf(const Field& field, double value) const;
   std::string SwitchedTextOf(const Field& field, double value) const;
   void ConvertValues(bool toMetric);
+  /// A metric screen shows a shared value, which has to come back to the last digit.
+  void NoteShown(Field& field, std::string inUs, double number);
   void TakeFocus(Control* control);
 
   ProgramContext& context_;

@@ -136,6 +136,7 @@ void WindowDriver::Set(TextControl& field, const std::string& text) {
   QWidget* widget = WidgetOf(field);
   if (widget == nullptr) {
     model_.Set(field, text);
+    Settle();  // the model may have asked for the focus
     return;
   }
   if (!Enter(field, *widget, Qt::OtherFocusReason)) return;
@@ -149,6 +150,7 @@ void WindowDriver::Type(Control& control, const std::vector<Key>& keys) {
   QWidget* widget = WidgetOf(control);
   if (widget == nullptr) {
     model_.Type(control, keys);
+    Settle();  // the model may have asked for the focus
     return;
   }
   // A field that has the focus is entered again: its text is selected as by a tab to it.
@@ -167,6 +169,7 @@ void WindowDriver::Leave(TextControl& field) {
   QWidget* widget = WidgetOf(field);
   if (widget == nullptr) {
     model_.Leave(field);
+    Settle();  // the model may have asked for the focus
     return;
   }
   if (field.screen().focus() != &field && !Enter(field, *widget, Qt::TabFocusReason)) return;
@@ -179,6 +182,7 @@ void WindowDriver::Press(Control& control, Key key) {
   QWidget* widget = control.enabled() ? WidgetOf(control) : nullptr;
   if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) {
     model_.Press(control, key);
+    Settle();  // the model may have asked for the focus
     return;
   }
   if ((control.screen().focus() != &control || !widget->hasFocus()) &&
@@ -193,6 +197,7 @@ void WindowDriver::Click(Control& control) {
   QWidget* widget = WidgetOf(control);
   if (widget == nullptr) {
     model_.Click(control);
+    Settle();  // the model may have asked for the focus
     return;
   }
   const QPoint at = HotSpot(*widget);
@@ -208,6 +213,7 @@ void WindowDriver::Select(ComboList& list, int row) {
   QWidget* widget = WidgetOf(list);
   if (widget == nullptr) {
     model_.Select(list, row);
+    Settle();  // the model may have asked for the focus
     return;
   }
   if (!Enter(list, *widget, Qt::OtherFocusReason)) return;

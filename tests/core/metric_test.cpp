@@ -173,6 +173,23 @@ TEST_F(MetricTest, AScreenThatIsAlwaysMetricHandsOverInches) {
   EXPECT_EQ(second_.Text1.text(), "3.110236");
 }
 
+TEST_F(MetricTest, WhatAnOpenerShowsInMillimetresComesBackToTheLastDigit) {
+  shell_.Open(first_);
+  first_.Check1.Click();
+  context_->HandOver(nullptr);
+  for (const double bore : {4.0069961, 0.1, 92.5196851, 3.3333333333}) {
+    context_->block.Bore = bore;
+    shell_.Open(first_);
+    first_.Check1.Click();
+    EXPECT_EQ(context_->block.Bore, bore);
+    EXPECT_EQ(first_.Text1.text(), FormatField(bore, DecimalMark::Point));
+    EXPECT_EQ(first_.Text3.text(), FormatField(ParseNumber(first_.Text1.text(), DecimalMark::Point),
+                                               DecimalMark::Point));  // worked out anew
+    first_.Check1.Click();
+    context_->HandOver(nullptr);
+  }
+}
+
 TEST_F(MetricTest, WhatNoCommandHasReadReachesNoOtherScreen) {
   shell_.Open(first_);
   first_.Check1.Click();

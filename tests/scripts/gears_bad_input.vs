@@ -81,13 +81,11 @@ set Form5.Text43 2050.5
 click Form5.Command22
 show Form5.Text58
 press Form5.Text58 x
-hover Form5.Command22
 set Form5.Text42 30
 set Form5.Text43 30
 click Form5.Command22
 show Form5.Text58
 press Form5.Text58 x
-hover Form5.Command22
 set Form5.Text44 0
 click Form5.Command22
 set Form5.Text44 1
