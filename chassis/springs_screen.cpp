@@ -1,5 +1,7 @@
 #include "chassis/springs_screen.h"
 
+#include <cmath>
+
 namespace veldox {
 
 namespace {
@@ -88,7 +90,7 @@ void Form16::SolveLeafSpringRate() {
 
 void Form16::ShowSwayBarRate(Field& rate, double outDiameter) {
   const ParameterBlock& b = block();
-  Require(b.SwayBarIntDiameter <= outDiameter, Text11, kHoleTooWide);
+  Require(std::abs(b.SwayBarIntDiameter) <= std::abs(outDiameter), Text11, kHoleTooWide);
   const SwayBar bar{outDiameter, b.SwayBarIntDiameter, b.SwayBarCenterLength, b.SwayBarArmLength,
                     b.EffectiveArmLength};
   const SwayBarRule rule = Option1.chosen() == 0 ? SwayBarRule::Old : SwayBarRule::New;

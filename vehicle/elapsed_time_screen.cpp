@@ -286,8 +286,8 @@ void Form3::ShowRunPower(const Run& run, double weightLb) {
   for (std::size_t i = 0; i < kSplits; ++i) {
     Field& field = *run.times[i];
     times[i] = Read(field);
-    Require(i > 0 || times[i] > 0, field, "must be greater than 0.");
-    Require(i == 0 || times[i] > times[i - 1], field, "must be later than the time before it.");
+    Require(i > 0 || times[i] != 0, field, "must not be 0.");
+    Require(i == 0 || times[i] != times[i - 1], field, "must differ from the time before it.");
   }
   const RunPowers powers = RunPower(weightLb, times);
   ShowAs<".00">(*run.peak, powers.peak, {&Text2});

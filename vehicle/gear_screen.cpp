@@ -341,9 +341,10 @@ void Form5::TabulateLapSpeed() {
   ReadFields({&Text31, &Text44, &Text42, &Text43});
   const ParameterBlock& b = block();
   const LapChart chart{b.TrackSize, b.StartSeconds, b.EndSeconds, b.EveryXSeconds};
-  Require(chart.everySeconds > 0, Text44, "must be greater than 0 for a chart.");
+  Require(chart.everySeconds != 0, Text44, "must be greater than 0 for a chart.");
   std::string report = LapChartErrors(chart, mark());
   if (report.empty()) {
+    Require(chart.everySeconds > 0, Text44, "must be greater than 0 for a chart.");
     Require(chart.startSeconds > 0, Text42, "must be greater than 0 for a chart.");
     report = BuildReport([&] { return LapChartReport(chart, mark()); },
                          "The chart cannot be computed: a number of it is too large.");
