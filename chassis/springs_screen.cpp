@@ -71,7 +71,8 @@ TorsionBar Form16::Torsion() const {
 
 void Form16::SolveTorsionBarRate() {
   ReadSpringFields();
-  Require(block().TorsionBarIntDiameter <= block().TorsionBarDiameter, Text25, kHoleTooWide);
+  Require(std::abs(block().TorsionBarIntDiameter) <= std::abs(block().TorsionBarDiameter), Text25,
+          kHoleTooWide);
   Store(Text9, TorsionBarRate(Torsion()), {&Text8, &Text6});
 }
 
