@@ -157,6 +157,7 @@ WeatherChange Form7::ReadJetWeather() {
 
 void Form7::RequireRodInJet() {
   const ParameterBlock& b = block();
+  Require(b.MeteringRodSize >= 0, Text21, "must not be negative for this command.");
   Require(b.MeteringRodSize <= b.JetSize, Text21, "must not be thicker than the Jet.");
 }
 

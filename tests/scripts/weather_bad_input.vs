@@ -188,3 +188,12 @@ set Form7.Text10 1e300
 click Form7.Command12
 messages
 get Form7.Text43
+pause a rod of less than nothing
+set Form7.Text10 29.92
+set Form7.Text12 5.0
+set Form7.Text21 -0.05
+click Form7.Command7
+click Form7.Command13
+click Form7.Command12
+get Form7.Text22
+messages
