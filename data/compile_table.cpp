@@ -277,6 +277,10 @@ class Table {
     }
   }
 
+  [[noreturn]] void FailOfWord(const std::string& what, const std::string& word) const {
+    Fail(what + ": \"" + word + "\" is not a number");
+  }
+
   void CheckNumbers(const std::string& what, const std::vector<std::string>& words,
                     const ColumnRule& rule) const {
     constexpr std::size_t kFewest = 2;
@@ -286,7 +290,7 @@ class Table {
     }
     for (const std::string& word : words) {
       double value = 0;
-      if (!ReadNumber(word, value)) Fail(what + ": \"" + word + "\" is not a number");
+      if (!ReadNumber(word, value)) FailOfWord(what, word);
       if (!(value >= rule.least && value <= rule.most)) Fail(what + " is out of range");
     }
   }
