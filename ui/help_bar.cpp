@@ -242,7 +242,7 @@ void ReportPanel::SaveAsPdf() {
     const auto path =
         host.AskFile({FileDialog::Kind::Save, "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*", 1,
                       host.ProgramFolder()});
-    if (path) SaveFile(*path, PagesAsPdf(PageJob::Report, box_.Pages()));
+    if (path) SaveFile(*path, host.PagesAsPdf(PageJob::Report, box_.Pages()));
   });
 }
 

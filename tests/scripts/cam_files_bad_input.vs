@@ -20,9 +20,6 @@ messages
 file cams/short_header.c2
 menu Cx_File
 messages
-file cams/not_there.cmm
-menu Cx_File
-messages
 file cancel
 menu Cx_File
 messages
