@@ -13,7 +13,7 @@
 namespace veldox::testing {
 namespace {
 
-constexpr int kDotsPerInch = 600;
+constexpr int kDotsPerInch = 300;
 constexpr int kTwipsPerInch = 1440;
 
 class TimingTapeWindowTest : public WindowTest {
