@@ -132,7 +132,7 @@ bool Shell::MenuEnabled(const MenuItem& item) {
       if (item.action == &Shell::LrgScrRes || item.action == &Shell::FullScrRes) {
         return scaling_.detected();
       }
-      return item.action != nullptr;
+      return item.action != nullptr || works_.contains(item.name);
     case MenuKind::Submenu:
       return std::any_of(Menu().begin(), Menu().end(), [&](const MenuItem& child) {
         return child.parent == item.name && MenuEnabled(child);
@@ -153,8 +153,10 @@ void Shell::Choose(const MenuItem& item) {
     Open(*screen);
   } else if (item.kind == MenuKind::PrintScreen) {
     Perform([&] { printing.PrintScreen(std::string(item.screen)); });
-  } else {
+  } else if (item.action != nullptr) {
     Perform([&] { (this->*item.action)(); });
+  } else {
+    Perform(works_.find(item.name)->second);
   }
 }
 

@@ -126,11 +126,13 @@ void MainWindow::BuildPages() {
 }
 
 QWidget* MainWindow::BuildPanel(PanelFace& panel) {
-  const auto& inside = panel.frame().controls();
-  const bool takesAllRoom = std::any_of(inside.begin(), inside.end(), [](const Control* control) {
+  // A text takes all the room there is; fields stand close together.
+  const auto& controls = panel.frame().controls();
+  const bool holdsText = std::any_of(controls.begin(), controls.end(), [](const Control* control) {
     return control->kind() == ControlKind::TextArea;
   });
-  if (takesAllRoom) return new FramePanel(faces_, panel.frame(), {}, pages_);
+  if (panel.frames().size() == 1 && holdsText)
+    return new FramePanel(faces_, panel.frame(), {}, pages_);
   auto* scroll = new FlowScroll(pages_);
   auto* body = new ColumnFlow(0, kMargin, scroll);
   for (QWidget* column : BuildFrameColumns(faces_, panel.frames(), {}, kMargin, body)) {

@@ -229,8 +229,12 @@ PlainColors QtHost::OwnColors() {
           FromQColor(palette.color(QPalette::ButtonText))};
 }
 
-std::unique_ptr<PageSurface> QtHost::OpenPrinter() {
-  return OpenPrinterByDialog(QApplication::activeWindow());
+std::unique_ptr<PageSurface> QtHost::OpenPrinter(PageJob job) {
+  return OpenPrinterByDialog(job, QApplication::activeWindow());
+}
+
+void QtHost::PreviewPages(PageJob job, const PageDrawing& draw) {
+  PreviewByDialog(job, draw, QApplication::activeWindow());
 }
 
 void QtHost::PrintGraph() {

@@ -16,7 +16,8 @@ class QtHost : public Host {
   std::filesystem::path ProgramFolder() override;
   ScreenSize MeasureScreen() override;
   PlainColors OwnColors() override;
-  std::unique_ptr<PageSurface> OpenPrinter() override;
+  std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override;
+  void PreviewPages(PageJob job, const PageDrawing& draw) override;
   void PrintGraph() override;
   void PrintWindow(const std::string& screen) override;
   void SetUpPrinter() override;
