@@ -87,6 +87,26 @@ void CellEdit::LeaveRight(int pixels) {
   if (textMargins().right() != right) setTextMargins(kSideMargin, 0, right, 0);
 }
 
+void CellEdit::SetDimmed(bool dimmed) {
+  if (dimmed == dimmed_) return;
+  dimmed_ = dimmed;
+  ShowInk();
+}
+
+void CellEdit::ShowInk() {
+  QPalette ink;
+  if (dimmed_) {
+    ink.setColor(QPalette::Text, QApplication::palette(this).color(QPalette::PlaceholderText));
+  }
+  setPalette(ink);
+}
+
+bool CellEdit::event(QEvent* event) {
+  // A palette of its own does not follow the desktop's.
+  if (event->type() == QEvent::ApplicationPaletteChange && dimmed_) ShowInk();
+  return FieldEdit::event(event);
+}
+
 void CellEdit::keyPressEvent(QKeyEvent* event) {
   if (table_.TakeKey(*this, static_cast<Field&>(field()), *event)) {
     event->accept();
@@ -282,6 +302,16 @@ void TableFace::Refresh() {
       shown = shown || (cell != nullptr && cell->visible());
     }
     rowLabels_[static_cast<std::size_t>(row)]->setVisible(shown);
+    DimRow(row);
+  }
+}
+
+void TableFace::DimRow(int row) {
+  const bool dimmed = table_.IsDimmed(row);
+  rowLabels_[static_cast<std::size_t>(row)]->setForegroundRole(dimmed ? QPalette::PlaceholderText
+                                                                      : QPalette::WindowText);
+  for (int column = 0; column < table_.columns(); ++column) {
+    if (CellEdit* edit = EditOf(table_.Cell(row, column))) edit->SetDimmed(dimmed);
   }
 }
 
