@@ -41,6 +41,15 @@ class RowsScroll : public QScrollArea {
   QSize minimumSizeHint() const override { return Sized(std::min(rows_, kLeastRows)); }
   int rowsInSight() const { return std::max(1, viewport()->height() / RowHeight()); }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // More height than all rows take would part the table from what stands below it.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+      setMaximumHeight(widget()->sizeHint().height());
+    }
+    return QScrollArea::eventFilter(watched, event);
+  }
+
  private:
   int RowHeight() const {
     const int all = widget() == nullptr ? 0 : widget()->sizeHint().height();
@@ -103,7 +112,7 @@ void CellEdit::ShowInk() {
 
 bool CellEdit::event(QEvent* event) {
   // A palette of its own does not follow the desktop's.
-  if (event->type() == QEvent::ApplicationPaletteChange && dimmed_) ShowInk();
+  if (event->type() == QEvent::PaletteChange && dimmed_) ShowInk();
   return FieldEdit::event(event);
 }
 
@@ -169,7 +178,9 @@ TableFace::TableFace(FaceSet& set, Table& table, QWidget* parent)
   auto* pile = new QVBoxLayout(widget());
   pile->setContentsMargins(0, 0, 0, 0);
   pile->setSpacing(2);
+  pile->setSizeConstraint(QLayout::SetMinAndMaxSize);
   BuildHeads(*heads_);
+  heads_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   auto* rows = new QWidget(scroll_);
   BuildRows(*rows);
   scroll_->setWidget(rows);
