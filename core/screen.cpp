@@ -74,6 +74,7 @@ void Control::AppendReadingOrder(std::vector<Control*>& order) {
 
 void Control::Changed() {
   if (face_ != nullptr) face_->ControlChanged(*this);
+  for (const auto& follow : followers_) follow();
 }
 
 void Control::NoteChange() const {
@@ -661,7 +662,8 @@ void Screen::Report(const CommandError& error) {
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   if (error.control() != nullptr) {
     error.control()->SetMark(Mark::Error);
-    error.control()->Focus();
+    // Under a panel it would hold the keyboard where nobody can type.
+    if (error.control()->Reachable()) error.control()->Focus();
   }
 }
 
@@ -876,7 +878,7 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
 
 void Screen::FailAt(Field& field, std::string message) {
   field.SetMark(Mark::Error);
-  field.Focus();
+  if (field.Reachable()) field.Focus();
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "airfuel/airflow_screen.h"
 #include "airfuel/nitrous_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
@@ -35,6 +36,7 @@ Program::Program(Host& host)
   AddScreen<Form9>();
   AddScreen<Form10>();
   AddScreen<Form17>();
+  AddScreen<Form4>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
   auto& elapsedTime = AddScreen<Form3>();
