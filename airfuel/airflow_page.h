@@ -229,39 +229,6 @@ class AirflowPage : public ScreenPart {
                     "Diameter.",
                     Runs(&AirflowPage::SizeFoamFilter)};
 
-  Frame Frame4{Frame1, "Frame4", "Air Flow Conversion", 2};
-  Field Text15{Frame4, "Text15", "Old Depression", "5.0",
-               Entry(KeyRule::UnsignedReal, Holds(&P::OldDepression), LeaveCheck::HasDigits)};
-  OptionGroup Option3{Frame4,
-                      "Option3",
-                      "",
-                      {{0, "Inch Water", "The old depression is in inches of water."},
-                       {1, "mm Water",
-                        "The old depression is in millimeters of water; the new one is in inches "
-                        "all the same."}},
-                      0,
-                      2};
-  Field Text16{Frame4, "Text16", "New Depression", "28.0",
-               Entry(KeyRule::UnsignedReal, Unit::InchesWater, Holds(&P::NewDepression),
-                     LeaveCheck::HasDigits)};
-  Field Text17{Frame4, "Text17", "Old Air Flow", "105.0",
-               Entry(KeyRule::UnsignedReal, Holds(&P::OldAirFlow), LeaveCheck::HasDigits)};
-  OptionGroup Option4{Frame4,
-                      "Option4",
-                      "",
-                      {{0, "CFM", "The old flow is in cubic feet in a minute."},
-                       {1, "M^3/s",
-                        "The old flow is in cubic meters in a second; the new one is in CFM all "
-                        "the same."}},
-                      0,
-                      2};
-  Field Text18{Frame4, "Text18", "New Air Flow", "248.475",
-               Entry(KeyRule::OutputOnly, Unit::CubicFeetPerMinute, Holds().Pattern<".000">())};
-  Command Command1{Frame4, "Command1", "Convert &Airflow",
-                   "Convert Airflow from one Depression to a different Depression Using Old "
-                   "Depression, New Depression, and Old AirFlow.",
-                   Runs(&AirflowPage::ConvertAirflow)};
-
   Frame Frame13{Frame1, "Frame13", "Mass Air Flow", 3};
   Field Text71{
       Frame13, "Text71", "Inlet Temperature", "104.0",
@@ -341,6 +308,39 @@ class AirflowPage : public ScreenPart {
       "Calculate Mass Fuel Flow Using Air Fuel Ratio / Lambda Value. -- Calculate Dyno UNcorrected "
       "HP Using BSFC.",
       Runs(&AirflowPage::ReportDyno)};
+
+  Frame Frame4{Frame1, "Frame4", "Air Flow Conversion", 3};
+  Field Text15{Frame4, "Text15", "Old Depression", "5.0",
+               Entry(KeyRule::UnsignedReal, Holds(&P::OldDepression), LeaveCheck::HasDigits)};
+  OptionGroup Option3{Frame4,
+                      "Option3",
+                      "",
+                      {{0, "Inch Water", "The old depression is in inches of water."},
+                       {1, "mm Water",
+                        "The old depression is in millimeters of water; the new one is in inches "
+                        "all the same."}},
+                      0,
+                      2};
+  Field Text16{Frame4, "Text16", "New Depression", "28.0",
+               Entry(KeyRule::UnsignedReal, Unit::InchesWater, Holds(&P::NewDepression),
+                     LeaveCheck::HasDigits)};
+  Field Text17{Frame4, "Text17", "Old Air Flow", "105.0",
+               Entry(KeyRule::UnsignedReal, Holds(&P::OldAirFlow), LeaveCheck::HasDigits)};
+  OptionGroup Option4{Frame4,
+                      "Option4",
+                      "",
+                      {{0, "CFM", "The old flow is in cubic feet in a minute."},
+                       {1, "M^3/s",
+                        "The old flow is in cubic meters in a second; the new one is in CFM all "
+                        "the same."}},
+                      0,
+                      2};
+  Field Text18{Frame4, "Text18", "New Air Flow", "248.475",
+               Entry(KeyRule::OutputOnly, Unit::CubicFeetPerMinute, Holds().Pattern<".000">())};
+  Command Command1{Frame4, "Command1", "Convert &Airflow",
+                   "Convert Airflow from one Depression to a different Depression Using Old "
+                   "Depression, New Depression, and Old AirFlow.",
+                   Runs(&AirflowPage::ConvertAirflow)};
 };
 
 }  // namespace veldox

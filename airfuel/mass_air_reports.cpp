@@ -93,7 +93,7 @@ std::vector<double> DivisorsOf(double centre, const ReportRange& range, ReportAx
   std::vector<double> values = ValuesOf(centre, range, axis);
   for (const double value : values) {
     if (std::abs(value) < kNothing) {
-      throw ReportFault{axis, ErrorKind::DivisionByZero, values.size() == 1 ? kIsZero : kMeetsZero};
+      throw ReportFault{axis, ErrorKind::DivisionByZero, centre == 0 ? kIsZero : kMeetsZero};
     }
   }
   return values;

@@ -692,14 +692,23 @@ void Screen::TakeFocus(Control* control) {
   block().OptionFieldActive = field != nullptr && field->isOption() ? 1 : 0;
 }
 
+namespace {
+
+/// False where a field keeps the keyboard. One that a panel lies over cannot.
+bool MayLeave(Control* focus) {
+  auto* field = dynamic_cast<TextControl*>(focus);
+  return field == nullptr || !field->Reachable() || field->Leave();
+}
+
+}  // namespace
+
 bool Screen::MoveFocus(Control* control) {
   if (focus_ == control) return true;
   // What closes works always, and leaves a field as it stands.
   const auto* command = dynamic_cast<const Command*>(control);
   const bool closes =
       command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
-  auto* left = dynamic_cast<TextControl*>(focus_);
-  if (left != nullptr && !closes && !left->Leave()) return false;
+  if (!closes && !MayLeave(focus_)) return false;
   TakeFocus(control);
   return true;
 }
@@ -776,10 +785,7 @@ Command* Screen::NextCalculation() {
 bool Screen::CalculateAgain() {
   Command* command = NextCalculation();
   if (command == nullptr) return false;
-  if (auto* field = dynamic_cast<TextControl*>(focus_); field != nullptr && !field->Leave()) {
-    return false;
-  }
-  return command->Click();
+  return MayLeave(focus_) && command->Click();
 }
 
 void Screen::PutAwayPanel() {
