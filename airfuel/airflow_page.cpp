@@ -149,18 +149,18 @@ InletAir AirflowPage::ReadMassAirInputs() {
   ReadFields({&Text71, &Text79});
   const ParameterBlock& b = block();
   const InletAir air = InletAirOf(b.Temperature, b.BarometricPressure, b.BlowerPressure);
-  Require(air.kelvin > 0, Text71, kBelowAbsoluteZero);
+  Require(air.AirDensityK > 0, Text71, kBelowAbsoluteZero);
   return air;
 }
 
 double AirflowPage::SweptAir() const {
-  return SweptCubicMetresPerSecond(block().CubicInches, block().RPM);
+  return SweptM3PerSec(block().CubicInches, block().RPM);
 }
 
 void AirflowPage::SolveMassAirFlow() {
   const InletAir air = ReadMassAirInputs();
   const ParameterBlock& b = block();
-  const double kilograms = AirKilogramsPerSecond(SweptAir(), air, b.VolumetricEfficiency);
+  const double kilograms = AirKgPerSec(SweptAir(), air, b.VolumetricEfficiency);
   Show(Text80, kilograms);
   Store(Text81, PoundsPerHourOf(kilograms));
   Show(Text69, b.MassAirFlow / b.AirFuelRatio, {&Text30});

@@ -31,7 +31,7 @@ void InjectorPanel::ShowInjectorConversions() {
 }
 
 void InjectorPanel::CheckPulseWidth() const {
-  if (CycleMilliseconds(block().RPM) <= block().PulseWidth) Warn(PulseWarning);
+  if (CycleMs(block().RPM) <= block().PulseWidth) Warn(PulseWarning);
 }
 
 InjectedEngine InjectorPanel::EngineOfPage() const {

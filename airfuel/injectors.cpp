@@ -23,7 +23,7 @@ constexpr std::array<double, 15> kStandardRatings{14, 17, 19, 21, 24,  30,  32, 
 
 }  // namespace
 
-double CycleMilliseconds(double rpm) {
+double CycleMs(double rpm) {
   return 1 / (rpm / 60) * 2 * 1000;
 }
 

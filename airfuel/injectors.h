@@ -10,7 +10,7 @@ namespace veldox {
 inline constexpr double kThrottleBodyFactor = 1.17177;
 
 /// How long one cycle of a four-stroke engine takes, in milliseconds: two revolutions.
-double CycleMilliseconds(double rpm);
+double CycleMs(double rpm);
 
 /// The same as pulse width and duty cycle go by it.
 double FullPulse(double rpm);

@@ -36,12 +36,12 @@ InletAir InletAirOf(double fahrenheit, double inchesMercury, double boost) {
           (inchesMercury * kPsiPerInchMercury + boost) * kKilopascalPerPsi * 1000};
 }
 
-double SweptCubicMetresPerSecond(double cubicInches, double rpm) {
+double SweptM3PerSec(double cubicInches, double rpm) {
   return cubicInches * rpm / kSweptPerCubicFoot * kCcPerCubicFoot / 60000000;
 }
 
-double AirKilogramsPerSecond(double swept, const InletAir& air, double volumetricEfficiency) {
-  return swept * air.pascal / (kGasConstantOfAir * air.kelvin) * volumetricEfficiency;
+double AirKgPerSec(double swept, const InletAir& air, double volumetricEfficiency) {
+  return swept * air.AirPressurePa / (kGasConstantOfAir * air.AirDensityK) * volumetricEfficiency;
 }
 
 double PoundsPerHourOf(double kilogramsPerSecond) {
@@ -54,13 +54,13 @@ double KilogramsPerSecondOf(double poundsPerHour) {
 
 double VolumetricEfficiencyOf(double poundsPerHour, double swept, const InletAir& air) {
   return KilogramsPerSecondOf(poundsPerHour) /
-         (swept * air.pascal / (kGasConstantOfAir * air.kelvin));
+         (swept * air.AirPressurePa / (kGasConstantOfAir * air.AirDensityK));
 }
 
 double RpmOfMassAirFlow(double poundsPerHour, double cubicInches, double volumetricEfficiency,
                         const InletAir& air) {
   return (KilogramsPerSecondOf(poundsPerHour) / volumetricEfficiency * kGasConstantOfAir *
-          air.kelvin / air.pascal * 1000000 * 60) /
+          air.AirDensityK / air.AirPressurePa * 1000000 * 60) /
          (cubicInches * kCcPerCubicFoot / kSweptPerCubicFoot);
 }
 

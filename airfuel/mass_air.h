@@ -20,8 +20,8 @@ constexpr double AirFuelRatioOf(double lambdaOrRatio, double stoichiometric) {
 
 /// The air in the inlet.
 struct InletAir {
-  double kelvin;
-  double pascal;  ///< absolute
+  double AirDensityK;    ///< temperature, in kelvin
+  double AirPressurePa;  ///< absolute, in pascal
 };
 
 /// The air in the inlet of an engine.
@@ -31,12 +31,12 @@ struct InletAir {
 InletAir InletAirOf(double fahrenheit, double inchesMercury, double boost);
 
 /// Cubic metres of air in a second that a four-stroke engine sweeps.
-double SweptCubicMetresPerSecond(double cubicInches, double rpm);
+double SweptM3PerSec(double cubicInches, double rpm);
 
 /// Kilograms of air in a second.
 /// @param swept  cubic metres in a second
 /// @param volumetricEfficiency  a fraction
-double AirKilogramsPerSecond(double swept, const InletAir& air, double volumetricEfficiency);
+double AirKgPerSec(double swept, const InletAir& air, double volumetricEfficiency);
 
 /// Pounds in an hour of a flow of kilograms in a second, and the reverse.
 double PoundsPerHourOf(double kilogramsPerSecond);

@@ -180,9 +180,9 @@ class GridWriter : public ReportWriter {
   /// @param finishRow  writes the columns behind the air, which it is told in pounds an hour
   template <class FinishRow>
   void Rows(double rpm, const FinishRow& finishRow) {
-    const double swept = SweptCubicMetresPerSecond(values_.cubicInches, rpm);
+    const double swept = SweptM3PerSec(values_.cubicInches, rpm);
     for (const double efficiency : efficiencies_) {
-      const double kilograms = AirKilogramsPerSecond(swept, values_.air, efficiency);
+      const double kilograms = AirKgPerSec(swept, values_.air, efficiency);
       const double pounds = PoundsPerHourOf(kilograms);
       Add<".0000">(efficiency, 7).Add<".0000">(kilograms, 8).Add<".000">(pounds, 10);
       finishRow(pounds);
@@ -224,8 +224,8 @@ class GridWriter : public ReportWriter {
 
 DynoPoint DynoPointAt(const MassAirValues& values, double rpm, double volumetricEfficiency) {
   DynoPoint point{};
-  point.poundsOfAir = PoundsPerHourOf(AirKilogramsPerSecond(
-      SweptCubicMetresPerSecond(values.cubicInches, rpm), values.air, volumetricEfficiency));
+  point.poundsOfAir = PoundsPerHourOf(
+      AirKgPerSec(SweptM3PerSec(values.cubicInches, rpm), values.air, volumetricEfficiency));
   point.poundsOfFuel = point.poundsOfAir / values.airFuelRatio;
   point.horsepower = point.poundsOfFuel / values.bsfc;
   return point;

@@ -6,16 +6,16 @@ namespace veldox {
 namespace {
 
 TEST(Cycle, IsTwoRevolutions) {
-  EXPECT_DOUBLE_EQ(CycleMilliseconds(6000), 20);
+  EXPECT_DOUBLE_EQ(CycleMs(6000), 20);
   EXPECT_DOUBLE_EQ(FullPulse(6000), 20);
 }
 
 TEST(Cycle, OfAFullDutyMeetsItsPulseAtSomeSpeedsOnly) {
   for (const double rpm : {1500.0, 3000.0, 6000.0, 7500.0, 12000.0}) {
-    EXPECT_LE(CycleMilliseconds(rpm), FullPulse(rpm)) << rpm;
+    EXPECT_LE(CycleMs(rpm), FullPulse(rpm)) << rpm;
   }
   // The pulse is the last digit short of 15.
-  EXPECT_EQ(CycleMilliseconds(8000), 15);
+  EXPECT_EQ(CycleMs(8000), 15);
   EXPECT_LT(FullPulse(8000), 15);
 }
 

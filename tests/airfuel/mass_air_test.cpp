@@ -43,18 +43,18 @@ TEST(AirFuelRatio, IsLambdaUpToOneAndAHalf) {
 
 TEST(InletAir, HasTheDensityOfTheStandardAtmosphere) {
   const InletAir air = InletAirOf(59, 29.92126, 0);
-  EXPECT_NEAR(air.kelvin, 288.15, 1e-10);
-  EXPECT_NEAR(air.pascal / 101325, 1, 1e-4);
+  EXPECT_NEAR(air.AirDensityK, 288.15, 1e-10);
+  EXPECT_NEAR(air.AirPressurePa / 101325, 1, 1e-4);
   // A swept cubic metre in a second weighs 1.2250 kg at sea level.
-  EXPECT_NEAR(AirKilogramsPerSecond(1, air, 1), 1.2250, 1.2250 * 2e-4);
+  EXPECT_NEAR(AirKgPerSec(1, air, 1), 1.2250, 1.2250 * 2e-4);
   // Under an atmosphere of boost twice that.
-  EXPECT_NEAR(AirKilogramsPerSecond(1, InletAirOf(59, 29.92126, 14.69595), 1), 2.45, 2.45 * 2e-4);
+  EXPECT_NEAR(AirKgPerSec(1, InletAirOf(59, 29.92126, 14.69595), 1), 2.45, 2.45 * 2e-4);
 }
 
 TEST(SweptAir, IsAThousandCubicFeetOfAnEngineOfATenthOfTheConstant) {
   // 1000 CFM in cubic metres a second
   const double thousand = 1000 * 0.3048 * 0.3048 * 0.3048 / 60;
-  EXPECT_NEAR(SweptCubicMetresPerSecond(345.6, 10000) / thousand, 1, 1e-8);
+  EXPECT_NEAR(SweptM3PerSec(345.6, 10000) / thousand, 1, 1e-8);
 }
 
 TEST(StandardAir, IsDryAirOfSixtyDegrees) {
@@ -68,8 +68,8 @@ TEST(MassAirFlow, IsSolvedBackForEfficiencyAndSpeed) {
   for (const double fahrenheit : {-20.0, 59.0, 118.5}) {
     for (const double boost : {0.0, 18.5}) {
       const InletAir air = InletAirOf(fahrenheit, 29.1, boost);
-      const double swept = SweptCubicMetresPerSecond(350, 6200);
-      const double pounds = PoundsPerHourOf(AirKilogramsPerSecond(swept, air, 0.93));
+      const double swept = SweptM3PerSec(350, 6200);
+      const double pounds = PoundsPerHourOf(AirKgPerSec(swept, air, 0.93));
       EXPECT_NEAR(VolumetricEfficiencyOf(pounds, swept, air), 0.93, 1e-14);
       EXPECT_NEAR(RpmOfMassAirFlow(pounds, 350, 0.93, air), 6200, 1e-9);
       EXPECT_NEAR(PoundsPerHourOf(KilogramsPerSecondOf(pounds)), pounds, 1e-9);
