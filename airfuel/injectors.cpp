@@ -17,7 +17,7 @@ constexpr double kPoundsPerGallon = 6.2;
 /// Cubic feet that a pound of air fills.
 constexpr double kCubicFeetPerPound = 13.7;
 
-/// The ratings under which most injectors of gasoline engines are sold, in pounds an hour.
+/// Ratings that catalogues of injectors for gasoline engines commonly list, in pounds an hour.
 constexpr std::array<double, 15> kStandardRatings{14, 17, 19, 21, 24,  30,  32, 36,
                                                   39, 42, 60, 80, 120, 160, 220};
 
