@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "core/numbers.h"
+#include "core/text.h"
 
 namespace veldox {
 
@@ -420,17 +421,17 @@ constexpr KeyRow kTable[] = {
     Key("Diameter 1", KeyForm::NumberOrField, &P::Diameter1, "Form11"),
     Key("Diameter 3", KeyForm::NumberOrField, &P::Diameter3, "Form11"),
     Comment(";   2 stroke Port Timing Form"),
-    Key("2 S Exhaust Distance", KeyForm::NumberOrField, &P::TwoSExhaustDistance, "Form18"),
-    Key("2 S Boost Distance", KeyForm::NumberOrField, &P::TwoSBoostDistance, "Form18"),
-    Key("2 S Transfer Distance", KeyForm::NumberOrField, &P::TwoSTransferDistance, "Form18"),
-    Key("2 S Exhaust Degrees", KeyForm::NumberOrField, &P::TwoSExhaustDegrees, "Form18"),
-    Key("2 S Boost Degrees", KeyForm::NumberOrField, &P::TwoSBoostDegrees, "Form18"),
-    Key("2 S Transfer Degrees", KeyForm::NumberOrField, &P::TwoSTransferDegrees, "Form18"),
-    Key("2 S Exhaust Port Area", KeyForm::FieldText, &P::TwoSExhaustPortArea, "Form18"),
-    Key("2 S Boost Port Area", KeyForm::FieldText, &P::TwoSBoostPortArea, "Form18"),
-    Key("2 S Transfer Port Area", KeyForm::FieldText, &P::TwoSTransferPortArea, "Form18"),
-    Key("Squish Ratio", KeyForm::FieldText, &P::SquishRatio, "Form18"),
-    Key("Squish Clearance", KeyForm::FieldText, &P::SquishClearance, "Form18"),
+    Key("2 S Exhaust Distance", KeyForm::NumberOrField, &P::TwoSExhaustDistance, "Form18.Text48"),
+    Key("2 S Boost Distance", KeyForm::NumberOrField, &P::TwoSBoostDistance, "Form18.Text8"),
+    Key("2 S Transfer Distance", KeyForm::NumberOrField, &P::TwoSTransferDistance, "Form18.Text13"),
+    Key("2 S Exhaust Degrees", KeyForm::NumberOrField, &P::TwoSExhaustDegrees, "Form18.Text47"),
+    Key("2 S Boost Degrees", KeyForm::NumberOrField, &P::TwoSBoostDegrees, "Form18.Text9"),
+    Key("2 S Transfer Degrees", KeyForm::NumberOrField, &P::TwoSTransferDegrees, "Form18.Text14"),
+    Key("2 S Exhaust Port Area", KeyForm::FieldText, &P::TwoSExhaustPortArea, "Form18.Text23"),
+    Key("2 S Boost Port Area", KeyForm::FieldText, &P::TwoSBoostPortArea, "Form18.Text24"),
+    Key("2 S Transfer Port Area", KeyForm::FieldText, &P::TwoSTransferPortArea, "Form18.Text25"),
+    Key("Squish Ratio", KeyForm::FieldText, &P::SquishRatio, "Form18.Text37"),
+    Key("Squish Clearance", KeyForm::FieldText, &P::SquishClearance, "Form18.Text38"),
     Comment(";   Nitrous"),
     Key("Fuel Pressure", KeyForm::NumberOrField, &P::FuelPressure, "Form17.Text1"),
     Key("Nitrous Pressure", KeyForm::NumberOrField, &P::NitrousPressure, "Form17.Text2"),
@@ -517,14 +518,6 @@ constexpr KeyRow kTable[] = {
     Key("Print Heads", KeyForm::OnOff, &P::PrintHeads, "Main.Print_CI"),
 };
 // clang-format on
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  });
-  return lower;
-}
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
 #include "reference/weather_screen.h"
+#include "twostroke/port_timing_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
 #include "vehicle/gearbox_finder_screen.h"
@@ -26,13 +27,16 @@ S& Program::AddScreen(Arguments&&... arguments) {
 }
 
 Program::Program(Host& host)
-    : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
+    : context_(std::make_unique<ProgramContext>(host)),
+      shell_(std::make_unique<Shell>(*context_)),
+      camFiles_(std::make_unique<CamFiles>(*context_)) {
   grapher_ = &AddScreen<Form8>();
   auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();
   AddScreen<Form17>();
