@@ -671,6 +671,13 @@ std::string NameInMessages(const Control& control) {
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
 }
 
+/// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
+/// could type there.
+void MarkFault(Control& control) {
+  control.SetMark(Mark::Error);
+  if (control.Reachable() || !control.Shown()) control.Focus();
+}
+
 }  // namespace
 
 void Screen::Report(const CommandError& error) {
@@ -681,9 +688,7 @@ void Screen::Report(const CommandError& error) {
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   if (error.control() != nullptr) {
-    error.control()->SetMark(Mark::Error);
-    // Under a panel it would hold the keyboard where nobody can type.
-    if (error.control()->Reachable()) error.control()->Focus();
+    MarkFault(*error.control());
   }
 }
 
@@ -903,8 +908,7 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
 }
 
 void Screen::FailAt(Field& field, std::string message) {
-  field.SetMark(Mark::Error);
-  if (field.Reachable()) field.Focus();
+  MarkFault(field);
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 
