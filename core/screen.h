@@ -124,6 +124,9 @@ class Control {
   void SetEnabled(bool enabled);
   void SetMark(Mark mark);
   void SetFace(ControlFace* face) { face_ = face; }
+  /// Runs whenever what the control shows has changed, whoever changed it, for what follows of it
+  /// elsewhere on the screen.
+  void WhenChanged(std::function<void()> follow) { followers_.push_back(std::move(follow)); }
   /// Takes the keyboard focus.
   void Focus();
   /// An option of the main form: working it is no change of the data.
@@ -135,7 +138,7 @@ class Control {
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
-  /// Tells the face.
+  /// Tells the face and who else follows.
   void Changed();
   /// The user has turned or picked something: what the file would hold asks to be saved, and the
   /// screen follows.
@@ -154,6 +157,7 @@ class Control {
   std::string caption_;
   std::string help_;
   ControlFace* face_ = nullptr;
+  std::vector<std::function<void()>> followers_;
   bool visible_ = true;
   bool enabled_ = true;
   bool isOption_ = false;

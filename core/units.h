@@ -128,6 +128,21 @@ enum class Unit {
   Feet,  ///< lengths on the road
   Miles,
   PortArea,
+  // The same in both modes: of screens, or parts of them, that know no metric units.
+  SquareInches,
+  Horsepower,
+  Psi,
+  Fahrenheit,
+  InchesMercury,
+  InchesWater,
+  CubicFeetPerMinute,
+  PoundsPerHour,
+  KilogramsPerSecond,
+  GramsPerMinute,
+  CcPerMinute,
+  GallonsPerHour,
+  PoundsPerHorsepowerHour,
+  Milliseconds,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -165,6 +180,20 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
     case Unit::PortArea: return metric ? "sq cm" : "sq in";
+    case Unit::SquareInches: return "sq in";
+    case Unit::Horsepower: return "HP";
+    case Unit::Psi: return "psi";
+    case Unit::Fahrenheit: return "deg F";
+    case Unit::InchesMercury: return "in Hg";
+    case Unit::InchesWater: return "in H2O";
+    case Unit::CubicFeetPerMinute: return "CFM";
+    case Unit::PoundsPerHour: return "lb/hr";
+    case Unit::KilogramsPerSecond: return "kg/s";
+    case Unit::GramsPerMinute: return "g/min";
+    case Unit::CcPerMinute: return "cc/min";
+    case Unit::GallonsPerHour: return "gal/hr";
+    case Unit::PoundsPerHorsepowerHour: return "lb/hp-hr";
+    case Unit::Milliseconds: return "ms";
   }
   return "";
 }

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "airfuel/airflow_screen.h"
 #include "airfuel/blower_screen.h"
 #include "airfuel/nitrous_screen.h"
 #include "chassis/springs_screen.h"
@@ -43,6 +44,7 @@ Program::Program(Host& host)
   AddScreen<Form10>();
   AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
+  AddScreen<Form4>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
   auto& elapsedTime = AddScreen<Form3>();

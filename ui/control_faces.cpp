@@ -116,7 +116,7 @@ CheckBoxFace::CheckBoxFace(FaceSet& set, CheckBox& box, QWidget* parent)
       box_(box),
       widget_(static_cast<QCheckBox*>(widget())) {
   connect(widget_, &QCheckBox::clicked, this, [this] {
-    box_.Click();
+    if (TakesClick()) box_.Click();
     Follow();
   });
 }
@@ -132,7 +132,13 @@ OptionButtonFace::OptionButtonFace(FaceSet& set, OptionButton& option, QWidget* 
       option_(option),
       button_(static_cast<QRadioButton*>(widget())) {
   if (option.group().isParted()) set.ButtonsOf(option.group()).addButton(button_);
-  connect(button_, &QRadioButton::clicked, this, [this] { option_.Click(); });
+  connect(button_, &QRadioButton::clicked, this, [this] {
+    if (TakesClick()) option_.Click();
+    // The button that is chosen shows it, whatever came of the click.
+    for (const auto& button : option_.group().buttons()) {
+      if (Face* face = this->set().Of(*button)) face->Follow();
+    }
+  });
 }
 
 void OptionButtonFace::Follow() {
@@ -201,7 +207,9 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
     : Face(set, command, new QPushButton(ToQt(command.caption()), parent)),
       command_(command),
       button_(static_cast<QPushButton*>(widget())) {
-  connect(button_, &QPushButton::clicked, this, [&command] { command.Click(); });
+  connect(button_, &QPushButton::clicked, this, [this] {
+    if (TakesClick()) command_.Click();
+  });
 }
 
 void CommandFace::Follow() {
