@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -25,7 +26,12 @@ struct GraphFrame {
 struct GraphCurve {
   std::string note;  ///< the legend's text before the pen's colour word; may be empty
   std::vector<GraphPoint> points;
-  std::vector<std::size_t> moves;  ///< indices of points that no line leads to
+  std::vector<std::size_t> moves;                 ///< indices of points that no line leads to
+  std::size_t fewestPoints = kFewestCurvePoints;  ///< 0: without points it is an empty graph
+  bool boxes = false;                             ///< a small box around each point
+  /// A line across the graph that the curve is read against, such as the lift a cam is rated at.
+  /// It is drawn once, however many curves bring it, and is no curve itself.
+  std::optional<double> standardLine;
 };
 
 /// The grapher as other screens see it: a graph command computes its curves and hands

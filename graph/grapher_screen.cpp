@@ -119,9 +119,22 @@ void Form8::KeepFirstLimits() {
 void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
   if (curves.empty()) PlotEngine::RequireSeries({});
   for (const GraphCurve& curve : curves) {
-    next.PlotSeries(curve.points, {}, curve.moves);
+    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints);
     if (!curve.note.empty()) next.SetCurveNote(curve.note + "  " + next.series().back().name);
+    if (curve.boxes) {
+      const Color color = next.ShownColor(next.series().back());
+      for (const GraphPoint& point : curve.points) next.PlotBox(point.x, point.y, color);
+    }
+    if (curve.standardLine) DrawStandardLine(next, *curve.standardLine);
   }
+}
+
+void Form8::DrawStandardLine(PlotEngine& next, double level) {
+  const bool stands =
+      std::any_of(next.lines().begin(), next.lines().end(), [level](const PlotLineRecord& line) {
+        return line.inTextColor && line.from.y == level && line.to.y == level;
+      });
+  if (!stands) next.PlotAdjustedLine({next.XLow, level}, {next.XHigh, level}, {}, true);
 }
 
 void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) {

@@ -114,6 +114,7 @@ class Form8 : public Screen, public Grapher {
   void RunGraphScript(const std::filesystem::path& file, ReadMode mode, const AxisRange& limits);
   AxisRange ScriptLimits(const GraphScript& script, const AxisRange& before);
   static void AddCurves(PlotEngine& next, std::span<const GraphCurve> curves);
+  static void DrawStandardLine(PlotEngine& next, double level);
   void Commit(PlotEngine next, Shown shown);
   void KeepFirstLimits();
   void GraphChanged();
