@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "core/numbers.h"
+#include "core/text.h"
 
 namespace veldox {
 
@@ -517,14 +518,6 @@ constexpr KeyRow kTable[] = {
     Key("Print Heads", KeyForm::OnOff, &P::PrintHeads, "Main.Print_CI"),
 };
 // clang-format on
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  });
-  return lower;
-}
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "core/error.h"
+#include "core/text.h"
 
 namespace veldox {
 
@@ -182,16 +183,6 @@ std::string CutToWidth(std::string text, std::size_t width, DecimalMark mark) {
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
-}
-
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
-
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
 }
 
 /// A text as the user wrote it, short and in one line, for a message.

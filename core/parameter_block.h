@@ -30,6 +30,20 @@ constexpr TorqueColumn StartColumn(const std::array<double, 11>& rows) {
   return column;
 }
 
+/// Last index of the lift tables. Records stand at 1 to 3600 at most, and a zero behind them.
+inline constexpr int kLastLiftIndex = 3601;
+/// The most records of a lift file.
+inline constexpr int kMostLiftRecords = kLastLiftIndex - 1;
+/// Lifts by index; index 0 is the start of the lobe.
+using LiftColumn = std::array<double, kLastLiftIndex + 1>;
+
+/// Degrees between the records of a lift file.
+struct CamSteps {
+  double General = 0;
+  double Intake = 0;
+  double Exhaust = 0;
+};
+
 /// The one store of values that all screens share. A member is named after its key
 /// in the parameter file; lengths are inches, volumes cubic inches or cc as the
 /// screens say, weights pounds, pressures psi or inches of mercury, temperatures
@@ -548,8 +562,21 @@ struct ParameterBlock {
   TorqueColumn RoadRpmTime = StartColumn(
       {1.6829, 1.8356, 2.0061, 2.192, 2.3341, 2.5083, 2.6635, 2.8677, 3.0899, 3.1848, 3.3879});
 
+  // Lift tables, filled from cam files (cam/lift_file.h), in the units of the file
+  LiftColumn IntakeCamLift{};    ///< at the lobe
+  LiftColumn IntakeValveLift{};  ///< times the rocker ratio less the lash, not below 0
+  LiftColumn ExhaustCamLift{};
+  LiftColumn ExhaustValveLift{};
+  std::int16_t IntakeLiftCount{0};   ///< last index in use, the closing zero's; 0 for no table
+  std::int16_t ExhaustLiftCount{0};  ///< the same of the exhaust
+  CamSteps CamStepDegrees;
+  std::string CamFileHeader;    ///< comment lines that a conversion writes again
+  std::string CurrentFileName;  ///< path of the lift file
+  std::string CamFileTitle;     ///< its name without the folder
+
   // Values without a record of their own in the file
   double RodLength2{6.2};
+  double BalancerDiameter{6.75};  ///< inches
   double PistonArea{0};
   std::string Notes;
 

@@ -114,24 +114,6 @@ constexpr std::array<NitrousKey, 5> kNitrousKeys = {{
     {"nitrous full", 4},
 }};
 
-char LowerLetter(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, {}, LowerLetter, LowerLetter);
-}
-
-bool StartsIgnoringCase(std::string_view text, std::string_view prefix) {
-  return text.size() >= prefix.size() && SameIgnoringCase(text.substr(0, prefix.size()), prefix);
-}
-
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
 /// A text that must stay within its line of the file.
 std::string OneLine(std::string text) {
   std::ranges::replace_if(

@@ -295,8 +295,9 @@ Command::Command(Frame& frame, std::string name, std::string caption, std::strin
 
 bool Command::Click() {
   if (!work_.isBuilt() || !enabled() || !Reachable()) return false;
-  if (role() == CommandRole::Calculates && this != screen().QuitCommand()) {
-    screen().lastCalculation_ = this;
+  Command*& last = screen().lastCalculation_;
+  if (last != this && role() == CommandRole::Calculates && this != screen().QuitCommand()) {
+    last = this;
   }
   return screen().Perform([this] { work_.Run(screen(), index_); });
 }

@@ -1,6 +1,30 @@
 #include "core/text.h"
 
+#include <algorithm>
+
 namespace veldox {
+
+namespace {
+
+constexpr char LowerLetter(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+}  // namespace
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  std::ranges::transform(lower, lower.begin(), LowerLetter);
+  return lower;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, LowerLetter, LowerLetter);
+}
+
+bool StartsIgnoringCase(std::string_view text, std::string_view prefix) {
+  return text.size() >= prefix.size() && SameIgnoringCase(text.substr(0, prefix.size()), prefix);
+}
 
 std::string Clipped(std::string_view text, std::size_t most) {
   std::size_t characters = 0;

@@ -369,6 +369,8 @@ GraphCurve PistonGraphCurve(const PistonGraphInput& input, DecimalMark mark) {
   if (IsOverRpm(input.graph)) {
     const auto value = ValueOverRpm(input);
     StepBound bound(kMostGraphPoints);
+    const double last = std::fmin(std::fmax(input.table.rpm, 0), kMostGraphPoints);
+    curve.points.reserve(static_cast<std::size_t>(last) + 1);
     for (double rpm = 0; rpm <= input.table.rpm; ++rpm) {
       bound.Step();
       curve.points.push_back({rpm, value(rpm)});

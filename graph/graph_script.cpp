@@ -16,21 +16,6 @@ namespace {
 constexpr char kSeparator = ',';
 constexpr const char* kErrorTitle = "VELDOX - Error Message";
 
-std::string_view Trim(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const auto first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return lower;
-}
-
 /// A line that cannot be understood.
 struct BadLine {
   GraphScriptFailure failure;

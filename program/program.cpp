@@ -25,7 +25,9 @@ S& Program::AddScreen(Arguments&&... arguments) {
 }
 
 Program::Program(Host& host)
-    : context_(std::make_unique<ProgramContext>(host)), shell_(std::make_unique<Shell>(*context_)) {
+    : context_(std::make_unique<ProgramContext>(host)),
+      shell_(std::make_unique<Shell>(*context_)),
+      camFiles_(std::make_unique<CamFiles>(*context_)) {
   grapher_ = &AddScreen<Form8>();
   auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));

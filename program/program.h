@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "cam/cam_files.h"
 #include "core/about_screen.h"
 #include "core/shell.h"
 #include "graph/grapher_screen.h"
@@ -28,6 +29,7 @@ class Program {
 
   std::unique_ptr<ProgramContext> context_;
   std::unique_ptr<Shell> shell_;
+  std::unique_ptr<CamFiles> camFiles_;
   std::vector<std::unique_ptr<Screen>> screens_;
   Form8* grapher_ = nullptr;
   Form15* about_ = nullptr;
