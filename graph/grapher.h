@@ -31,7 +31,7 @@ struct GraphCurve {
   bool boxes = false;                             ///< a small box around each point
   /// A line across the graph that the curve is read against, such as the lift a cam is rated at.
   /// It is drawn once, however many curves bring it, and is no curve itself.
-  std::optional<double> standardLine;
+  std::optional<double> standardLine = std::nullopt;
 };
 
 /// The grapher as other screens see it: a graph command computes its curves and hands
