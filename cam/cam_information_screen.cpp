@@ -261,7 +261,7 @@ LiftGraphInput Form2::ReadGraphInput(LiftGraph graph) {
   input.fileName = b.CamFileTitle;
   // The header of a Cam Doctor file is lines of comment.
   const bool isTitle = !input.camDegrees && b.CamFileHeader.find('\n') == std::string::npos;
-  input.title = isTitle && !b.CamFileHeader.empty() ? b.CamFileHeader : b.CamFileTitle;
+  input.title = isTitle && !b.CamFileHeader.empty() ? Trim(b.CamFileHeader) : b.CamFileTitle;
   return input;
 }
 
@@ -277,7 +277,14 @@ void Form2::AddToGraph(const LiftGraphInput& input) {
     return;
   }
   const GraphCurve curve = LiftGraphCurve(input, mark());
-  grapher_.AddToGraph({&curve, 1});
+  AxisRange range = grapher_.plot().scale();
+  const AxisRange own = LiftGraphFrame(input, curve, mark()).range;
+  for (const GraphPoint& point : curve.points) {
+    if (point.x > range.xHigh) range.xHigh = own.xHigh;
+    if (point.y > range.yHigh) range.yHigh = own.yHigh;
+    if (point.y < range.yLow) range.yLow = own.yLow;
+  }
+  grapher_.AddToGraph({&curve, 1}, range);
   grapher_.ShowGraph();
 }
 
@@ -310,32 +317,40 @@ void Form2::ReportLift(bool ofValve) {
 void Form2::ShowFigures() {
   std::string text;
   if (!block().CamFileTitle.empty()) text = block().CamFileTitle + "\r\n";
-  text += FiguresText(Side::Intake) + "\r\n" + FiguresText(Side::Exhaust);
+  for (const Side side : {Side::Intake, Side::Exhaust}) {
+    text += side == Side::Intake ? "Intake: " : "\r\nExhaust: ";
+    try {
+      text += FiguresText(side);
+    } catch (const CommandError&) {
+      // A file may hold any number, and the screen opens all the same.
+      text += "lifts too large";
+    }
+  }
   LiftFigures.SetText(text);
 }
 
 std::string Form2::FiguresText(Side side) const {
-  const std::string name = side == Side::Intake ? "Intake" : "Exhaust";
   const auto figures = FiguresOf(TableOf(side), UnitsPerInch());
-  if (!figures) return name + ": no lift data";
+  if (!figures) return "no lift data";
   const auto number = [this](double value) { return FormatValue<"0.0###">(value, mark()); };
   const auto degrees = [this](double value) { return FormatValue<"0.0">(value, mark()); };
   const std::string unit = metric() ? " mm" : " in";
-  std::string text = name + ": " + FormatInt(figures->records, mark()) + " records every " +
-                     FormatValue<"0.##">(figures->step, mark()) + " degrees";
-  text += "\r\n   Peak lift " + number(figures->peakLift) + unit + " at " +
-          degrees(figures->peakDegrees) + ", area " + FormatValue<"0.00">(figures->area, mark());
-  text += "\r\n   Peak velocity " + FormatValue<"0.00000">(figures->peakVelocity, mark()) + unit +
-          " per degree";
+  std::string text = FormatInt(figures->records, mark()) + " records every " +
+                     FormatValue<"0.0##">(figures->step, mark());
+  const auto add = [&text](const std::string& line) { text += "\r\n  " + line; };
+  add("Peak lift " + number(figures->peakLift) + unit + " at " + degrees(figures->peakDegrees));
+  add("Velocity " + FormatValue<"0.00000">(figures->peakVelocity, mark()) + unit + " / deg");
+  add("Area " + FormatValue<"0.00">(figures->area, mark()) + unit + " x deg");
   for (std::size_t i = 0; i < kRatedLifts.size(); ++i) {
     const double lift = kRatedLifts.at(i) * UnitsPerInch();
     if (!figures->durations.at(i)) continue;
-    text += "\r\n   Duration at " + FormatValue<"0.000">(lift, mark()) + unit + ": " +
-            degrees(*figures->durations.at(i));
+    add("Duration at " + FormatValue<"0.000">(lift, mark()) + unit + ": " +
+        degrees(*figures->durations.at(i)));
   }
   if (figures->centerline) {
-    text += "\r\n   Middle at 0.050: " + degrees(*figures->centerline) +
-            ", opening side longer by " + degrees(*figures->asymmetry);
+    add("Middle at " + FormatValue<"0.000">(kTimingLift * UnitsPerInch(), mark()) + unit + ": " +
+        degrees(*figures->centerline));
+    add("Opening less closing: " + degrees(*figures->asymmetry));
   }
   return text;
 }

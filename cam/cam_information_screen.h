@@ -199,9 +199,8 @@ class Form2 : public Screen, public LashTaker {
       Entry(KeyRule::UnsignedReal, Unit::CubicInches, Holds(&P::CubicInches).ShownAtOpening())};
   Field Text19{Frame9, "Text19", "Number of Cylinders", "8",
                Entry(KeyRule::Digits, Holds(&P::NumberofCylinders).ShownAtOpening())};
-  Field Text17{
-      Frame9, "Text17", "RPM", "0",
-      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::RPM).ShownAtOpening())};
+  Field Text17{Frame9, "Text17", "RPM", "0",
+               Entry(KeyRule::Digits, Unit::RevolutionsPerMinute, Holds(&P::RPM).ShownAtOpening())};
   Command Command9{Frame9, "Command9", "Durati&on",
                    "Calculate Intake Duration from Compression Ratio, Engine Size, Number of "
                    "Cylinders and RPM",
@@ -216,15 +215,26 @@ class Form2 : public Screen, public LashTaker {
                "Read valve lifts and timing from a specification card and calculate the rest.",
                Serves(&Form2::ReadCamCard)};
 
-  Frame Frame11{*this, "Frame11", "Lift File", 3};
-  OptionGroup Option1{Frame11,
+  Frame Frame11{*this, "Frame11", "Lift Data", 2};
+  Field Text27{
+      Frame11,
+      "Text27",
+      "Engine Size",
+      "0.000",
+      Entry(KeyRule::OutputOnly, Unit::CubicInches, Holds(&P::CubicInches).ShownAtOpening()),
+      "The engine that the lifts belong to, as it is entered above."};
+  ResultLines LiftFigures{Frame11, "LiftFigures", "Lobes",
+                          "The lobes of the lift file in figures, in the file's degrees."};
+
+  Frame Frame12{*this, "Frame12", "Lift File", 3};
+  OptionGroup Option1{Frame12,
                       "Option1",
                       "",
                       {{0, "Intake", "Graphs and tables show the intake side."},
                        {1, "Exhaust", "Graphs and tables show the exhaust side."}},
                       0,
                       2};
-  OptionGroup Option2{Frame11,
+  OptionGroup Option2{Frame12,
                       "Option2",
                       "",
                       {{0, "Cam Lift", "Lift at the lobe."},
@@ -244,59 +254,48 @@ class Form2 : public Screen, public LashTaker {
                        {10, "Accel Valve", "Velocity of the valve per degree."}},
                       0,
                       2};
-  CheckBox Check3{Frame11, "Check3", "Smooth Data Graph / Text Report",
+  CheckBox Check3{Frame12, "Check3", "Smooth Data Graph / Text Report",
                   "When Checked Smooth Graph will use the User selected algorithm to smooth the "
                   "Graphed data."};
-  Field Text25{Frame11,
+  Field Text25{Frame12,
                "Text25",
                "Smooth Type",
                "SG",
                KeyRule::AnyText,
                "SG: Savitzky-Golay, a parabola through the neighbours. MA: moving average. TR: "
                "triangle, near neighbours count more."};
-  CheckBox Check6{Frame11, "Check6", "S L D - Smooth Lift Data",
+  CheckBox Check6{Frame12, "Check6", "S L D - Smooth Lift Data",
                   "If Smooth Graph is Checked. Checking this box will cause the Lift Data to also "
                   "be Smoothed before being used."};
-  CheckBox Check7{Frame11, "Check7", "4.2.0",
+  CheckBox Check7{Frame12, "Check7", "4.2.0",
                   "You will only see a difference if 'Every x degrees' is not equal to 1.\r\n"
                   "If 4.2.0 is Checked. Checking this box will cause the program to use a "
                   "different way to calculate Acceleration and Jerk."};
-  CheckBox Check4{Frame11, "Check4", "0.040",
+  CheckBox Check4{Frame12, "Check4", "0.040",
                   "If Checked it will Cause the Standard Line to be drawn at 0.040\" instead of "
                   "0.050\"."};
-  CheckBox Check5{Frame11, "Check5", "Dots",
+  CheckBox Check5{Frame12, "Check5", "Dots",
                   "If Checked it will Cause the Software to place a Dot at Each Data Point on the "
                   "Graph."};
-  Field Text27{
-      Frame11,
-      "Text27",
-      "Engine Size",
-      "0.000",
-      Entry(KeyRule::OutputOnly, Unit::CubicInches, Holds(&P::CubicInches).ShownAtOpening()),
-      "The engine that the lifts belong to, as entered beside."};
-  Command Command10{Frame11, "Command10", "Graph Lift",
+  Command Command10{Frame12, "Command10", "Graph Lift",
                     "Read a lift file and draw the lift of its intake or exhaust lobe.",
                     Serves(&Form2::GraphCamLift)};
-  Command Command11{Frame11, "Command11", "Graph First",
+  Command Command11{Frame12, "Command11", "Graph First",
                     "Read a lift file and start a graph of what is chosen above.",
                     Serves(&Form2::GraphFirst)};
-  Command Command12{Frame11, "Command12", "Graph Plus",
+  Command Command12{Frame12, "Command12", "Graph Plus",
                     "Add what is chosen above to the graph, from the lift file that was read last.",
                     Serves(&Form2::GraphFurther)};
-  Command Command15{Frame11, "Command15", "Graph Plus File",
+  Command Command15{Frame12, "Command15", "Graph Plus File",
                     "Read another lift file and add what is chosen above to the graph, so that two "
                     "cams can be compared.",
                     Serves(&Form2::GraphFurtherFile)};
-  Command Command13{Frame11, "Command13", "Text Report Cam",
+  Command Command13{Frame12, "Command13", "Text Report Cam",
                     "Show lift, velocity, acceleration and jerk of the lobe record by record.",
                     Serves(&Form2::ReportCam)};
-  Command Command14{Frame11, "Command14", "Text Report Valve",
+  Command Command14{Frame12, "Command14", "Text Report Valve",
                     "Show lift, velocity, acceleration and jerk of the valve record by record.",
                     Serves(&Form2::ReportValve)};
-
-  Frame Frame12{*this, "Frame12", "Lift Data", 3};
-  ResultLines LiftFigures{Frame12, "LiftFigures", "Lobes",
-                          "The lobes of the lift file in figures, in the file's degrees."};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   ReportBox Text38{HelpFrame, "Text38"};

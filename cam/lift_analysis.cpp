@@ -172,7 +172,6 @@ std::optional<OpenSpan> SpanAbove(const LiftTable& table, double level) {
 }  // namespace
 
 std::optional<LobeFigures> FiguresOf(const LiftTable& table, double unitsPerInch) {
-  constexpr double kTimingLift = 0.050;  // inches
   const std::span<const double> lifts = table.lifts;
   if (lifts.empty()) return std::nullopt;
   LobeFigures figures;

@@ -86,6 +86,9 @@ bool IsOffSeat(const LiftAnalysis& analysis, double camLift);
 /// Lobe lifts in inches at which cams are compared by their duration.
 inline constexpr std::array<double, 5> kRatedLifts = {0.006, 0.020, 0.050, 0.100, 0.200};
 
+/// The one of them that timing is told at.
+inline constexpr double kTimingLift = 0.050;
+
 /// A lobe in figures, in the table's degrees and the unit of its lifts.
 struct LobeFigures {
   int records = 0;
@@ -96,9 +99,9 @@ struct LobeFigures {
   double area = 0;          ///< lift by degrees
   /// At each of kRatedLifts, nothing where the lobe is not that high.
   std::array<std::optional<double>, kRatedLifts.size()> durations;
-  /// Halfway between opening and closing at 0.050 lift.
+  /// Halfway between opening and closing at kTimingLift.
   std::optional<double> centerline;
-  /// Opening side less closing side at 0.050 lift: 0 for a lobe that is the same on both.
+  /// Opening side less closing side at kTimingLift: 0 for a lobe that is the same on both.
   std::optional<double> asymmetry;
 };
 /// @param unitsPerInch  25.4 where the lifts are millimetres

@@ -65,10 +65,11 @@ std::string LiftReport(const LiftAnalysis& analysis, bool ofValve, bool exhaust,
       const double smooth = ofValve ? analysed * analysis.ratio - analysis.lash : analysed;
       report.Add<"0.00000">(isThere ? smooth : 0, kSmoothLiftWidth);
     }
+    report.ReportLine.erase(report.ReportLine.find_last_not_of(' ') + 1);
     report.EndLine(i == last ? LineMark::HeadingsEnd : LineMark::None);
   }
   // A mark shows where no line break follows it.
-  if (last > 0) report.EndLine();
+  report.EndLine();
   return report.Finish();
 }
 

@@ -49,6 +49,9 @@ class Grapher {
   /// Draws curves onto the present graph with the next pens; axes stay.
   /// @throws CommandError for points that cannot be drawn, or without a graph
   virtual void AddToGraph(std::span<const GraphCurve> curves) = 0;
+  /// The same, and the axes grow where they do not hold a range yet. What was drawn keeps its
+  /// values.
+  virtual void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) = 0;
   /// There is a graph that curves can be added to.
   virtual bool HasGraph() const = 0;
   /// Opens the grapher's window with what was drawn.

@@ -41,6 +41,7 @@ class Form8 : public Screen, public Grapher {
   // Grapher
   void DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) override;
   void AddToGraph(std::span<const GraphCurve> curves) override;
+  void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) override;
   bool HasGraph() const override { return plot_.hasAxes(); }
   void ShowGraph() override { SetVisible(true); }
   PlotEngine& plot() override { return plot_; }

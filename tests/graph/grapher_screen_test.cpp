@@ -305,6 +305,26 @@ TEST_F(Form8Test, ACurveBringsItsStandardLineOnceAndItsBoxes) {
   EXPECT_EQ(plot.series().size(), 3U);
 }
 
+TEST_F(Form8Test, AxesGrowForACurveThatBringsItsRange) {
+  GraphCurve curve;
+  curve.points = {{0, 0}, {1, 0.3}, {2, 0}};
+  curve.standardLine = 0.05;
+  form_.DrawGraph({{0, 3, -0.05, 0.4}, false, "", "", "", "", false}, {&curve, 1});
+  GraphCurve larger;
+  larger.points = {{0, 0}, {2, 0.6}, {4, 0}};
+  larger.standardLine = 0.05;
+  form_.AddToGraph({&larger, 1}, {1, 5, 0, 0.7});
+  const PlotEngine& plot = form_.plot();
+  EXPECT_EQ(plot.scale(), (AxisRange{0, 5, -0.05, 0.7}));
+  // All curves are read on the same axes, and the line reaches across them.
+  EXPECT_EQ(plot.series()[0].range, plot.scale());
+  EXPECT_EQ(plot.series()[1].range, plot.scale());
+  EXPECT_EQ(plot.lines().back().to, (GraphPoint{5, 0.05}));
+  // Without a range they stay.
+  form_.AddToGraph({&curve, 1});
+  EXPECT_EQ(plot.scale(), (AxisRange{0, 5, -0.05, 0.7}));
+}
+
 TEST_F(Form8Test, AnEmptyGraphHasItsAxes) {
   GraphCurve curve;
   curve.fewestPoints = 0;
