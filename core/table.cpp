@@ -111,7 +111,8 @@ void Table::NameCells() {
       Field* cell = Cell(row, column);
       if (cell == nullptr) continue;
       const bool hasCaption = static_cast<std::size_t>(row) < rowNames_.captions.size();
-      cell->SetCaption(Head(column) + (hasCaption ? ", " : ", row ") + RowCaption(row));
+      cell->SetCaption(std::string(Trimmed(Head(column))) + (hasCaption ? ", " : ", row ") +
+                       RowCaption(row));
     }
   }
 }
@@ -134,7 +135,8 @@ Table::Place Table::PlaceOf(const Control& control) const {
 
 std::string Table::RowCaption(int row) const {
   const auto index = static_cast<std::size_t>(row);
-  return index < rowNames_.captions.size() ? rowNames_.captions[index] : std::to_string(row + 1);
+  return index < rowNames_.captions.size() ? std::string(Trimmed(rowNames_.captions[index]))
+                                           : std::to_string(row + 1);
 }
 
 const std::string& Table::Head(int column) const {

@@ -40,6 +40,11 @@ inline constexpr UnitRule kLengthRule{[](double inches) { return inches * kMilli
 inline constexpr UnitRule kAreaRule{
     [](double inches) { return inches * (kMillimetresPerInch * kMillimetresPerInch); },
     [](double mm) { return mm / (kMillimetresPerInch * kMillimetresPerInch); }};
+/// Of a port or a piston: square centimetres in metric.
+inline constexpr double kSquareCentimetresPerSquareInch = 6.4516;
+inline constexpr UnitRule kPortAreaRule{
+    [](double inches) { return inches * kSquareCentimetresPerSquareInch; },
+    [](double cm) { return cm / kSquareCentimetresPerSquareInch; }};
 inline constexpr double kCcPerCubicInch =
     kMillimetresPerInch * kMillimetresPerInch * kMillimetresPerInch / 1000;
 inline constexpr UnitRule kVolumeRule{[](double inches) { return inches * kCcPerCubicInch; },
@@ -114,6 +119,7 @@ enum class Unit {
   Seconds,
   Feet,  ///< lengths on the road
   Miles,
+  PortArea,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -149,6 +155,7 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Seconds: return "s";
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
+    case Unit::PortArea: return metric ? "sq cm" : "sq in";
   }
   return "";
 }
@@ -158,6 +165,7 @@ constexpr const UnitRule* RuleOf(Unit unit) {
   switch (unit) {
     case Unit::Length: return &kLengthRule;
     case Unit::Area: return &kAreaRule;
+    case Unit::PortArea: return &kPortAreaRule;
     case Unit::Volume: return &kVolumeRule;
     case Unit::PistonSpeed: return &kPistonSpeedRule;
     case Unit::SurfaceSpeed: return &kSurfaceSpeedRule;
