@@ -113,7 +113,7 @@ LiftValues Analyse(const LiftAnalysis& analysis, const LiftQuantity& quantity) {
   LiftValues result{quantity.order, AnalysedLifts(analysis)};
   std::vector<double>& values = result.values;
   if (values.empty()) return {0, {}};
-  const double step = analysis.table.step;
+  const double stepDeg = analysis.table.step;
   if (quantity.ofValve) {
     for (double& lift : values) lift = lift * analysis.ratio - analysis.lash;
   }
@@ -121,19 +121,19 @@ LiftValues Analyse(const LiftAnalysis& analysis, const LiftQuantity& quantity) {
     const double turnsASecond = analysis.rpm / kSecondsInMinute;
     values = Differences(values, [&](double difference) {
       const double feet = difference / analysis.unitsPerInch / kInchesInFoot;
-      return feet * turnsASecond * (kRevolution / step);
+      return feet * turnsASecond * (kRevolution / stepDeg);
     });
   } else if (quantity.order > 0) {
-    values = Differences(values, [step](double difference) { return difference / step; });
+    values = Differences(values, [stepDeg](double difference) { return difference / stepDeg; });
   }
-  const double divisor = analysis.differencesByRecord ? 1 : step;
+  const double divisor = analysis.differencesByRecord ? 1 : stepDeg;
   for (int order = 2; order <= quantity.order; ++order) {
     values = Differences(values, [divisor](double difference) { return difference / divisor; });
   }
   if (analysis.smoothing) {
     // Around the lobe lies the base circle, where nothing moves.
     const double outside = quantity.order == 0 && quantity.ofValve ? -analysis.lash : 0;
-    values = Smoothed(values, SmoothingWeights(*analysis.smoothing, step), outside);
+    values = Smoothed(values, SmoothingWeights(*analysis.smoothing, stepDeg), outside);
   }
   return result;
 }
