@@ -54,6 +54,8 @@ void Form2::TakeLashes(std::optional<double> intake, std::optional<double> exhau
   };
   if (intake) show(Text23, *intake);
   if (exhaust) show(Text24, *exhaust);
+  // Whoever has read the file, it is in the tables now.
+  ShowFigures();
 }
 
 void Form2::ConvertUnits() {
@@ -222,9 +224,7 @@ double Form2::UnitsPerInch() const {
 }
 
 bool Form2::ReadLiftFile() {
-  const bool isRead = files_.ReadCamLiftFile(*this);
-  ShowFigures();
-  return isRead;
+  return files_.ReadCamLiftFile(*this).has_value();
 }
 
 LiftAnalysis Form2::ReadAnalysis() {
