@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "airfuel/nitrous_screen.h"
+#include "cam/cam_generator_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
@@ -41,6 +42,7 @@ Program::Program(Host& host)
   AddScreen<Form17>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
+  AddScreen<Form33>();
   auto& elapsedTime = AddScreen<Form3>();
   auto& gear = AddScreen<Form5>();
   auto& gearboxFinder = AddScreen<Form19>();
