@@ -4,6 +4,7 @@
 #include "airfuel/blower_screen.h"
 #include "airfuel/nitrous_screen.h"
 #include "cam/cam_files.h"
+#include "cam/cam_generator_screen.h"
 #include "cam/cam_information_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
@@ -51,6 +52,7 @@ Program::Program(Host& host)
   AddScreen<Form4>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
+  AddScreen<Form33>();
   auto& elapsedTime = AddScreen<Form3>();
   auto& gear = AddScreen<Form5>();
   auto& gearboxFinder = AddScreen<Form19>();
