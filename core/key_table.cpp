@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "core/appearance.h"
 #include "core/numbers.h"
 #include "core/text.h"
 
@@ -34,6 +35,12 @@ constexpr KeyRow OnIs(std::int16_t value, KeyRow row) {
 
 constexpr KeyRow BlankBehindEquals(KeyRow row) {
   row.blankBehindEquals = true;
+  return row;
+}
+
+template <double (*Nearest)(double)>
+constexpr KeyRow Within(KeyRow row) {
+  row.nearest = Nearest;
   return row;
 }
 
@@ -466,12 +473,12 @@ constexpr KeyRow kTable[] = {
     Key("Graph Logo", KeyForm::YesNo, &P::GraphLogo, "Main.Graph_Logo"),
     Key("Move Grid Lines", KeyForm::YesNo, &P::MoveGridLines, "Main.Graph_Move_Grid"),
     Key("Graph Line Color", KeyForm::YesNo, &P::GraphLineColor, "Main.Graph_Line_Color"),
-    Key("Grid Switch", KeyForm::Integer, &P::GridSwitch, "Main.Option4"),
+    Key("Grid Switch", KeyForm::Integer, &P::GridSwitch, "Main.Option5"),
     Key("Large Lines", KeyForm::YesNo, &P::LargeLines, "Main.Check1"),
     Key("Caption Top", KeyForm::Integer, &P::CaptionTop, "Main.Option1"),
     Key("Caption Side", KeyForm::Integer, &P::CaptionSide, "Main.Option2"),
     Key("Graph Font Size", KeyForm::Integer, &P::GraphFontSize, "Main.Option3"),
-    Key("Company Name Location", KeyForm::Integer, &P::CompanyNameLocation, "Main"),
+    Key("Company Name Location", KeyForm::Integer, &P::CompanyNameLocation, "Main.Option4"),
     Key("Semi Grid Cross Lines", KeyForm::YesNo, &P::SemiGridCrossLines, "Main.Check3"),
     Key("Semi Grid Box Lines", KeyForm::YesNo, &P::SemiGridBoxLines, "Main.Check4"),
     Key("Grid Color", KeyForm::Integer, &P::GridColor, "Main.Grid_Color"),
@@ -488,32 +495,32 @@ constexpr KeyRow kTable[] = {
     Key("Draw Line Width", KeyForm::Integer, &P::DrawLineWidth, "Main.Text21"),
     Key("Draw Switch", KeyForm::YesNo, &P::DrawSwitch, "Form8.Check1"),
     Comment(";   User Selected GUI Options -- Keep This Order"),
-    Key("Quit BackGround Color", KeyForm::Integer, &P::QuitBackGroundColor, "Main"),
-    Key("BackGround Color", KeyForm::Integer, &P::BackGroundColor, "Main"),
-    Key("Option Check Box Style", KeyForm::Integer, &P::OptionCheckBoxStyle, "Main"),
+    Within<&NearestColor>(Key("Quit BackGround Color", KeyForm::Integer, &P::QuitBackGroundColor, "Main")),
+    Within<&NearestColor>(Key("BackGround Color", KeyForm::Integer, &P::BackGroundColor, "Main")),
+    Within<&NearestStyle>(Key("Option Check Box Style", KeyForm::Integer, &P::OptionCheckBoxStyle, "Main.Combo5")),
     Key("Large Screen", KeyForm::YesNo, &P::LargeScreen, "Main"),
     Key("Full Screen", KeyForm::YesNo, &P::FullScreen, "Main"),
     Key("Entry Box Font Name", KeyForm::Text, &P::EntryBoxFontName, "Main"),
-    Key("Entry Box Font Size", KeyForm::Integer, &P::EntryBoxFontSize, "Main"),
-    Key("Entry Box Font Bold", KeyForm::Integer, &P::EntryBoxFontBold, "Main"),
-    Key("Entry Box Font Italic", KeyForm::Integer, &P::EntryBoxFontItalic, "Main"),
-    Key("Entry Box Alignment", KeyForm::Integer, &P::EntryBoxAlignment, "Main"),
-    Key("Entry Box Style", KeyForm::Integer, &P::EntryBoxStyle, "Main"),
+    Within<&NearestFontSize>(Key("Entry Box Font Size", KeyForm::Integer, &P::EntryBoxFontSize, "Main")),
+    Key("Entry Box Font Bold", KeyForm::Flag, &P::EntryBoxFontBold, "Main"),
+    Key("Entry Box Font Italic", KeyForm::Flag, &P::EntryBoxFontItalic, "Main"),
+    Within<&NearestAlignment>(Key("Entry Box Alignment", KeyForm::Integer, &P::EntryBoxAlignment, "Main.Combo3")),
+    Within<&NearestStyle>(Key("Entry Box Style", KeyForm::Integer, &P::EntryBoxStyle, "Main.Combo4")),
     Key("Label Box Font Name", KeyForm::Text, &P::LabelBoxFontName, "Main"),
-    Key("Label Box Font Size", KeyForm::Integer, &P::LabelBoxFontSize, "Main"),
-    Key("Label Box Font Bold", KeyForm::Integer, &P::LabelBoxFontBold, "Main"),
-    Key("Label Box Font Italic", KeyForm::Integer, &P::LabelBoxFontItalic, "Main"),
-    Key("Label Box Color", KeyForm::Integer, &P::LabelBoxColor, "Main"),
+    Within<&NearestFontSize>(Key("Label Box Font Size", KeyForm::Integer, &P::LabelBoxFontSize, "Main")),
+    Key("Label Box Font Bold", KeyForm::Flag, &P::LabelBoxFontBold, "Main"),
+    Key("Label Box Font Italic", KeyForm::Flag, &P::LabelBoxFontItalic, "Main"),
+    Within<&NearestColor>(Key("Label Box Color", KeyForm::Integer, &P::LabelBoxColor, "Main")),
     Key("Command Button Font Name", KeyForm::Text, &P::CommandButtonFontName, "Main"),
-    Key("Command Button Font Size", KeyForm::Integer, &P::CommandButtonFontSize, "Main"),
-    Key("Command Button Font Bold", KeyForm::Integer, &P::CommandButtonFontBold, "Main"),
-    Key("Command Button Font Italic", KeyForm::Integer, &P::CommandButtonFontItalic, "Main"),
+    Within<&NearestFontSize>(Key("Command Button Font Size", KeyForm::Integer, &P::CommandButtonFontSize, "Main")),
+    Key("Command Button Font Bold", KeyForm::Flag, &P::CommandButtonFontBold, "Main"),
+    Key("Command Button Font Italic", KeyForm::Flag, &P::CommandButtonFontItalic, "Main"),
     Key("Help Box Font Name", KeyForm::Text, &P::HelpBoxFontName, "Main"),
-    Key("Help Box Font Size", KeyForm::Integer, &P::HelpBoxFontSize, "Main"),
-    Key("Help Box Font Bold", KeyForm::Integer, &P::HelpBoxFontBold, "Main"),
-    Key("Help Box Font Italic", KeyForm::Integer, &P::HelpBoxFontItalic, "Main"),
-    Key("Help Box Font Color", KeyForm::Integer, &P::HelpBoxFontColor, "Main"),
-    Key("Help BackGround Color", KeyForm::Integer, &P::HelpBackGroundColor, "Main"),
+    Within<&NearestFontSize>(Key("Help Box Font Size", KeyForm::Integer, &P::HelpBoxFontSize, "Main")),
+    Key("Help Box Font Bold", KeyForm::Flag, &P::HelpBoxFontBold, "Main"),
+    Key("Help Box Font Italic", KeyForm::Flag, &P::HelpBoxFontItalic, "Main"),
+    Within<&NearestColor>(Key("Help Box Font Color", KeyForm::Integer, &P::HelpBoxFontColor, "Main")),
+    Within<&NearestColor>(Key("Help BackGround Color", KeyForm::Integer, &P::HelpBackGroundColor, "Main")),
     OnIs(-1, Key("Metric Mode", KeyForm::OnOff, &P::MetricMenuOn, "Main.Metric")),
     Key("Print Heads", KeyForm::OnOff, &P::PrintHeads, "Main.Print_CI"),
 };

@@ -514,15 +514,15 @@ struct ParameterBlock {
   // User Selected GUI Options
   std::int32_t QuitBackGroundColor{0};
   std::int32_t BackGroundColor{0};
-  std::int16_t OptionCheckBoxStyle{0};
+  std::int16_t OptionCheckBoxStyle{1};
   std::int16_t LargeScreen{0};
   std::int16_t FullScreen{0};
   std::string EntryBoxFontName;
   std::int16_t EntryBoxFontSize{0};
   std::int16_t EntryBoxFontBold{0};
   std::int16_t EntryBoxFontItalic{0};
-  std::int16_t EntryBoxAlignment{0};
-  std::int16_t EntryBoxStyle{0};
+  std::int16_t EntryBoxAlignment{2};
+  std::int16_t EntryBoxStyle{1};
   std::string LabelBoxFontName;
   std::int16_t LabelBoxFontSize{0};
   std::int16_t LabelBoxFontBold{0};
