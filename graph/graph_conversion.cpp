@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <optional>
-#include <ranges>
 #include <utility>
 
 #include "core/line_reader.h"
@@ -111,8 +110,12 @@ struct AxisLimits {
 
 /// Round numbers that a column of numbers lies between.
 AxisLimits LimitsOf(std::span<const std::vector<double>> rows, std::size_t column) {
-  const auto [low, high] = std::ranges::minmax(
-      rows | std::views::transform([&](const auto& row) { return row[column]; }));
+  double low = rows.front()[column];
+  double high = low;
+  for (const std::vector<double>& row : rows) {
+    low = std::min(low, row[column]);
+    high = std::max(high, row[column]);
+  }
   if (!(high > low)) return {low - 1, low + 1};
   const double step = std::pow(10, std::floor(std::log10(high - low)));
   return {std::floor(low / step) * step, std::ceil(high / step) * step};

@@ -13,7 +13,7 @@
 namespace veldox::testing {
 namespace {
 
-constexpr int kDotsPerInch = 600;
+constexpr int kDotsPerInch = 300;
 constexpr int kTwipsPerInch = 1440;
 
 class TimingTapeWindowTest : public WindowTest {
@@ -86,6 +86,27 @@ TEST_F(TimingTapeWindowTest, TheLongestTapeOfLetterPaperIsWhole) {
   ASSERT_EQ(coarse.size(), 13U);
   // 10 * pi * 120 / 360
   EXPECT_NEAR((coarse.back() - coarse.front()) / kDotsPerInch, 10.4720, 0.003);
+}
+
+TEST_F(TimingTapeWindowTest, ThePrinterIsSetToPortraitAgain) {
+  for (const auto before : {QPageLayout::Portrait, QPageLayout::Landscape}) {
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(ToQt((host.folder / "tape.pdf").string()));
+    printer.setPageOrientation(before);
+    {
+      const PaperLayout layout(printer, PageJob::Measured);
+      EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
+      PainterPageSurface surface(printer, PageJob::Measured);
+      EXPECT_TRUE(surface.landscape());
+      PrintTimingTape(surface, 6.75, DecimalMark::Point);
+    }
+    EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
+    // A report leaves the paper as it lies.
+    printer.setPageOrientation(before);
+    { const PaperLayout layout(printer, PageJob::Report); }
+    EXPECT_EQ(printer.pageLayout().orientation(), before);
+  }
 }
 
 TEST_F(TimingTapeWindowTest, ItsPanelTakesTheLaunchersPlaceAndGoes) {
