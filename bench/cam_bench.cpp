@@ -25,14 +25,6 @@ std::string LongestLiftFile() {
   return "every x degrees = .1\r\nintake  a long lobe\r\n" + lobe + "exhaust\r\n" + lobe;
 }
 
-void ReadLifts(benchmark::State& state) {
-  const std::string text = LongestLiftFile();
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(ParseLiftFile(text, "long.cmm", DecimalMark::Point));
-  }
-}
-BENCHMARK(ReadLifts)->Unit(benchmark::kMillisecond);
-
 LiftGraphInput InputOf(const ParameterBlock& block) {
   LiftGraphInput input;
   input.analysis.table = {
