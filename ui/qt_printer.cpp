@@ -42,8 +42,7 @@ QPrinter& ChosenPrinter() {
 
 void PrintOn(QPagedPaintDevice& device, const ReportBox& box) {
   PainterPageSurface surface(device);
-  ReportPrinter(surface, HeaderOf(box.screen().block(), box.screen().context().host.Now()))
-      .PrintReport(box.report(), box.fontSize());
+  box.PrintOn(surface);
 }
 
 }  // namespace
@@ -78,6 +77,14 @@ void PainterPageSurface::PlaceText(int x, int y, const PageFont& font, std::stri
   // Columns must stand where the layout put them, whatever font stands in for the named one.
   if (natural > 0 && counted > 0) painter_.scale(counted / natural, 1);
   painter_.drawText(QPointF(0, 0), line);
+  painter_.restore();
+}
+
+void PainterPageSurface::PlaceLine(int fromX, int fromY, int toX, int toY, int width) {
+  painter_.save();
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::RoundCap));
+  painter_.drawLine(fromX, fromY, toX, toY);
   painter_.restore();
 }
 
