@@ -661,10 +661,28 @@ bool Screen::Perform(const std::function<void()>& command) {
   return false;
 }
 
+namespace {
+
+/// The caption in quotes, behind it the frame where another frame has such a control too.
+std::string NameInMessages(const Control& control) {
+  const std::string caption = control.PlainCaption();
+  std::string name = '"' + caption + '"';
+  if (control.frame() == nullptr) return name;
+  const std::vector<Control*>& all = control.screen().controls();
+  const bool isElsewhere = std::any_of(all.begin(), all.end(), [&](const Control* other) {
+    return other->kind() == control.kind() && other->frame() != control.frame() &&
+           other->PlainCaption() == caption;
+  });
+  const std::string frame = control.frame()->PlainCaption();
+  return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
+}
+
+}  // namespace
+
 void Screen::Report(const CommandError& error) {
   std::string text = error.message();
   if (error.control() != nullptr) {
-    text = '"' + error.control()->PlainCaption() + "\" " + text;
+    text = NameInMessages(*error.control()) + ' ' + text;
   }
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});

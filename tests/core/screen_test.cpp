@@ -30,6 +30,7 @@ class Bench : public Screen {
     Show(Result, 1);
     Read(B);
   }
+  void ReadSecond() { Read(C); }
   void Cancel() { throw CommandError(ErrorKind::Cancelled, ""); }
   void Lost() { std::vector<int>().at(3); }
   void Toggle() {
@@ -49,6 +50,8 @@ class Bench : public Screen {
                       "Options",
                       {{0, "Zero", "first"}, {1, "One", "second"}, {100, "Hidden", "", false}}};
   Label Label1{Frame1, "Label1", ""};
+  Frame Frame2{*this, "Frame2", "Second Engine"};
+  Field C{Frame2, "C", "Value &B", "2", KeyRule::SignedReal};
 };
 
 class ScreenTest : public testing::Test {
@@ -105,10 +108,21 @@ TEST_F(ScreenTest, DivisionByZeroNamesTheDivisorThatIsZero) {
   bench_.Result.SetText("before");
   context_->block.Bore = 3;
   EXPECT_FALSE(Run(&Bench::Divide));
-  EXPECT_EQ(LastText().rfind("\"Value B\" is 0", 0), 0U) << LastText();
+  EXPECT_EQ(LastText().rfind("\"Value B\" (Frame) is 0", 0), 0U) << LastText();
   EXPECT_EQ(bench_.B.mark(), Mark::Error);
   EXPECT_EQ(bench_.Result.text(), "before");
   EXPECT_EQ(context_->block.Bore, 3);
+}
+
+TEST_F(ScreenTest, MessagesTellFieldsOfOneCaptionApartByTheirFrames) {
+  host_.Answer(Button::OK);
+  host_.Answer(Button::OK);
+  bench_.B.SetText("two");
+  EXPECT_FALSE(Run(&Bench::Two));
+  EXPECT_EQ(LastText().rfind("\"Value B\" (Frame) holds", 0), 0U) << LastText();
+  bench_.C.SetText("three");
+  EXPECT_FALSE(Run(&Bench::ReadSecond));
+  EXPECT_EQ(LastText().rfind("\"Value B\" (Second Engine) holds", 0), 0U) << LastText();
 }
 
 TEST_F(ScreenTest, ZeroOverZeroIsADivisionByZeroToo) {
@@ -116,7 +130,7 @@ TEST_F(ScreenTest, ZeroOverZeroIsADivisionByZeroToo) {
   bench_.A.SetText("0");
   bench_.B.SetText("0");
   EXPECT_FALSE(Run(&Bench::Divide));
-  EXPECT_EQ(LastText().rfind("\"Value B\" is 0", 0), 0U) << LastText();
+  EXPECT_EQ(LastText().rfind("\"Value B\" (Frame) is 0", 0), 0U) << LastText();
 }
 
 TEST_F(ScreenTest, DivisionByZeroWithoutAKnownDivisorNamesTheResult) {
@@ -225,7 +239,8 @@ TEST_F(ScreenTest, TabOrderIsReadingOrderWithoutHiddenAndDisabledControls) {
   EXPECT_EQ(bench_.NextInTabOrder(bench_.A), &bench_.B);
   EXPECT_EQ(bench_.NextInTabOrder(bench_.DivideCommand), &bench_.Check1);
   EXPECT_EQ(bench_.NextInTabOrder(bench_.Check1), bench_.Find("Option1(0)"));
-  EXPECT_EQ(bench_.NextInTabOrder(*bench_.Find("Option1(0)")), &bench_.A);
+  EXPECT_EQ(bench_.NextInTabOrder(*bench_.Find("Option1(0)")), &bench_.C);
+  EXPECT_EQ(bench_.NextInTabOrder(bench_.C), &bench_.A);
 }
 
 TEST_F(ScreenTest, OnlyTheFirstPointOfADefaultTextBecomesAComma) {
