@@ -189,6 +189,8 @@ class Form11 : public Screen {
                    "1.2, 2.5 and 0.6 times the Port's Diameter, by the Angles.",
                    &Form11::SolveOneStage};
   Label SingleHints{Frame6, "SingleHints", ""};
+  /// Tells of sections that cannot be made.
+  Label Remark{Frame6, "Remark", ""};
 
   Frame Frame4{*this, "Frame4", "Two / Three Stage Diffuser", 2};
   Drawing Stages{Frame4, "Stages",
@@ -216,7 +218,6 @@ class Form11 : public Screen {
              {{"Section Length", {&L1, &L2, &L3, &L4, &L5, &L6, &L7, &LT}},
               TableColumn("Inside Diameter", {&D1, &D2, &D3, &D4, &D5}).Wide(18)},
              {"", {"L1 / D1", "L2 / D2", "L3 / D3", "L4 / D4", "L5 / D5", "L6", "L7", "LT"}}};
-  Label Remark{Frame7, "Remark", ""};
   Command ChamberReport{Frame7, "ChamberReport", "Chamber &Report",
                         "Show the Sections with their Diameters and Circumferences as a Report, "
                         "which is printed with the Drawing on one page.",
