@@ -481,7 +481,7 @@ constexpr KeyRow kTable[] = {
     Key("Graph BackGround Color", KeyForm::Integer, &P::GraphBackGroundColor, "Main.BGColor"),
     Comment(";   The following 2 parameters must be in THIS Order"),
     Key("Custom Graph Width", KeyForm::Integer, &P::CustomGraphWidth, "Main.Text14"),
-    Key("Custom Graph Height", KeyForm::Integer, &P::CustomGraphHeight, "Main.Text18"),
+    Key("Custom Graph Height", KeyForm::Integer, &P::CustomGraphHeight, "Main.Text24"),
     Key("Custom Grid Line Count x", KeyForm::Integer, &P::CustomGridLineCountx, "Main.Text19"),
     Key("Custom Grid Line Count y", KeyForm::Integer, &P::CustomGridLineCounty, "Main.Text20"),
     Key("Draw Line Color", KeyForm::Integer, &P::DrawLineColor, "Main.DrawLn"),

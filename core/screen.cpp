@@ -279,13 +279,15 @@ void ReportBox::WriteReportToFile() const {
 
 void ReportBox::PrintReport() const {
   Host& host = screen().context().host;
-  const std::unique_ptr<PageSurface> surface = host.OpenPrinter();
-  PrintOn(*surface);
+  Pages()(*host.OpenPrinter(PageJob::Report));
 }
 
-void ReportBox::PrintOn(PageSurface& surface) const {
-  ReportPrinter(surface, HeaderOf(screen().block(), screen().context().host.Now()))
-      .PrintReport(report_, fontSize_, picture_);
+PageDrawing ReportBox::Pages() const {
+  return [this](PageSurface& surface) {
+    const ProgramContext& context = screen().context();
+    ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
+        .PrintReport(report_, fontSize_, picture_);
+  };
 }
 
 Label::Label(Frame& frame, std::string name, std::string caption)

@@ -277,12 +277,12 @@ class ReportBox : public TextControl {
   /// @param picture  stands over the text in print
   void ShowReport(std::string report, int fontSize, const ReportFile& file = {},
                   PagePicture picture = {});
-  /// Prints the report on pages and ends the job. @throws what the pages throw
-  void PrintOn(PageSurface& surface) const;
   bool showsReport() const { return showsReport_; }
   /// The report with its marks, empty when none is shown.
   const std::string& report() const { return report_; }
   int fontSize() const { return fontSize_; }
+  /// Draws the pages of the report.
+  PageDrawing Pages() const;
   /// Empties and hides the box.
   void CloseReport();
   /// A help sentence that is shown beside the report, where the box is the help place too.

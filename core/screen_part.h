@@ -42,6 +42,7 @@ class ScreenPart {
   DecimalMark mark() const { return screen_.mark(); }
 
   // What a screen's own commands do.
+  double Read(Field& field) const { return screen_.Read(field); }
   void ReadCount(std::int16_t& slot, Field& field) const { screen_.ReadCount(slot, field); }
   static void Require(bool holds, Field& field, const char* message) {
     Screen::Require(holds, field, message);

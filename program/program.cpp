@@ -29,7 +29,9 @@ S& Program::AddScreen(Arguments&&... arguments) {
 Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)),
       shell_(std::make_unique<Shell>(*context_)),
-      camFiles_(std::make_unique<CamFiles>(*context_)) {
+      camFiles_(std::make_unique<CamFiles>(*context_)),
+      camTools_(std::make_unique<CamTools>(*shell_, *camFiles_)),
+      fileTools_(std::make_unique<FileTools>(*shell_)) {
   grapher_ = &AddScreen<Form8>();
   auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
