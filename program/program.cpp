@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "airfuel/blower_screen.h"
 #include "airfuel/nitrous_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
@@ -42,6 +43,7 @@ Program::Program(Host& host)
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();
+  AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
