@@ -209,7 +209,8 @@ int TableFace::CellWidth(int column) const {
   const QFontMetrics metrics = widget()->fontMetrics();
   QWidget cell;
   set().look().DressEntry(cell);
-  int width = cell.fontMetrics().horizontalAdvance(QLatin1Char('0')) * kCellDigits;
+  int width = cell.fontMetrics().horizontalAdvance(QLatin1Char('0')) *
+              std::max(kCellDigits, table_.column(column).characters);
   for (const QString& word : ToQt(table_.Head(column)).split(QLatin1Char(' '))) {
     width = std::max(width, metrics.horizontalAdvance(word));
   }
