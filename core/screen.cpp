@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "core/field_copy.h"
 #include "core/files.h"
 #include "core/key_table.h"
 #include "core/pages.h"
@@ -74,6 +75,7 @@ void Control::AppendReadingOrder(std::vector<Control*>& order) {
 
 void Control::Changed() {
   if (face_ != nullptr) face_->ControlChanged(*this);
+  for (const auto& follow : followers_) follow();
 }
 
 void Control::NoteChange() const {
@@ -217,12 +219,13 @@ ReportBox::ReportBox(Frame& frame, std::string name)
 
 void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
                            PagePicture picture) {
-  report_ = std::move(report);
+  std::string shown = ReportBoxText(report);
+  report_ = file.isWhole ? "\r\n" + report : std::move(report);
   file_ = file;
   picture_ = std::move(picture);
   fontSize_ = fontSize;
   showsReport_ = true;
-  SetText(ReportBoxText(report_));
+  SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) before_ = screen().focus();
   // The report's keys work at once.
@@ -271,6 +274,7 @@ void ReportBox::WriteReportToFile() const {
       host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
   std::string_view report = report_;
+  if (file_.isWhole) report.remove_prefix(report.find('\n') + 1);
   if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
     report.remove_prefix(ReportPrompt.size());
   }
@@ -673,10 +677,17 @@ std::string NameInMessages(const Control& control) {
   const std::vector<Control*>& all = control.screen().controls();
   const bool isElsewhere = std::any_of(all.begin(), all.end(), [&](const Control* other) {
     return other->kind() == control.kind() && other->frame() != control.frame() &&
-           other->PlainCaption() == caption;
+           other->PlainCaption() == caption && dynamic_cast<const FieldCopy*>(other) == nullptr;
   });
   const std::string frame = control.frame()->PlainCaption();
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
+}
+
+/// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
+/// could type there.
+void MarkFault(Control& control) {
+  control.SetMark(Mark::Error);
+  if (control.Reachable() || !control.Shown()) control.Focus();
 }
 
 }  // namespace
@@ -689,8 +700,7 @@ void Screen::Report(const CommandError& error) {
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   if (error.control() != nullptr) {
-    error.control()->SetMark(Mark::Error);
-    error.control()->Focus();
+    MarkFault(*error.control());
   }
 }
 
@@ -719,14 +729,23 @@ void Screen::TakeFocus(Control* control) {
   block().OptionFieldActive = field != nullptr && field->isOption() ? 1 : 0;
 }
 
+namespace {
+
+/// False where a field keeps the keyboard. One that a panel lies over cannot.
+bool MayLeave(Control* focus) {
+  auto* field = dynamic_cast<TextControl*>(focus);
+  return field == nullptr || !field->Reachable() || field->Leave();
+}
+
+}  // namespace
+
 bool Screen::MoveFocus(Control* control) {
   if (focus_ == control) return true;
   // What closes works always, and leaves a field as it stands.
   const auto* command = dynamic_cast<const Command*>(control);
   const bool closes =
       command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
-  auto* left = dynamic_cast<TextControl*>(focus_);
-  if (left != nullptr && !closes && !left->Leave()) return false;
+  if (!closes && !MayLeave(focus_)) return false;
   TakeFocus(control);
   return true;
 }
@@ -804,10 +823,7 @@ Command* Screen::NextCalculation() {
 bool Screen::CalculateAgain() {
   Command* command = NextCalculation();
   if (command == nullptr) return false;
-  if (auto* field = dynamic_cast<TextControl*>(focus_); field != nullptr && !field->Leave()) {
-    return false;
-  }
-  return command->Click();
+  return MayLeave(focus_) && command->Click();
 }
 
 void Screen::PutAwayPanel() {
@@ -905,8 +921,7 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
 }
 
 void Screen::FailAt(Field& field, std::string message) {
-  field.SetMark(Mark::Error);
-  field.Focus();
+  MarkFault(field);
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 

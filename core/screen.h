@@ -125,6 +125,9 @@ class Control {
   void SetEnabled(bool enabled);
   void SetMark(Mark mark);
   void SetFace(ControlFace* face) { face_ = face; }
+  /// Runs whenever what the control shows has changed, whoever changed it, for what follows of it
+  /// elsewhere on the screen.
+  void WhenChanged(std::function<void()> follow) { followers_.push_back(std::move(follow)); }
   /// Takes the keyboard focus.
   void Focus();
   /// An option of the main form: working it is no change of the data.
@@ -136,7 +139,7 @@ class Control {
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
-  /// Tells the face.
+  /// Tells the face and who else follows.
   void Changed();
   /// The user has turned or picked something: what the file would hold asks to be saved, and the
   /// screen follows.
@@ -155,6 +158,7 @@ class Control {
   std::string caption_;
   std::string help_;
   ControlFace* face_ = nullptr;
+  std::vector<std::function<void()>> followers_;
   bool visible_ = true;
   bool enabled_ = true;
   bool isOption_ = false;
@@ -265,6 +269,7 @@ struct ReportFile {
   const char* filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt";
   int filterIndex = 3;    ///< counts from 1
   bool hasPrompt = true;  ///< false: the file begins behind the report's first lines
+  bool isWhole = false;   ///< true: the report has no prompt, all of it is printed and written
 };
 
 /// The pane that shows a report; also the help place of screens without one of their own.
@@ -278,7 +283,8 @@ class ReportBox : public TextControl {
   void ShowReport(std::string report, int fontSize, const ReportFile& file = {},
                   PagePicture picture = {});
   bool showsReport() const { return showsReport_; }
-  /// The report with its marks, empty when none is shown.
+  /// The report with its marks, as it goes to the printer: behind a first line that is not
+  /// printed. Empty when none is shown.
   const std::string& report() const { return report_; }
   int fontSize() const { return fontSize_; }
   /// Draws the pages of the report.

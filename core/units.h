@@ -127,7 +127,24 @@ enum class Unit {
   Seconds,
   Feet,  ///< lengths on the road
   Miles,
+  LengthPerDegree,  ///< velocity of a cam's lift
+  LengthDegrees,    ///< area under a cam's lift
   PortArea,
+  // The same in both modes: of screens, or parts of them, that know no metric units.
+  SquareInches,
+  Horsepower,
+  Psi,
+  Fahrenheit,
+  InchesMercury,
+  InchesWater,
+  CubicFeetPerMinute,
+  PoundsPerHour,
+  KilogramsPerSecond,
+  GramsPerMinute,
+  CcPerMinute,
+  GallonsPerHour,
+  PoundsPerHorsepowerHour,
+  Milliseconds,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -164,7 +181,23 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Seconds: return "s";
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
+    case Unit::LengthPerDegree: return metric ? "mm/deg" : "in/deg";
+    case Unit::LengthDegrees: return metric ? "mm deg" : "in deg";
     case Unit::PortArea: return metric ? "sq cm" : "sq in";
+    case Unit::SquareInches: return "sq in";
+    case Unit::Horsepower: return "HP";
+    case Unit::Psi: return "psi";
+    case Unit::Fahrenheit: return "deg F";
+    case Unit::InchesMercury: return "in Hg";
+    case Unit::InchesWater: return "in H2O";
+    case Unit::CubicFeetPerMinute: return "CFM";
+    case Unit::PoundsPerHour: return "lb/hr";
+    case Unit::KilogramsPerSecond: return "kg/s";
+    case Unit::GramsPerMinute: return "g/min";
+    case Unit::CcPerMinute: return "cc/min";
+    case Unit::GallonsPerHour: return "gal/hr";
+    case Unit::PoundsPerHorsepowerHour: return "lb/hp-hr";
+    case Unit::Milliseconds: return "ms";
   }
   return "";
 }
@@ -172,7 +205,9 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
 /// How "Metric" converts a unit; null for those that are the same in both.
 constexpr const UnitRule* RuleOf(Unit unit) {
   switch (unit) {
-    case Unit::Length: return &kLengthRule;
+    case Unit::Length:
+    case Unit::LengthPerDegree:
+    case Unit::LengthDegrees: return &kLengthRule;
     case Unit::Area: return &kAreaRule;
     case Unit::PortArea: return &kPortAreaRule;
     case Unit::Volume: return &kVolumeRule;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/screen.h"
+#include "ui/window_look.h"
 
 class QWidget;
 
@@ -43,6 +44,8 @@ class Face : public QObject, public ControlFace {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   FaceSet& set() const { return set_; }
+  /// False for a click that goes nowhere, because the field that had the focus keeps it.
+  bool TakesClick();
 
  private:
   void FocusCame(Qt::FocusReason reason);
@@ -53,6 +56,7 @@ class Face : public QObject, public ControlFace {
   FaceSet& set_;
   Control& control_;
   QWidget* widget_;
+  bool refused_ = false;  ///< a field has kept the focus, and has told why
 };
 
 /// The faces of one window. It moves the screen's focus with the keyboard focus and puts
@@ -60,6 +64,12 @@ class Face : public QObject, public ControlFace {
 class FaceSet {
  public:
   explicit FaceSet(Screen& screen) : screen_(screen) {}
+
+  /// How the widgets look that are made from now on.
+  const WindowLook& look() const { return look_; }
+  void SetLook(WindowLook look) { look_ = std::move(look); }
+  /// Lets go of all controls: their widgets are about to be made anew.
+  void Clear();
 
   template <class F, class C, class... Args>
   F& Make(C& control, Args&&... args) {
@@ -85,6 +95,7 @@ class FaceSet {
 
  private:
   Screen& screen_;
+  WindowLook look_;
   std::vector<std::unique_ptr<Face>> faces_;
   std::map<const OptionGroup*, std::unique_ptr<QButtonGroup>> buttons_;
 };
