@@ -145,18 +145,16 @@ class CamDoctorHeader {
     if (next == std::string_view::npos) {
       throw lines_.Refusal("The header needs PVN, ICL and ECL, with commas between them.");
     }
-    Add("PVN", first.substr(0, comma));
-    Add("ICL", first.substr(comma + 1, next - comma - 1));
-    Add("ECL", first.substr(next + 1));
-    EndLine();
-    AddLine({"0.050 Overlap"});
-    AddLine({"Intake 0.050 Open", "Close", "Duration"});
-    AddLine({"Intake Cam Lift", "Valve Lift", "Area"});
-    AddLine({"Exhaust 0.050 Open", "Close", "Duration"});
-    AddLine({"Exhaust Cam Lift", "Valve Lift", "Area"});
-    text_ += "; ";
-    text_ += Trim(Value());
+    Add("; PVN = ", first.substr(0, comma));
+    Add("    ICL = ", first.substr(comma + 1, next - comma - 1));
+    Add("    ECL = ", first.substr(next + 1));
     text_ += kLineEnd;
+    AddLine({"; 0.050 Overlap = "});
+    AddLine({"; Intake 0.050 Open = ", "    Close = ", "    Duration = "});
+    AddLine({"; Intake Cam Lift = ", "    Valve Lift = ", "    Area = "});
+    AddLine({"; Exhaust 0.050 Open = ", "    Close = ", "    Duration = "});
+    AddLine({"; Exhaust Cam Lift = ", "    Valve Lift = ", "    Area = "});
+    AddLine({"; "});
     return std::move(text_);
   }
 
@@ -170,23 +168,15 @@ class CamDoctorHeader {
   }
   void AddLine(std::initializer_list<const char*> names) {
     for (const char* name : names) Add(name, Value());
-    EndLine();
+    text_ += kLineEnd;
   }
   void Add(const char* name, std::string_view value) {
-    text_ += lineIsEmpty_ ? "; " : "    ";
     text_ += name;
-    text_ += " = ";
     text_ += Trim(value);
-    lineIsEmpty_ = false;
-  }
-  void EndLine() {
-    text_ += kLineEnd;
-    lineIsEmpty_ = true;
   }
 
   LiftLines& lines_;
   std::string text_;
-  bool lineIsEmpty_ = true;
 };
 
 /// @param first  the first line that is no comment

@@ -53,7 +53,7 @@ void GraphOptionsPanel::ShowOptions() {
     field.SetText(FormatInt(value, mark()));
   };
   show(Text14, b.CustomGraphWidth);
-  show(Text18, b.CustomGraphHeight);
+  show(Text24, b.CustomGraphHeight);
   show(Text19, b.CustomGridLineCountx);
   show(Text20, b.CustomGridLineCounty);
   show(Text21, std::max<std::int16_t>(b.DrawLineWidth, 1));
@@ -83,7 +83,7 @@ void GraphOptionsPanel::ToggleSolidGrid() {
 void GraphOptionsPanel::SetGraphSize() {
   GraphSize size{};
   ReadCount(size.width, Text14);
-  ReadCount(size.height, Text18);
+  ReadCount(size.height, Text24);
   const auto isValid = [](int side) { return side >= kSmallestGraph && side <= kLargestGraph; };
   if (!isValid(size.width) || !isValid(size.height) ||
       size.width * size.height > kLargestGraphArea) {
@@ -129,7 +129,7 @@ void GraphOptionsPanel::RefreshHelp(const Control* control) {
   if (control == &Command5) {
     Command5.SetHelp("Click Enter Button to Confirm Changing the Graph Size Width" +
                      change(b.CustomGraphWidth, Text14) + " and the Height" +
-                     change(b.CustomGraphHeight, Text18) + "\r\n" + kGraphSizeNote);
+                     change(b.CustomGraphHeight, Text24) + "\r\n" + kGraphSizeNote);
   } else if (control == &Command3) {
     Command3.SetHelp("Click Enter Button to Confirm Changing the X-Axis Grid Line Count" +
                      change(b.CustomGridLineCountx, Text19) + " and the Y-Axis Grid Line Count" +

@@ -141,7 +141,7 @@ class GraphOptionsPanel : public ScreenPart {
 
   Frame SizeFrame{screen(), "SizeFrame", "Graph Size", 2};
   Field Text14{SizeFrame, "Text14", "Graph Size Width", "6", KeyRule::Digits};
-  Field Text18{SizeFrame, "Text18", "Graph Size Height", "6", KeyRule::Digits};
+  Field Text24{SizeFrame, "Text24", "Graph Size Height", "6", KeyRule::Digits};
   Command Command5{SizeFrame, "Command5", "Enter", "", [this] { SetGraphSize(); }};
 
   Frame DoneFrame{screen(), "DoneFrame", "", 2};

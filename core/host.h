@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -67,6 +68,14 @@ struct PictureResult {
   int error = 0;  ///< the encoder's number of what failed, 0 for nothing
 };
 
+/// How a print job uses the paper.
+enum class PageJob {
+  Report,    ///< in the orientation that is set up; a sheet that the paper cannot hold gets smaller
+  Measured,  ///< landscape and true to size; the printer is set to portrait again afterwards
+};
+/// Draws the pages of a job, its end among them.
+using PageDrawing = std::function<void(PageSurface&)>;
+
 /// Makes pictures of windows and of the graph. There is one while windows are shown.
 class PictureMaker {
  public:
@@ -85,6 +94,9 @@ class PictureMaker {
   /// Prints a picture on a page of the printer that the user chooses.
   /// @throws CommandError (File, Cancelled)
   virtual void PrintPicture(const PictureRequest& request) = 0;
+  /// The pages of a print job as the bytes of a PDF file.
+  /// @throws CommandError (File), and what the drawing throws
+  virtual std::string PagesAsPdf(PageJob job, const PageDrawing& draw) = 0;
 };
 
 /// A moment of the local clock.
@@ -117,8 +129,13 @@ class Host {
   virtual ScreenSize MeasureScreen() = 0;
   /// Begins a print job on the printer that is set up.
   /// @throws CommandError (File) when there is none, (Cancelled) when the user does not want to
-  virtual std::unique_ptr<PageSurface> OpenPrinter() {
+  virtual std::unique_ptr<PageSurface> OpenPrinter(PageJob /*job*/) {
     throw CommandError(ErrorKind::File, "No printer is set up on this computer.");
+  }
+  /// Shows the pages of a print job as they would be printed.
+  /// @throws CommandError (File), and what the drawing throws
+  virtual void PreviewPages(PageJob /*job*/, const PageDrawing& /*draw*/) {
+    throw CommandError(ErrorKind::File, "Pages can be previewed only while windows are shown.");
   }
   /// Shows or ends the hourglass.
   virtual void SetBusy(bool busy) = 0;
@@ -134,6 +151,8 @@ class Host {
   virtual ScreenSize MeasurePicture(const std::string& bytes);
   /// Puts the picture on the clipboard. @throws CommandError (File)
   virtual void CopyPicture(const PictureRequest& request);
+  /// The pages of a print job as the bytes of a PDF file. @throws CommandError (File)
+  virtual std::string PagesAsPdf(PageJob job, const PageDrawing& draw);
   /// Prints the grapher's surface. @throws CommandError (File, Cancelled)
   virtual void PrintGraph();
   /// Prints a screen's window as it shows. @param screen  its form name
@@ -164,6 +183,10 @@ inline ScreenSize Host::MeasurePicture(const std::string& bytes) {
 
 inline void Host::CopyPicture(const PictureRequest& request) {
   Pictures("There is no clipboard without windows.").CopyPicture(request);
+}
+
+inline std::string Host::PagesAsPdf(PageJob job, const PageDrawing& draw) {
+  return Pictures("A PDF can be made only while windows are shown.").PagesAsPdf(job, draw);
 }
 
 inline void Host::PrintGraph() {

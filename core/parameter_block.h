@@ -133,7 +133,7 @@ struct ParameterBlock {
   std::array<double, 54> BSACRPM{};
   double GraphXMax{0};
   double GraphYMax{0};
-  double MaxRPM{0};
+  double MaxRPM{8000};
 
   // Camshafts
   double IntakeOpen{0};

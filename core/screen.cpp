@@ -278,8 +278,15 @@ void ReportBox::WriteReportToFile() const {
 
 void ReportBox::PrintReport() const {
   Host& host = screen().context().host;
-  const std::unique_ptr<PageSurface> surface = host.OpenPrinter();
-  ReportPrinter(*surface, HeaderOf(screen().block(), host.Now())).PrintReport(report_, fontSize_);
+  Pages()(*host.OpenPrinter(PageJob::Report));
+}
+
+PageDrawing ReportBox::Pages() const {
+  return [this](PageSurface& surface) {
+    const ProgramContext& context = screen().context();
+    ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
+        .PrintReport(report_, fontSize_);
+  };
 }
 
 Label::Label(Frame& frame, std::string name, std::string caption)

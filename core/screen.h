@@ -282,6 +282,8 @@ class ReportBox : public TextControl {
   /// The report with its marks, empty when none is shown.
   const std::string& report() const { return report_; }
   int fontSize() const { return fontSize_; }
+  /// Draws the pages of the report.
+  PageDrawing Pages() const;
   /// Empties and hides the box.
   void CloseReport();
   /// A help sentence that is shown beside the report, where the box is the help place too.

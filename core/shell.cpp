@@ -126,7 +126,7 @@ bool Shell::MenuEnabled(const MenuItem& item) {
     case MenuKind::Screen:
     case MenuKind::List:
     case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
-    case MenuKind::Action: return item.action != nullptr;
+    case MenuKind::Action: return item.action != nullptr || works_.contains(item.name);
     case MenuKind::Submenu:
       return std::any_of(Menu().begin(), Menu().end(), [&](const MenuItem& child) {
         return child.parent == item.name && MenuEnabled(child);
@@ -147,8 +147,10 @@ void Shell::Choose(const MenuItem& item) {
     Open(*screen);
   } else if (item.kind == MenuKind::PrintScreen) {
     Perform([&] { printing.PrintScreen(std::string(item.screen)); });
-  } else {
+  } else if (item.action != nullptr) {
     Perform([&] { (this->*item.action)(); });
+  } else {
+    Perform(works_.find(item.name)->second);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -90,7 +91,15 @@ class Shell : public Screen {
 
   /// The panels that take the launcher's place while they are shown.
   std::vector<ScreenPart*> Panels() {
-    return {&notes, &delimitedColumns, &graphOptions, &appearance};
+    std::vector<ScreenPart*> panels{&notes, &delimitedColumns, &graphOptions, &appearance};
+    panels.insert(panels.end(), toolPanels_.begin(), toolPanels_.end());
+    return panels;
+  }
+  /// Adds a panel of a tool that the shell has not itself; all are added before Start.
+  void AddPanel(ScreenPart& panel) { toolPanels_.push_back(&panel); }
+  /// Gives a menu item its work, where that is not the shell's own.
+  void SetWork(std::string_view menuItem, Handler work) {
+    works_.emplace(menuItem, std::move(work));
   }
 
   // Menu actions
@@ -124,6 +133,8 @@ class Shell : public Screen {
   void TellMenuChanged();
 
   std::vector<Screen*> screens_;
+  std::vector<ScreenPart*> toolPanels_;
+  std::map<std::string, Handler, std::less<>> works_;  ///< of menu items, by their names
   ShellFace* shellFace_ = nullptr;
   std::function<void(Screen&)> opened_;
   TitleAnimation titleAnimation_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -70,6 +71,10 @@ class Table : public Control {
   const std::string& Head(int column) const;
   /// Gives a column another head; its fields are called by it from then on.
   void SetHead(int column, std::string head);
+  /// Rows that are not in use are shown dimmed; their texts stay, and they take input as ever.
+  /// @param unused  asked of a row whenever the table is shown anew
+  void DimRows(std::function<bool(int row)> unused);
+  bool IsDimmed(int row) const { return unused_ != nullptr && unused_(row); }
   Range all() const { return {0, 0, rows() - 1, columns() - 1}; }
 
   /// The nearest cell that is shown, in a direction; null where there is none.
@@ -96,6 +101,7 @@ class Table : public Control {
 
   std::vector<TableColumn> columns_;
   TableRows rowNames_;
+  std::function<bool(int row)> unused_;
   int rows_ = 0;
 };
 

@@ -19,6 +19,10 @@ inline constexpr double kKilogramsPerPound = 0.4535923696;
 inline constexpr double kKilometresPerMile = 1.609344;
 inline constexpr double kMetreKilogramsPerFootPound = 0.13825499407704847;
 inline constexpr double kBarPerPsi = 0.0689475729;
+inline constexpr double kKilopascalsPerPsi = 6.89475729;
+inline constexpr double kPsiPerInchMercury = 0.4911542;
+/// What the atmosphere weighs where no barometer tells it.
+inline constexpr double kStandardAtmospherePsi = 14.69595;
 /// Gravity.
 inline constexpr double kMetresASecondSquared = 9.80665;
 inline constexpr double kFeetASecondSquared = 32.17405;
@@ -77,6 +81,9 @@ inline constexpr UnitRule kTorqueRule{
 inline constexpr UnitRule kMeanPressureRule{[](double psi) { return psi * kBarPerPsi; },
                                             [](double bar) { return bar / kBarPerPsi; }};
 
+inline constexpr UnitRule kBoostPressureRule{[](double psi) { return psi * kKilopascalsPerPsi; },
+                                             [](double kpa) { return kpa / kKilopascalsPerPsi; }};
+
 /// Temperature in degrees Celsius.
 inline constexpr double CelsiusOf(double fahrenheit) {
   return (fahrenheit - 32) * 5 / 9;
@@ -116,6 +123,7 @@ enum class Unit {
   MilesPerHour,  ///< in both modes
   Torque,
   MeanPressure,
+  BoostPressure,  ///< above the atmosphere's
   Seconds,
   Feet,  ///< lengths on the road
   Miles,
@@ -167,6 +175,7 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::MilesPerHour: return "MPH";
     case Unit::Torque: return metric ? "m-kg" : "lb-ft";
     case Unit::MeanPressure: return metric ? "bar" : "psi";
+    case Unit::BoostPressure: return metric ? "kPa" : "psi";
     case Unit::Seconds: return "s";
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
@@ -208,6 +217,7 @@ constexpr const UnitRule* RuleOf(Unit unit) {
     case Unit::Feet: return &kFeetRule;
     case Unit::Torque: return &kTorqueRule;
     case Unit::MeanPressure: return &kMeanPressureRule;
+    case Unit::BoostPressure: return &kBoostPressureRule;
     default: return nullptr;
   }
 }

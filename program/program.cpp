@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "airfuel/airflow_screen.h"
+#include "airfuel/blower_screen.h"
 #include "airfuel/nitrous_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
@@ -29,7 +30,9 @@ S& Program::AddScreen(Arguments&&... arguments) {
 Program::Program(Host& host)
     : context_(std::make_unique<ProgramContext>(host)),
       shell_(std::make_unique<Shell>(*context_)),
-      camFiles_(std::make_unique<CamFiles>(*context_)) {
+      camFiles_(std::make_unique<CamFiles>(*context_)),
+      camTools_(std::make_unique<CamTools>(*shell_, *camFiles_)),
+      fileTools_(std::make_unique<FileTools>(*shell_)) {
   grapher_ = &AddScreen<Form8>();
   auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
@@ -39,6 +42,7 @@ Program::Program(Host& host)
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();
+  AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
   AddScreen<Form4>();
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });

@@ -4,9 +4,11 @@
 #include <vector>
 
 #include "cam/cam_files.h"
+#include "cam/cam_tools.h"
 #include "core/about_screen.h"
 #include "core/shell.h"
 #include "graph/grapher_screen.h"
+#include "vehicle/file_tools.h"
 
 namespace veldox {
 
@@ -30,6 +32,8 @@ class Program {
   std::unique_ptr<ProgramContext> context_;
   std::unique_ptr<Shell> shell_;
   std::unique_ptr<CamFiles> camFiles_;
+  std::unique_ptr<CamTools> camTools_;
+  std::unique_ptr<FileTools> fileTools_;
   std::vector<std::unique_ptr<Screen>> screens_;
   Form8* grapher_ = nullptr;
   Form15* about_ = nullptr;

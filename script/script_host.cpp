@@ -122,9 +122,17 @@ std::optional<std::int32_t> ScriptHost::AskColor() {
   return Take(colors);
 }
 
-std::unique_ptr<PageSurface> ScriptHost::OpenPrinter() {
+std::unique_ptr<PageSurface> ScriptHost::OpenPrinter(PageJob job) {
   ChoosePrinter();
-  return std::make_unique<ScriptPrinter>(*this, orientation_ == Orientation::Landscape);
+  const bool landscape = job == PageJob::Measured || orientation_ == Orientation::Landscape;
+  if (job == PageJob::Measured) orientation_ = Orientation::Portrait;
+  return std::make_unique<ScriptPrinter>(*this, landscape);
+}
+
+void ScriptHost::PreviewPages(PageJob job, const PageDrawing& draw) {
+  dialogs.emplace_back("preview");
+  ScriptPrinter printer(*this, job == PageJob::Measured || orientation_ == Orientation::Landscape);
+  draw(printer);
 }
 
 void ScriptHost::PrintGraph() {

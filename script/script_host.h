@@ -61,7 +61,8 @@ class ScriptHost : public Host {
   DecimalMark SystemDecimalMark() override { return settings_.mark; }
   std::filesystem::path ProgramFolder() override { return settings_.folder; }
   ScreenSize MeasureScreen() override { return {1366, 768, 96}; }
-  std::unique_ptr<PageSurface> OpenPrinter() override;
+  std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override;
+  void PreviewPages(PageJob job, const PageDrawing& draw) override;
   void PrintGraph() override;
   void PrintWindow(const std::string& screen) override;
   void SetUpPrinter() override { ChoosePrinter(); }

@@ -42,5 +42,5 @@ require_packages() {
 
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl-dev)
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev libgmock-dev locales)
+TEST_PACKAGES=(libgtest-dev libgmock-dev locales poppler-utils)
 LINT_PACKAGES=(clang-format clang-tidy)

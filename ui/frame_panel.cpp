@@ -93,6 +93,11 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
     }
   }
   PlaceCommands(faces, commands);
+  // What a table cannot use stands below all else.
+  if (growsToAnEnd_) {
+    grid_->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding),
+                   grid_->rowCount(), 0);
+  }
 }
 
 void FramePanel::Place(FaceSet& faces, Control& control) {
@@ -136,6 +141,7 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
     case ControlKind::Table: {
       auto& face = faces.Make<TableFace>(static_cast<Table&>(control), this);
       if (face.grows()) grid_->setRowStretch(row, 1);
+      growsToAnEnd_ = growsToAnEnd_ || face.grows();
       grid_->addWidget(face.widget(), row, 0, 1, 3,
                        face.grows() ? Qt::Alignment() : Qt::AlignTop | Qt::AlignLeft);
       break;

@@ -31,7 +31,8 @@ class FramePanel : public QGroupBox {
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
   bool asksForCare_;
-  bool grows_ = false;  ///< holds something that takes all the room there is
+  bool grows_ = false;         ///< holds something that takes all the room there is
+  bool growsToAnEnd_ = false;  ///< holds a table that takes room until all its rows are in sight
 };
 
 /// Stands for a frame that is shown and hidden in its place.

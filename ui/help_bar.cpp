@@ -201,7 +201,11 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
   connect(AddButton(*keys, "Save as PDF", "Save the pages of this report as a PDF file."),
           &QPushButton::clicked, this, [this] { SaveAsPdf(); });
   connect(AddButton(*keys, "Preview", "Show the pages of this report as they would be printed."),
-          &QPushButton::clicked, this, [this] { PreviewReport(box_, window()); });
+          &QPushButton::clicked, this, [this] {
+            box_.screen().Perform([this] {
+              box_.screen().context().host.PreviewPages(PageJob::Report, box_.Pages());
+            });
+          });
   connect(AddButton(*keys, "Write to File  (.)", "Write this report to a disk file."),
           &QPushButton::clicked, this, [this] { box_.FilterKey(U'.'); });
   connect(AddButton(*keys, "Print  (,)", "Print this report."), &QPushButton::clicked, this,
@@ -238,7 +242,7 @@ void ReportPanel::SaveAsPdf() {
     const auto path =
         host.AskFile({FileDialog::Kind::Save, "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*", 1,
                       host.ProgramFolder()});
-    if (path) SaveFile(*path, ReportAsPdf(box_));
+    if (path) SaveFile(*path, host.PagesAsPdf(PageJob::Report, box_.Pages()));
   });
 }
 

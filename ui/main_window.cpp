@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/column_flow.h"
 #include "ui/control_faces.h"
@@ -104,7 +105,13 @@ void MainWindow::BuildPages() {
 }
 
 QWidget* MainWindow::BuildPanel(PanelFace& panel) {
-  if (panel.frames().size() == 1) return new FramePanel(faces_, panel.frame(), {}, pages_);
+  // A text takes all the room there is; fields stand close together.
+  const auto& controls = panel.frame().controls();
+  const bool holdsText = std::any_of(controls.begin(), controls.end(), [](const Control* control) {
+    return control->kind() == ControlKind::TextArea;
+  });
+  if (panel.frames().size() == 1 && holdsText)
+    return new FramePanel(faces_, panel.frame(), {}, pages_);
   auto* scroll = new FlowScroll(pages_);
   auto* body = new ColumnFlow(0, kMargin, scroll);
   for (QWidget* column : BuildFrameColumns(faces_, panel.frames(), {}, kMargin, body)) {

@@ -220,8 +220,12 @@ ScreenSize QtHost::MeasureScreen() {
           qRound(screen->logicalDotsPerInch() * scale)};
 }
 
-std::unique_ptr<PageSurface> QtHost::OpenPrinter() {
-  return OpenPrinterByDialog(QApplication::activeWindow());
+std::unique_ptr<PageSurface> QtHost::OpenPrinter(PageJob job) {
+  return OpenPrinterByDialog(job, QApplication::activeWindow());
+}
+
+void QtHost::PreviewPages(PageJob job, const PageDrawing& draw) {
+  PreviewByDialog(job, draw, QApplication::activeWindow());
 }
 
 void QtHost::PrintGraph() {

@@ -15,7 +15,8 @@ class QtHost : public Host {
   DecimalMark SystemDecimalMark() override;
   std::filesystem::path ProgramFolder() override;
   ScreenSize MeasureScreen() override;
-  std::unique_ptr<PageSurface> OpenPrinter() override;
+  std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override;
+  void PreviewPages(PageJob job, const PageDrawing& draw) override;
   void PrintGraph() override;
   void PrintWindow(const std::string& screen) override;
   void SetUpPrinter() override;

@@ -156,6 +156,10 @@ void QtPictures::PrintPicture(const PictureRequest& request) {
   PrintOn(ChoosePrinterByDialog(QApplication::activeWindow()), request);
 }
 
+std::string QtPictures::PagesAsPdf(PageJob job, const PageDrawing& draw) {
+  return DrawPdf(job, draw);
+}
+
 void QtPictures::PrintOn(QPrinter& printer, const PictureRequest& request) {
   const bool window = request.of == PictureRequest::Of::Window;
   const QImage image = window ? WindowImage(request) : QImage();

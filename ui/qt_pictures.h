@@ -20,6 +20,7 @@ class QtPictures : public PictureMaker {
   ScreenSize MeasurePicture(const std::string& bytes) override;
   void CopyPicture(const PictureRequest& request) override;
   void PrintPicture(const PictureRequest& request) override;
+  std::string PagesAsPdf(PageJob job, const PageDrawing& draw) override;
 
   /// Paints a picture on a page, as large as fits. @throws CommandError (File)
   void PrintOn(QPrinter& printer, const PictureRequest& request);

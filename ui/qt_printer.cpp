@@ -7,6 +7,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <algorithm>
+#include <exception>
 
 #include "core/pages.h"
 #include "ui/qt_text.h"
@@ -40,15 +41,37 @@ QPrinter& ChosenPrinter() {
   return *printer;
 }
 
-void PrintOn(QPagedPaintDevice& device, const ReportBox& box) {
-  PainterPageSurface surface(device);
-  ReportPrinter(surface, HeaderOf(box.screen().block(), box.screen().context().host.Now()))
-      .PrintReport(box.report(), box.fontSize());
-}
+/// A job on a printer, with the paper as it needs it.
+class PrinterJob : private PaperLayout, public PainterPageSurface {
+ public:
+  PrinterJob(QPrinter& printer, PageJob job)
+      : PaperLayout(printer, job), PainterPageSurface(printer, job) {}
+};
 
 }  // namespace
 
-PainterPageSurface::PainterPageSurface(QPagedPaintDevice& device)
+PaperLayout::PaperLayout(QPagedPaintDevice& device, PageJob job)
+    : device_(device), job_(job), before_(device.pageLayout()) {
+  if (job_ != PageJob::Measured) return;
+  // A long strip needs the paper to its edges, but for what printers cannot reach.
+  constexpr double kNarrowestMargin = 12;  // points
+  QPageLayout layout = before_;
+  layout.setOrientation(QPageLayout::Landscape);
+  layout.setUnits(QPageLayout::Point);
+  const QMarginsF least = layout.minimumMargins();
+  layout.setMargins(
+      {std::max(least.left(), kNarrowestMargin), std::max(least.top(), kNarrowestMargin),
+       std::max(least.right(), kNarrowestMargin), std::max(least.bottom(), kNarrowestMargin)});
+  device_.setPageLayout(layout);
+}
+
+PaperLayout::~PaperLayout() {
+  if (job_ != PageJob::Measured) return;
+  before_.setOrientation(QPageLayout::Portrait);
+  device_.setPageLayout(before_);
+}
+
+PainterPageSurface::PainterPageSurface(QPagedPaintDevice& device, PageJob job)
     : device_(device), landscape_(IsLandscape(device)) {
   if (!painter_.begin(&device_)) {
     throw CommandError(ErrorKind::File, "The printer could not be started. Nothing was printed.");
@@ -56,8 +79,11 @@ PainterPageSurface::PainterPageSurface(QPagedPaintDevice& device)
   const SheetSize sheet = PageSheet(landscape_);
   const double unitsPerTwip = device_.logicalDpiX() / kTwipsPerInch;
   // Paper that holds less than the sheet gets it smaller, never cut off.
-  scale_ = std::min({unitsPerTwip, static_cast<double>(device_.width()) / sheet.width,
-                     static_cast<double>(device_.height()) / sheet.height});
+  scale_ = unitsPerTwip;
+  if (job == PageJob::Report) {
+    scale_ = std::min({scale_, static_cast<double>(device_.width()) / sheet.width,
+                       static_cast<double>(device_.height()) / sheet.height});
+  }
   painter_.scale(scale_, scale_);
 }
 
@@ -100,8 +126,8 @@ QPrinter& ChoosePrinterByDialog(QWidget* parent) {
   return ChosenPrinter();
 }
 
-std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent) {
-  return std::make_unique<PainterPageSurface>(ChoosePrinterByDialog(parent));
+std::unique_ptr<PageSurface> OpenPrinterByDialog(PageJob job, QWidget* parent) {
+  return std::make_unique<PrinterJob>(ChoosePrinterByDialog(parent), job);
 }
 
 void SetUpPrinterByDialog(QWidget* parent) {
@@ -110,17 +136,27 @@ void SetUpPrinterByDialog(QWidget* parent) {
   if (dialog.exec() != QDialog::Accepted) throw CommandError(ErrorKind::Cancelled, "");
 }
 
-void PreviewReport(const ReportBox& box, QWidget* parent) {
+void PreviewByDialog(PageJob job, const PageDrawing& draw, QWidget* parent) {
+  const PaperLayout layout(ChosenPrinter(), job);
   QPrintPreviewDialog dialog(&ChosenPrinter(), parent);
   dialog.setWindowTitle(QStringLiteral("Print Preview"));
-  QObject::connect(
-      &dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-      [&box](QPrinter* printer) { box.screen().Perform([&] { PrintOn(*printer, box); }); });
+  std::exception_ptr failure;
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* printer) {
+    try {
+      PainterPageSurface surface(*printer, job);
+      draw(surface);
+    } catch (...) {
+      // Nothing may pass through the toolkit's own frames.
+      failure = std::current_exception();
+      QMetaObject::invokeMethod(&dialog, &QDialog::reject, Qt::QueuedConnection);
+    }
+  });
   dialog.resize(dialog.sizeHint().expandedTo(QSize(900, 680)));
   dialog.exec();
+  if (failure != nullptr) std::rethrow_exception(failure);
 }
 
-std::string ReportAsPdf(const ReportBox& box) {
+std::string DrawPdf(PageJob job, const PageDrawing& draw) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   {
@@ -128,7 +164,9 @@ std::string ReportAsPdf(const ReportBox& box) {
     writer.setResolution(static_cast<int>(kTwipsPerInch) / 2);
     writer.setPageLayout(ChosenPrinter().pageLayout());
     writer.setCreator(QStringLiteral("VELDOX"));
-    PrintOn(writer, box);
+    const PaperLayout layout(writer, job);
+    PainterPageSurface surface(writer, job);
+    draw(surface);
   }
   return buffer.data().toStdString();
 }

@@ -12,12 +12,26 @@
 
 namespace veldox {
 
-/// Pages on a printer, a PDF or a preview. The sheet of the layout is fitted into what the
+/// How the paper of a device lies for a job; afterwards it lies as the job leaves it.
+class PaperLayout {
+ public:
+  PaperLayout(QPagedPaintDevice& device, PageJob job);
+  PaperLayout(const PaperLayout&) = delete;
+  PaperLayout& operator=(const PaperLayout&) = delete;
+  ~PaperLayout();
+
+ private:
+  QPagedPaintDevice& device_;
+  PageJob job_;
+  QPageLayout before_;
+};
+
+/// Pages on a printer, a PDF or a preview. The sheet of a report's layout is fitted into what the
 /// device can print on; texts are set to the widths that the layout counted on.
 class PainterPageSurface : public PageSurface {
  public:
   /// @throws CommandError (File) when the device cannot be drawn on
-  explicit PainterPageSurface(QPagedPaintDevice& device);
+  PainterPageSurface(QPagedPaintDevice& device, PageJob job);
 
   bool landscape() const override { return landscape_; }
   void PlaceText(int x, int y, const PageFont& font, std::string_view text) override;
@@ -36,17 +50,17 @@ QPrinter& ChoosePrinterByDialog(QWidget* parent);
 
 /// Lets the user choose a printer and begins a job on it.
 /// @throws CommandError (Cancelled, File)
-std::unique_ptr<PageSurface> OpenPrinterByDialog(QWidget* parent);
+std::unique_ptr<PageSurface> OpenPrinterByDialog(PageJob job, QWidget* parent);
 
 /// The platform's dialog for printer, paper and orientation; what is chosen stays chosen.
 /// @throws CommandError (Cancelled)
 void SetUpPrinterByDialog(QWidget* parent);
 
-/// Shows the pages of a report as they would be printed.
-void PreviewReport(const ReportBox& box, QWidget* parent);
+/// Shows the pages of a job as they would be printed. @throws what the drawing throws
+void PreviewByDialog(PageJob job, const PageDrawing& draw, QWidget* parent);
 
-/// The pages of a report as the bytes of a PDF file.
-/// @throws CommandError (File)
-std::string ReportAsPdf(const ReportBox& box);
+/// The pages of a job as the bytes of a PDF file.
+/// @throws CommandError (File), and what the drawing throws
+std::string DrawPdf(PageJob job, const PageDrawing& draw);
 
 }  // namespace veldox

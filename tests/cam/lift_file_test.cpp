@@ -5,10 +5,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <functional>
 #include <numeric>
 #include <string>
 
 #include "core/error.h"
+#include "core/files.h"
 
 namespace veldox {
 namespace {
@@ -287,6 +290,38 @@ TEST(LiftText, SingleColumnRefusesAFlankOver180Degrees) {
   EXPECT_NO_THROW(S96Text(whole, 90));
   EXPECT_THROW(S96Text(whole, 91), CommandError);
   EXPECT_THROW(S96Text(whole, 89), CommandError);
+}
+
+/// A lobe as it comes in: it rises to its nose, and falls from there.
+void ExpectLobe(const LiftSide& side, double peak) {
+  const auto nose = std::max_element(side.lifts.begin(), side.lifts.end());
+  EXPECT_NEAR(*nose, peak, 1e-9);
+  EXPECT_TRUE(std::is_sorted(side.lifts.begin(), nose));
+  EXPECT_TRUE(std::is_sorted(nose, side.lifts.end(), std::greater<>()));
+}
+
+TEST(LiftFile, SamplesAreWholeLobes) {
+  const std::filesystem::path folder = std::filesystem::path(VELDOX_SOURCE_DIR) / "samples";
+  const auto sample = [&](const char* name) {
+    return Parsed(DecodeText(LoadFile(folder / name)), name);
+  };
+  const LiftFile street = sample("street_hydraulic.cmm");
+  EXPECT_EQ(street.step, 2);
+  EXPECT_EQ(street.intake.count(), 340 / 2 + 1);
+  ExpectLobe(street.intake, 0.310);
+  ExpectLobe(street.exhaust, 0.315);
+  const LiftFile drag = sample("drag_solid_roller.cmm");
+  EXPECT_EQ(drag.step, 1);
+  EXPECT_EQ(drag.intakeLash, 0.022);
+  EXPECT_EQ(drag.exhaustLash, 0.024);
+  EXPECT_EQ(drag.exhaust.count(), 388 + 1);
+  ExpectLobe(drag.intake, 0.420);
+  ExpectLobe(drag.exhaust, 0.430);
+  const LiftFile pair = sample("lobe_pair.c1");
+  EXPECT_EQ(pair.format, LiftFormat::CamDoctor);
+  EXPECT_FALSE(pair.hasBadRow);
+  ExpectLobe(pair.intake, 0.335);
+  ExpectLobe(pair.exhaust, 0.340);
 }
 
 TEST(LiftEdit, ChangesLiftsWhereTheyStand) {

@@ -461,6 +461,30 @@ TEST_F(PlotEngineTest, ManyNamesLeaveTheGraphItsRoom) {
   EXPECT_NE(many.Find("..."), nullptr);
 }
 
+TEST_F(PlotEngineTest, ManyNamesStandInColumns) {
+  plot_.SetScale({0, 10, 0, 10});
+  plot_.DrawAxes();
+  const std::vector<GraphPoint> points{{0, 0}, {10, 10}};
+  const auto name = [](int i) { return "Row " + std::to_string(10 + i); };
+  for (int i = 0; i < 8; ++i) plot_.PlotSeries(points, name(i));
+  RecordingSurface few(800, 600);
+  plot_.DrawOn(few, {});
+  for (int i = 1; i < 8; ++i) EXPECT_EQ(few.Find(name(i))->at.x, few.Find(name(0))->at.x);
+  for (int i = 8; i < 12; ++i) plot_.PlotSeries(points, name(i));
+  RecordingSurface more(800, 600);
+  const double top = plot_.DrawOn(more, {}).frame.top;
+  // Two columns of six, read downwards, none upon the other.
+  EXPECT_EQ(more.Find(name(5))->at.x, more.Find(name(0))->at.x);
+  EXPECT_EQ(more.Find(name(6))->at.y, more.Find(name(0))->at.y);
+  EXPECT_GE(more.Find(name(6))->at.x, more.Find(name(0))->at.x + more.TextWidth(name(0), 10) + 10);
+  EXPECT_EQ(more.Find(name(11))->at.y, more.Find(name(5))->at.y);
+  EXPECT_LT(more.Find(name(11))->at.y + 10, top);
+  // Where there is no room for a second column, there is none.
+  RecordingSurface narrow(150, 600);
+  plot_.DrawOn(narrow, {});
+  EXPECT_EQ(narrow.Find(name(11))->at.x, narrow.Find(name(0))->at.x);
+}
+
 TEST_F(PlotEngineTest, ACurveOfAnEarlierScaleStaysWhereItWasDrawn) {
   plot_.SetScale({0, 10, 0, 10});
   plot_.DrawAxes();

@@ -25,17 +25,17 @@ click Main.Grid_Color
 value Grid Color
 pause size
 set Main.Text14 40
-set Main.Text18 41
+set Main.Text24 41
 hover Main.Command5
 get Main.Label77
 click Main.Command5
-set Main.Text18 3
+set Main.Text24 3
 click Main.Command5
-set Main.Text18 65
+set Main.Text24 65
 click Main.Command5
 messages
 value Custom Graph Width
-set Main.Text18 40
+set Main.Text24 40
 click Main.Command5
 messages
 value Custom Graph Width

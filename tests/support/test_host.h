@@ -47,6 +47,7 @@ class TestHost : public Host {
   ScreenSize screen{1366, 768, 96};
   /// What a print job is drawn on; a job that nobody prepared fails the test.
   std::unique_ptr<PageSurface> printer;
+  std::optional<PageJob> printJob;  ///< how the last job used the paper
 
   Button Ask(const Message& message) override {
     messages.push_back(message);
@@ -70,10 +71,11 @@ class TestHost : public Host {
   DecimalMark SystemDecimalMark() override { return decimalMark; }
   std::filesystem::path ProgramFolder() override { return folder; }
   ScreenSize MeasureScreen() override { return screen; }
-  std::unique_ptr<PageSurface> OpenPrinter() override {
+  std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override {
+    printJob = job;
     if (printer != nullptr) return std::move(printer);
     ADD_FAILURE() << "unexpected print job";
-    return Host::OpenPrinter();
+    return Host::OpenPrinter(job);
   }
   void SetBusy(bool busy) override {
     busyDepth_ += busy ? 1 : -1;
