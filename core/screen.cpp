@@ -217,9 +217,11 @@ ReportBox::ReportBox(Frame& frame, std::string name)
   SetVisible(false);
 }
 
-void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file) {
+void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                           PagePicture picture) {
   report_ = std::move(report);
   file_ = file;
+  picture_ = std::move(picture);
   fontSize_ = fontSize;
   showsReport_ = true;
   SetText(ReportBoxText(report_));
@@ -237,6 +239,7 @@ void ReportBox::ShowSentence(std::string sentence) {
 
 void ReportBox::CloseReport() {
   report_.clear();
+  picture_ = {};
   sentence_.clear();
   showsReport_ = false;
   Control* before = std::exchange(before_, nullptr);
@@ -285,7 +288,7 @@ PageDrawing ReportBox::Pages() const {
   return [this](PageSurface& surface) {
     const ProgramContext& context = screen().context();
     ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
-        .PrintReport(report_, fontSize_);
+        .PrintReport(report_, fontSize_, picture_);
   };
 }
 
@@ -760,6 +763,7 @@ bool TakesKeyboard(const Control& control) {
     case ControlKind::Label:
     case ControlKind::Frame:
     case ControlKind::Table:
+    case ControlKind::Drawing:
     case ControlKind::OptionPart:
     case ControlKind::OptionGroup: return false;
     case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
@@ -919,8 +923,9 @@ void Screen::FailAt(Field& field, std::string message) {
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 
-void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file) {
-  ReportPane()->ShowReport(std::move(report), fontSize, file);
+void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                        PagePicture picture) {
+  ReportPane()->ShowReport(std::move(report), fontSize, file, std::move(picture));
 }
 
 std::string Screen::TextOf(const Field& field, double value) const {

@@ -11,6 +11,7 @@
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
 #include "reference/weather_screen.h"
+#include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
@@ -39,6 +40,7 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form11>();
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();

@@ -205,7 +205,8 @@ int TableFace::CaptionWidth() const {
 
 int TableFace::CellWidth(int column) const {
   const QFontMetrics metrics = widget()->fontMetrics();
-  int width = metrics.horizontalAdvance(QLatin1Char('0')) * kCellDigits;
+  int width = metrics.horizontalAdvance(QLatin1Char('0')) *
+              std::max(kCellDigits, table_.column(column).characters);
   for (const QString& word : ToQt(table_.Head(column)).split(QLatin1Char(' '))) {
     width = std::max(width, metrics.horizontalAdvance(word));
   }
