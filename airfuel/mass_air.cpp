@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::array<double, 7> kStoichiometric{14.7, 9.77, 9.0, 6.4, 14.6, 15.5, 17.2};
 
-constexpr double kPsiPerInchMercury = 0.4911542;
 constexpr double kKilopascalPerPsi = 6.89475729;
 /// Joules that a kilogram of air takes up for a kelvin, over its change of volume.
 constexpr double kGasConstantOfAir = 287;
