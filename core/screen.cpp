@@ -219,12 +219,13 @@ ReportBox::ReportBox(Frame& frame, std::string name)
 
 void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
                            PagePicture picture) {
-  report_ = std::move(report);
+  std::string shown = ReportBoxText(report);
+  report_ = file.isWhole ? "\r\n" + report : std::move(report);
   file_ = file;
   picture_ = std::move(picture);
   fontSize_ = fontSize;
   showsReport_ = true;
-  SetText(ReportBoxText(report_));
+  SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) before_ = screen().focus();
   // The report's keys work at once.
@@ -273,6 +274,7 @@ void ReportBox::WriteReportToFile() const {
       host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
   std::string_view report = report_;
+  if (file_.isWhole) report.remove_prefix(report.find('\n') + 1);
   if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
     report.remove_prefix(ReportPrompt.size());
   }

@@ -269,6 +269,7 @@ struct ReportFile {
   const char* filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt";
   int filterIndex = 3;    ///< counts from 1
   bool hasPrompt = true;  ///< false: the file begins behind the report's first lines
+  bool isWhole = false;   ///< true: the report has no prompt, all of it is printed and written
 };
 
 /// The pane that shows a report; also the help place of screens without one of their own.
@@ -282,7 +283,8 @@ class ReportBox : public TextControl {
   void ShowReport(std::string report, int fontSize, const ReportFile& file = {},
                   PagePicture picture = {});
   bool showsReport() const { return showsReport_; }
-  /// The report with its marks, empty when none is shown.
+  /// The report with its marks, as it goes to the printer: behind a first line that is not
+  /// printed. Empty when none is shown.
   const std::string& report() const { return report_; }
   int fontSize() const { return fontSize_; }
   /// Draws the pages of the report.

@@ -78,7 +78,9 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
                        QWidget* parent)
     : QGroupBox(ToQt(frame.caption()), parent),
       grid_(new QGridLayout(this)),
-      asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr) {
+      asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr),
+      ground_(faces.look().frameGround()) {
+  faces.look().DressFrame(*this);
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(6);
   grid_->setVerticalSpacing(3);
