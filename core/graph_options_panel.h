@@ -84,8 +84,8 @@ class GraphOptionsPanel : public ScreenPart {
                    [this] { SetLineWidths(); }};
 
   Frame GridFrame{screen(), "GridFrame", "Grid Lines", 1};
-  OptionGroup Option4{GridFrame,
-                      "Option4",
+  OptionGroup Option5{GridFrame,
+                      "Option5",
                       "Grid",
                       {{0, "No Grid", "Draw Graphs without a Grid."},
                        {1, "Whole Grid", "Draw Graphs with a whole Grid."},
@@ -146,7 +146,8 @@ class GraphOptionsPanel : public ScreenPart {
 
   Frame DoneFrame{screen(), "DoneFrame", "", 2};
   Command Command2{DoneFrame, "Command2", "Done Graph Options",
-                   "Close the Graphic Options Selection Screen.", [this] { Close(); }};
+                   "Close the Graphic Options Selection Screen.",
+                   CommandWork([this] { Close(); }, CommandRole::Closes)};
 };
 
 }  // namespace veldox

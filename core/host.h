@@ -45,6 +45,15 @@ struct ScreenSize {
   int width = 0;   ///< pixels
   int height = 0;  ///< pixels
   int dpi = 96;
+  double scale = 1;  ///< pixels of the screen to one of a window's
+};
+
+/// What windows show where the user has chosen no colour, each as red + 256 * green +
+/// 65536 * blue. The numbers are those of the program's own light look.
+struct PlainColors {
+  std::int32_t ground = 0xFBFAF9;  ///< of frames and of the help place
+  std::int32_t text = 0x26211D;
+  std::int32_t buttonText = 0x26211D;
 };
 
 enum class PictureFormat { Bmp, Jpeg, Png, Svg, Pdf };
@@ -127,6 +136,8 @@ class Host {
   /// Where the start-up file, user tables and marker files lie and dialogs begin.
   virtual std::filesystem::path ProgramFolder() = 0;
   virtual ScreenSize MeasureScreen() = 0;
+  /// The colours that windows have now where none is chosen.
+  virtual PlainColors OwnColors() { return {}; }
   /// Begins a print job on the printer that is set up.
   /// @throws CommandError (File) when there is none, (Cancelled) when the user does not want to
   virtual std::unique_ptr<PageSurface> OpenPrinter(PageJob /*job*/) {

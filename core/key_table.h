@@ -19,6 +19,7 @@ enum class KeyForm {
   IntegerOrField,  ///< as NumberOrField by "0"
   FieldText,       ///< the owning field's text, "0.0" when it is empty
   FieldLiteral,    ///< the same for a field whose text is no number
+  Flag,            ///< 1 or 0; every other number than 0 is 1
   Text,            ///< a text such as a font's name
   YesNo,           ///< "Yes" or "No"
   OnOff,           ///< "ON" or "OFF"
@@ -59,6 +60,8 @@ struct KeyRow {
   std::int16_t onValue = 1;  ///< what a switch holds while it is on
   /// The reader knows the key only with a blank behind its "=".
   bool blankBehindEquals = false;
+  /// The nearest number that the key can hold; null where it holds all that its member can.
+  double (*nearest)(double) = nullptr;
 };
 
 /// All keys in the order of the file.

@@ -23,9 +23,10 @@ class NotesPanel : public ScreenPart {
   TextArea Text22{Frame12, "Text22", "Notes"};
   Command Command11{Frame12, "Command11", "Exit / Save Notes",
                     "Keep the notes as they stand here and close this panel.",
-                    [this] { SaveNotes(); }};
+                    CommandWork([this] { SaveNotes(); }, CommandRole::Closes)};
   Command Command12{Frame12, "Command12", "Exit / Don't Save Notes",
-                    "Close this panel and leave the notes as they were.", [this] { DropNotes(); }};
+                    "Close this panel and leave the notes as they were.",
+                    CommandWork([this] { DropNotes(); }, CommandRole::Closes)};
 };
 
 }  // namespace veldox

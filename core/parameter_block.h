@@ -514,15 +514,15 @@ struct ParameterBlock {
   // User Selected GUI Options
   std::int32_t QuitBackGroundColor{0};
   std::int32_t BackGroundColor{0};
-  std::int16_t OptionCheckBoxStyle{0};
+  std::int16_t OptionCheckBoxStyle{1};
   std::int16_t LargeScreen{0};
   std::int16_t FullScreen{0};
   std::string EntryBoxFontName;
   std::int16_t EntryBoxFontSize{0};
   std::int16_t EntryBoxFontBold{0};
   std::int16_t EntryBoxFontItalic{0};
-  std::int16_t EntryBoxAlignment{0};
-  std::int16_t EntryBoxStyle{0};
+  std::int16_t EntryBoxAlignment{2};
+  std::int16_t EntryBoxStyle{1};
   std::string LabelBoxFontName;
   std::int16_t LabelBoxFontSize{0};
   std::int16_t LabelBoxFontBold{0};
@@ -570,6 +570,9 @@ struct ParameterBlock {
   std::int16_t IntakeLiftCount{0};   ///< last index in use, the closing zero's; 0 for no table
   std::int16_t ExhaustLiftCount{0};  ///< the same of the exhaust
   CamSteps CamStepDegrees;
+  /// 1: of a Cam Doctor file. Its rows begin at index 0, the closing zero stands one before the
+  /// counts, and its steps are cam degrees.
+  std::int16_t LiftsOfCamDoctor{0};
   std::string CamFileHeader;    ///< comment lines that a conversion writes again
   std::string CurrentFileName;  ///< path of the lift file
   std::string CamFileTitle;     ///< its name without the folder
@@ -577,6 +580,7 @@ struct ParameterBlock {
   // Values without a record of their own in the file
   double RodLength2{6.2};
   double BalancerDiameter{6.75};  ///< inches
+  double Overlap{0};              ///< crank degrees
   double PistonArea{0};
   std::string Notes;
 

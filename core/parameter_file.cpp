@@ -8,6 +8,7 @@
 #include <utility>
 #include <variant>
 
+#include "core/bad_records.h"
 #include "core/error.h"
 #include "core/files.h"
 #include "core/host.h"
@@ -60,9 +61,6 @@ constexpr std::string_view kNotesKey = "Notes";
 constexpr std::string_view kErrorTitle = "VELDOX - Error Message";
 constexpr std::string_view kReadingError =
     "Error Reading Parameter File --- If you have Not edited it, email support@veldox.example";
-
-/// The bad records that are told one by one; what follows is told in one box.
-constexpr int kMostBadRecordBoxes = 19;
 
 /// Of so many lines at the beginning, one at least is a key in every parameter file.
 constexpr int kProbedLines = 10;
@@ -297,6 +295,7 @@ class ParameterFile::Writer {
         Record(row.key, Trim(text).empty() ? FormatSmart(0, mark_) : OneLine(text));
         return;
       }
+      case KeyForm::Flag: Record(row.key, FormatInt(value != 0 ? 1 : 0, mark_)); return;
       case KeyForm::Text: Record(row.key, OneLine(*TextOf(row, block_))); return;
       case KeyForm::YesNo: Record(row.key, IsOn(owner, value) ? "Yes" : "No"); return;
       case KeyForm::OnOff: Record(row.key, IsOn(owner, value) ? "ON" : "OFF"); return;
@@ -325,12 +324,14 @@ class ParameterFile::Writer {
   }
 
   /// A number of a table: what its field says where the file tells the fields of a table, and
-  /// where that is a number.
+  /// where that is a number. A field that the user has left empty is 0.
   double CellOf(const KeyRow& row, int index, int column) const {
     const double& value = row.cell(block_, index, column);
     if (row.tableForm != TableForm::Fields && row.tableForm != TableForm::Smart) return value;
     const Field* field = AsField(file_.OwnerOf(row, &value));
-    if (field == nullptr || !IsNumber(field->text(), mark_)) return value;
+    if (field == nullptr) return value;
+    if (field->text().empty() && block_.FormsCleared == 0) return 0;
+    if (!IsNumber(field->text(), mark_)) return value;
     return field->screen().InInches(*field, ParseNumber(field->text(), mark_));
   }
 
@@ -448,7 +449,13 @@ class ParameterFile::Reader {
         mark_(file.context_.mark()),
         fileName_(fileName),
         text_(text),
-        lines_(text, NameWithoutFolder(fileName)) {
+        lines_(text, NameWithoutFolder(fileName)),
+        badRecords_(file.context_.host, std::string(kErrorTitle),
+                    [this](int count, const std::string& first) {
+                      return RecordNumber(count) +
+                             " more records of this file are invalid. The first of them:" +
+                             std::string(kLineEnd) + first;
+                    }) {
     const auto table = KeyTable();
     nextRow_.reserve(table.size());
     for (const KeyRow& row : table) {
@@ -478,6 +485,7 @@ class ParameterFile::Reader {
   }
 
   void Run() {
+    const Styles styles = StylesOf(block_);
     block_.Notes.clear();
     block_.AccelRowCount = 0;
     block_.RoadMphRowCount = 0;
@@ -491,7 +499,13 @@ class ParameterFile::Reader {
       // Notes are taken whole or not at all.
       if (inNotes_) block_.Notes.clear();
     }
-    TellFurtherBadRecords();
+    badRecords_.TellFurther();
+    if (zeroStyles_ == kStyleKeys && !namesFont_) {
+      // So do files tell it that were written before there was a choice.
+      block_.EntryBoxAlignment = styles.alignment;
+      block_.EntryBoxStyle = styles.entry;
+      block_.OptionCheckBoxStyle = styles.option;
+    }
     if (block_.AccelRowCount == 0) block_.AccelRowCount = kDefaultTorqueRows;
   }
 
@@ -525,10 +539,30 @@ class ParameterFile::Reader {
   static constexpr std::int16_t kDefaultTorqueRows = 11;
   static constexpr std::size_t kMostNumbers = 7;
 
+  /// What the lists of the appearance say.
+  struct Styles {
+    std::int16_t alignment;
+    std::int16_t entry;
+    std::int16_t option;
+  };
+  static constexpr std::size_t kStyleKeys = 3;
+
   struct Numbers {
     std::array<double, kMostNumbers> values{};
     std::size_t count = 0;
   };
+
+  static Styles StylesOf(const ParameterBlock& block) {
+    return {block.EntryBoxAlignment, block.EntryBoxStyle, block.OptionCheckBoxStyle};
+  }
+
+  /// Watches for files that were written before the appearance could be chosen.
+  void NoteStyle(const KeyRow& row, double number) {
+    const void* place = PlaceOf(row, block_);
+    const bool isStyle = place == &block_.EntryBoxAlignment || place == &block_.EntryBoxStyle ||
+                         place == &block_.OptionCheckBoxStyle;
+    if (isStyle && number == 0) ++zeroStyles_;
+  }
 
   static std::string NameWithoutFolder(const std::string& fileName) {
     const std::filesystem::path path(std::u8string(fileName.begin(), fileName.end()));
@@ -612,6 +646,7 @@ class ParameterFile::Reader {
     if (row->blankBehindEquals && !value.starts_with(' ')) return false;
     if (std::string* text = TextOf(*row, block_)) {
       *text = Trim(value);
+      namesFont_ = namesFont_ || !text->empty();
       if (Field* field = AsField(file_.Owner(*row))) field->SetText(*text);
     } else if (row->form == KeyForm::Table) {
       ReadTableRow(*row, missing ? "0" : value);
@@ -629,7 +664,7 @@ class ParameterFile::Reader {
       if (std::int16_t* slot = SwitchOf(row, block_)) *slot = on ? row.onValue : std::int16_t{0};
       return;
     }
-    const double number = ParseNumber(value, mark_);
+    const double number = HeldNumber(row, ParseNumber(value, mark_));
     if (OptionGroup* group = AsOptionGroup(owner)) {
       if (!group->Choose(RoundToInt16(number))) {
         throw CommandError(ErrorKind::IndexOutOfRange, "is none of the options that there are.");
@@ -637,6 +672,17 @@ class ParameterFile::Reader {
     }
     StoreNumber(row, block_, number);
     ShowAtOnce(row, PlaceOf(row, block_), number);
+  }
+
+  /// What a key holds of the number that stands in the file. One that it cannot hold is told, and
+  /// the nearest takes its place.
+  double HeldNumber(const KeyRow& row, double number) {
+    if (row.form == KeyForm::Flag) return number != 0 ? 1 : 0;
+    if (row.nearest == nullptr) return number;
+    NoteStyle(row, number);
+    const double held = row.nearest(number);
+    if (held != number) TellBadRecord({Button::OK});
+    return held;
   }
 
   /// Shows a value that was read: on all screens that are open, so that none of their commands
@@ -829,26 +875,8 @@ class ParameterFile::Reader {
   /// Tells a line that is no key; false when the user leaves the reading.
   bool AskAboutLine() { return TellBadRecord({Button::OK, Button::Cancel}) != Button::Cancel; }
 
-  /// Tells a bad record, or counts it where enough of them were told one by one.
   Button TellBadRecord(std::vector<Button> buttons) {
-    if (++badRecords_ <= kMostBadRecordBoxes) {
-      return context_.host.Ask(
-          {Icon::Warning, std::string(kErrorTitle), InvalidRecord(), std::move(buttons)});
-    }
-    if (firstFurther_.empty()) firstFurther_ = InvalidRecord();
-    return Button::OK;
-  }
-
-  void TellFurtherBadRecords() {
-    const int further = badRecords_ - kMostBadRecordBoxes;
-    if (further <= 0) return;
-    std::string text = firstFurther_;
-    if (further > 1) {
-      text = RecordNumber(further) +
-             " more records of this file are invalid. The first of them:" + std::string(kLineEnd) +
-             firstFurther_;
-    }
-    context_.host.Ask({Icon::Warning, std::string(kErrorTitle), std::move(text), {Button::OK}});
+    return badRecords_.Tell(InvalidRecord(), std::move(buttons));
   }
 
   ParameterFile& file_;
@@ -860,8 +888,9 @@ class ParameterFile::Reader {
   LineReader lines_;
   std::string_view line_;
   bool inNotes_ = false;
-  int badRecords_ = 0;
-  std::string firstFurther_;  // the first bad record that had no box of its own
+  BadRecords badRecords_;
+  std::size_t zeroStyles_ = 0;  // keys of the appearance's lists that say 0
+  bool namesFont_ = false;
   std::optional<CommandError> failure_;
   std::size_t longestKey_ = 0;
   std::vector<const KeyRow*> gearRows_;

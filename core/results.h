@@ -19,6 +19,13 @@ class ResultLabel : public Field {
               Entry(KeyRule::OutputOnly, unit, holds), std::move(help)) {}
 };
 
+/// A text box for words: it is wider than one for a number.
+class TextField : public Field {
+ public:
+  TextField(Frame& frame, std::string name, std::string label, std::string help)
+      : Field(frame, std::move(name), std::move(label), {}, KeyRule::AnyText, std::move(help)) {}
+};
+
 /// Results over several lines, to be read and copied. It has no keys of its own.
 class ResultLines : public TextControl {
  public:

@@ -217,12 +217,15 @@ ReportBox::ReportBox(Frame& frame, std::string name)
   SetVisible(false);
 }
 
-void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file) {
-  report_ = std::move(report);
+void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                           PagePicture picture) {
+  std::string shown = ReportBoxText(report);
+  report_ = file.isWhole ? "\r\n" + report : std::move(report);
   file_ = file;
+  picture_ = std::move(picture);
   fontSize_ = fontSize;
   showsReport_ = true;
-  SetText(ReportBoxText(report_));
+  SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) before_ = screen().focus();
   // The report's keys work at once.
@@ -237,6 +240,7 @@ void ReportBox::ShowSentence(std::string sentence) {
 
 void ReportBox::CloseReport() {
   report_.clear();
+  picture_ = {};
   sentence_.clear();
   showsReport_ = false;
   Control* before = std::exchange(before_, nullptr);
@@ -270,6 +274,7 @@ void ReportBox::WriteReportToFile() const {
       host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
   std::string_view report = report_;
+  if (file_.isWhole) report.remove_prefix(report.find('\n') + 1);
   if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
     report.remove_prefix(ReportPrompt.size());
   }
@@ -285,7 +290,7 @@ PageDrawing ReportBox::Pages() const {
   return [this](PageSurface& surface) {
     const ProgramContext& context = screen().context();
     ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
-        .PrintReport(report_, fontSize_);
+        .PrintReport(report_, fontSize_, picture_);
   };
 }
 
@@ -760,6 +765,7 @@ bool TakesKeyboard(const Control& control) {
     case ControlKind::Label:
     case ControlKind::Frame:
     case ControlKind::Table:
+    case ControlKind::Drawing:
     case ControlKind::OptionPart:
     case ControlKind::OptionGroup: return false;
     case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
@@ -919,8 +925,9 @@ void Screen::FailAt(Field& field, std::string message) {
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 
-void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file) {
-  ReportPane()->ShowReport(std::move(report), fontSize, file);
+void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                        PagePicture picture) {
+  ReportPane()->ShowReport(std::move(report), fontSize, file, std::move(picture));
 }
 
 std::string Screen::TextOf(const Field& field, double value) const {

@@ -97,6 +97,8 @@ class ScreenPart {
 
  private:
   void SetVisible(bool visible) {
+    // One that is shown already comes to the front again.
+    if (visible) frames_.front()->SetVisible(false);
     for (Frame* frame : frames_) frame->SetVisible(visible);
     // The help sentence was one of what stood there before.
     screen_.ShowHelp({});

@@ -29,7 +29,11 @@ bool IsThere(const std::filesystem::path& file) {
 }  // namespace
 
 Shell::Shell(ProgramContext& context)
-    : Screen(context, "Main", context.rules.messages().MessageTitle, ""), parameterFile_(context) {}
+    : Screen(context, "Main", context.rules.messages().MessageTitle, ""), parameterFile_(context) {
+  appearance.SetListener([this] {
+    if (shellFace_ != nullptr) shellFace_->AppearanceChanged();
+  });
+}
 
 Screen* Shell::FindScreen(std::string_view screenName) {
   if (screenName == name()) return this;
@@ -52,10 +56,11 @@ void Shell::Start() {
   context().rules.BuildMessages();
   if (block().DecimalCommaMode != 0) ConvertDefaultsToComma();
   BuildVersionLines();
-  DetectScreenSize();
+  scaling_.DetectScreenSize(context().host.MeasureScreen());
   ProbeLargeScreenFile();
   ProbeFullScreenFile();
   InitParameterBlock();
+  appearance.TellChanged();
   parameterFile_.BindOwners([this](std::string_view name) { return FindControl(name); }, screens_);
   SetVisible(true);
   ReadStartUpFile();
@@ -78,25 +83,22 @@ void Shell::BuildVersionLines() {
   dateLine_ = kProgramDate;
 }
 
-void Shell::DetectScreenSize() {
-  const ScreenSize size = context().host.MeasureScreen();
-  if (size.width < 1020 || size.height < 700) return;
-  widthLimit_ = 1000;
-  heightLimit_ = 700;
-  for (int i = 0; i <= 35; ++i) {
-    if (size.width >= 1050 + 100 * i) widthLimit_ = 1000 + 100 * i;
-  }
-  for (int i = 1; i <= 23; ++i) {
-    if (size.height >= 750 + 100 * i) heightLimit_ = 700 + 100 * i;
-  }
+void Shell::ProbeScreenFile(const char* marker, std::string_view menuItem) {
+  if (IsThere(InFolder(context().host.ProgramFolder(), marker))) Choose(*FindMenuItem(menuItem));
 }
 
 void Shell::ProbeLargeScreenFile() {
-  if (IsThere(InFolder(context().host.ProgramFolder(), kLargeScreenFile))) block().LargeScreen = 1;
+  ProbeScreenFile(kLargeScreenFile, "LrgScrRes");
 }
 
 void Shell::ProbeFullScreenFile() {
-  if (IsThere(InFolder(context().host.ProgramFolder(), kFullScreenFile))) block().FullScreen = 1;
+  ProbeScreenFile(kFullScreenFile, "FullScrRes");
+}
+
+void Shell::SetScreenSize(ScreenScaling::Mode mode) {
+  if (!scaling_.detected()) scaling_.DetectScreenSize(context().host.MeasureScreen());
+  block().LargeScreen = mode == ScreenScaling::Mode::Large ? 1 : 0;
+  block().FullScreen = mode == ScreenScaling::Mode::Full ? 1 : 0;
 }
 
 void Shell::InitParameterBlock() {
@@ -126,7 +128,11 @@ bool Shell::MenuEnabled(const MenuItem& item) {
     case MenuKind::Screen:
     case MenuKind::List:
     case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
-    case MenuKind::Action: return item.action != nullptr || works_.contains(item.name);
+    case MenuKind::Action:
+      if (item.action == &Shell::LrgScrRes || item.action == &Shell::FullScrRes) {
+        return scaling_.detected();
+      }
+      return item.action != nullptr || works_.contains(item.name);
     case MenuKind::Submenu:
       return std::any_of(Menu().begin(), Menu().end(), [&](const MenuItem& child) {
         return child.parent == item.name && MenuEnabled(child);
@@ -200,6 +206,7 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   block().DataChanged = 0;
   TellMenuChanged();
   graphOptions.TellChanged();
+  appearance.TellChanged();
   notes.ShowNotes();
   return records;
 }
@@ -233,6 +240,11 @@ void Shell::Write() {
 void Shell::Hover(Control* control) {
   graphOptions.RefreshHelp(control);
   Screen::Hover(control);
+}
+
+void Shell::Edited(const Control& control) {
+  appearance.Picked(control);
+  company.Typed(control);
 }
 
 void Shell::ClearFields() {

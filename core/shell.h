@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/appearance_panel.h"
+#include "core/company_panel.h"
 #include "core/delimited_columns_panel.h"
 #include "core/graph_options_panel.h"
 #include "core/menu_table.h"
@@ -17,6 +18,7 @@
 #include "core/parameter_file.h"
 #include "core/screen.h"
 #include "core/screen_printing.h"
+#include "core/screen_scaling.h"
 #include "core/title_animation.h"
 
 namespace veldox {
@@ -27,6 +29,8 @@ class ShellFace {
   virtual ~ShellFace() = default;
   /// Captions or switches of menu items have changed.
   virtual void MenuChanged() = 0;
+  /// The fonts, colours or borders of all screens have changed.
+  virtual void AppearanceChanged() = 0;
   /// Exit has run: all windows close and the program ends.
   virtual void Ended() = 0;
 };
@@ -86,12 +90,14 @@ class Shell : public Screen {
   Control* HelpPlace() override { return &Label77; }
   bool UsesSharedValues() const override { return false; }
   void ClearFields() override;
+  void Edited(const Control& control) override;
 
   void Hover(Control* control) override;
 
   /// The panels that take the launcher's place while they are shown.
   std::vector<ScreenPart*> Panels() {
-    std::vector<ScreenPart*> panels{&notes, &delimitedColumns, &graphOptions, &appearance};
+    std::vector<ScreenPart*> panels{&notes,      &delimitedColumns, &graphOptions,
+                                    &appearance, &company,          &companyPlace};
     panels.insert(panels.end(), toolPanels_.begin(), toolPanels_.end());
     return panels;
   }
@@ -101,6 +107,7 @@ class Shell : public Screen {
   void SetWork(std::string_view menuItem, Handler work) {
     works_.emplace(menuItem, std::move(work));
   }
+  const ScreenScaling& scaling() const { return scaling_; }
 
   // Menu actions
   void Graph() { graphOptions.Open(); }
@@ -111,6 +118,26 @@ class Shell : public Screen {
   void Metric();
   void Printer() { printing.SetUpPrinter(); }
   void Print_CI();
+  void Fonts() { appearance.PickHelpFont(); }
+  void BoxFColor() { appearance.PickHelpColor(); }
+  void BoxColor() { appearance.PickHelpGround(); }
+  void Classic_Lab() { appearance.UseClassicLabels(); }
+  void Classic_Comm() { appearance.UseClassicCommands(); }
+  void EntryFont() { appearance.PickEntryFont(); }
+  void EntryAlig() { appearance.OpenAlignments(); }
+  void T_B_Style() { appearance.OpenEntryBorders(); }
+  void O_C_Style() { appearance.OpenOptionStyles(); }
+  void LabelFont() { appearance.PickLabelFont(); }
+  void LabelColor() { appearance.PickLabelColor(); }
+  void CommandFont() { appearance.PickCommandFont(); }
+  void FrameColor() { appearance.PickFrameGround(); }
+  void QuitColor() { appearance.PickQuitGround(); }
+  void Default_Look() { appearance.UseDefaultLook(); }
+  void Co_Name() { company.Open(); }
+  void Load_Co_Name() { company.Load(); }
+  void Print_Head_Location() { companyPlace.Open(); }
+  void LrgScrRes() { SetScreenSize(ScreenScaling::Mode::Large); }
+  void FullScrRes() { SetScreenSize(ScreenScaling::Mode::Full); }
   void ScrRes();
   void Exit();
 
@@ -118,7 +145,6 @@ class Shell : public Screen {
   void DetectDecimalMark();
   void ConvertDefaultsToComma();
   void BuildVersionLines();
-  void DetectScreenSize();
   void ProbeLargeScreenFile();
   void ProbeFullScreenFile();
   void InitParameterBlock();
@@ -131,6 +157,8 @@ class Shell : public Screen {
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
+  void SetScreenSize(ScreenScaling::Mode mode);
+  void ProbeScreenFile(const char* marker, std::string_view menuItem);
 
   std::vector<Screen*> screens_;
   std::vector<ScreenPart*> toolPanels_;
@@ -142,8 +170,7 @@ class Shell : public Screen {
   std::string versionLine_;
   std::string dateLine_;
   bool ended_ = false;
-  int widthLimit_ = 0;   ///< pixels a screen may be scaled to
-  int heightLimit_ = 0;  ///< pixels a screen may be scaled to
+  ScreenScaling scaling_;
 
  public:
   // The title, its name line for the parameter file, and the help line
@@ -163,7 +190,9 @@ class Shell : public Screen {
   NotesPanel notes{*this};
   DelimitedColumnsPanel delimitedColumns{*this};
   GraphOptionsPanel graphOptions{*this, [this] { return PickColor(); }};
-  AppearancePanel appearance{*this};
+  AppearancePanel appearance{*this, [this] { return PickFont(); }, [this] { return PickColor(); }};
+  CompanyPanel company{*this};
+  CompanyPlacePanel companyPlace{*this};
 
   ScreenPrinting printing{context()};
 };

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/field_array.h"
@@ -21,11 +22,19 @@ struct TableColumn {
   /// Single fields from the first row on; null for a row that has none here.
   TableColumn(std::string head, std::initializer_list<Field*> fields);
 
+  /// The same with room for longer texts than numbers.
+  TableColumn Wide(int itsCharacters) && {
+    characters = itsCharacters;
+    return std::move(*this);
+  }
+
   std::string head;
   Label* headLabel = nullptr;
   std::vector<Field*> cells;
   /// What all of the column measures; its sign stands in the head.
   Unit unit = Unit::None;
+  /// How long its texts are; 0 for numbers as fields show them.
+  int characters = 0;
 };
 
 /// What the rows of a table are called.

@@ -127,6 +127,8 @@ enum class Unit {
   Seconds,
   Feet,  ///< lengths on the road
   Miles,
+  LengthPerDegree,  ///< velocity of a cam's lift
+  LengthDegrees,    ///< area under a cam's lift
   PortArea,
   // The same in both modes: of screens, or parts of them, that know no metric units.
   SquareInches,
@@ -179,6 +181,8 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::Seconds: return "s";
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
+    case Unit::LengthPerDegree: return metric ? "mm/deg" : "in/deg";
+    case Unit::LengthDegrees: return metric ? "mm deg" : "in deg";
     case Unit::PortArea: return metric ? "sq cm" : "sq in";
     case Unit::SquareInches: return "sq in";
     case Unit::Horsepower: return "HP";
@@ -201,7 +205,9 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
 /// How "Metric" converts a unit; null for those that are the same in both.
 constexpr const UnitRule* RuleOf(Unit unit) {
   switch (unit) {
-    case Unit::Length: return &kLengthRule;
+    case Unit::Length:
+    case Unit::LengthPerDegree:
+    case Unit::LengthDegrees: return &kLengthRule;
     case Unit::Area: return &kAreaRule;
     case Unit::PortArea: return &kPortAreaRule;
     case Unit::Volume: return &kVolumeRule;

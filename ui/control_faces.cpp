@@ -5,6 +5,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include "core/results.h"
 #include "ui/fixed_font.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
@@ -14,6 +15,8 @@ namespace {
 
 /// Room for the longest result, which has eleven decimals.
 constexpr int kFieldDigits = 13;
+/// Room for a line of an address.
+constexpr int kWordsDigits = 40;
 /// Border and margins of a text box, and its point.
 constexpr int kFieldEdges = 20;
 /// Said beside the help of the command that it is true of.
@@ -54,6 +57,15 @@ QLabel* MakeLabel(const Control& control, QWidget* parent) {
   return label;
 }
 
+Qt::Alignment QtAlignment(EntryAlignment alignment) {
+  switch (alignment) {
+    case EntryAlignment::Left: return Qt::AlignLeft;
+    case EntryAlignment::Right: return Qt::AlignRight;
+    case EntryAlignment::Center: break;
+  }
+  return Qt::AlignHCenter;
+}
+
 /// A list whose row the wheel turns only while it has the focus.
 class CalmComboBox : public QComboBox {
  public:
@@ -77,7 +89,14 @@ FieldFace::FieldFace(FaceSet& set, Field& field, QWidget* parent)
       label_(MakeLabel(field, parent)),
       edit_(static_cast<FieldEdit*>(widget())),
       unit_(new QLabel(parent)) {
-  edit_->setFixedWidth(DigitsWidth(*edit_, kFieldDigits) + kFieldEdges);
+  set.look().DressEntry(*edit_);
+  if (edit_->plain()) {
+    set.look().DressPlainResult(*edit_);
+  } else {
+    edit_->setAlignment(QtAlignment(set.look().appearance().alignment) | Qt::AlignVCenter);
+  }
+  const bool holdsWords = dynamic_cast<const TextField*>(&field) != nullptr;
+  edit_->setFixedWidth(DigitsWidth(*edit_, holdsWords ? kWordsDigits : kFieldDigits) + kFieldEdges);
   label_->setBuddy(edit_);
   unit_->setTextFormat(Qt::PlainText);
 }
@@ -157,7 +176,7 @@ OptionRowsFace::OptionRowsFace(FaceSet& set, OptionRows& rows, QWidget* parent)
   const int columns = std::max(1, rows.buttonsInRow());
   if (!rows.caption().empty()) {
     QLabel* caption = MakeLabel(rows, widget());
-    caption->setForegroundRole(QPalette::PlaceholderText);
+    set.look().MakeFaint(*caption);
     grid->addWidget(caption, row++, 0, 1, columns);
   }
   int column = 0;
@@ -186,6 +205,7 @@ ComboFace::ComboFace(FaceSet& set, ComboList& list, QWidget* parent)
       label_(MakeLabel(list, parent)),
       combo_(static_cast<QComboBox*>(widget())) {
   label_->setBuddy(combo_);
+  set.look().DressEntry(*combo_);
   connect(combo_, &QComboBox::activated, this, [this](int row) { list_.Pick(row); });
 }
 
@@ -207,6 +227,8 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
     : Face(set, command, new QPushButton(ToQt(command.caption()), parent)),
       command_(command),
       button_(static_cast<QPushButton*>(widget())) {
+  set.look().DressCommand(*button_, command.role() == CommandRole::Closes ||
+                                        &command == command.screen().QuitCommand());
   connect(button_, &QPushButton::clicked, this, [this] {
     if (TakesClick()) command_.Click();
   });
@@ -232,6 +254,7 @@ TextAreaFace::TextAreaFace(FaceSet& set, TextControl& area, QWidget* parent)
     : Face(set, area, new LinesEdit(area, parent)),
       area_(area),
       edit_(static_cast<LinesEdit*>(widget())) {
+  set.look().DressEntry(*edit_);
   // Results have their numbers under each other.
   if (area.rule() == KeyRule::OutputOnly) edit_->setFont(FixedPitchFont(edit_->font()));
 }

@@ -150,6 +150,11 @@ void Face::FocusWent() {
   if (screen.focus() == &control_ && !screen.MoveFocus(nullptr)) set_.ReturnFocus();
 }
 
+void FaceSet::Clear() {
+  faces_.clear();
+  buttons_.clear();
+}
+
 Face* FaceSet::Of(const Control& control) const {
   for (const auto& face : faces_) {
     if (&face->control() == &control) return face.get();

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/screen.h"
+#include "ui/window_look.h"
 
 class QWidget;
 
@@ -64,6 +65,12 @@ class FaceSet {
  public:
   explicit FaceSet(Screen& screen) : screen_(screen) {}
 
+  /// How the widgets look that are made from now on.
+  const WindowLook& look() const { return look_; }
+  void SetLook(WindowLook look) { look_ = std::move(look); }
+  /// Lets go of all controls: their widgets are about to be made anew.
+  void Clear();
+
   template <class F, class C, class... Args>
   F& Make(C& control, Args&&... args) {
     auto face = std::make_unique<F>(*this, control, std::forward<Args>(args)...);
@@ -88,6 +95,7 @@ class FaceSet {
 
  private:
   Screen& screen_;
+  WindowLook look_;
   std::vector<std::unique_ptr<Face>> faces_;
   std::map<const OptionGroup*, std::unique_ptr<QButtonGroup>> buttons_;
 };

@@ -6,6 +6,7 @@
 #include "core/caution_frame.h"
 #include "core/panel.h"
 #include "ui/control_faces.h"
+#include "ui/drawing_face.h"
 #include "ui/pick_list_face.h"
 #include "ui/qt_text.h"
 #include "ui/table_face.h"
@@ -77,7 +78,9 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
                        QWidget* parent)
     : QGroupBox(ToQt(frame.caption()), parent),
       grid_(new QGridLayout(this)),
-      asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr) {
+      asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr),
+      ground_(faces.look().frameGround()) {
+  faces.look().DressFrame(*this);
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(6);
   grid_->setVerticalSpacing(3);
@@ -128,6 +131,10 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
     case ControlKind::Label:
       grid_->addWidget(faces.Make<LabelFace>(static_cast<Label&>(control), this).widget(), row, 0,
                        1, 3);
+      break;
+    case ControlKind::Drawing:
+      grid_->addWidget(faces.Make<DrawingFace>(static_cast<Drawing&>(control), this).widget(), row,
+                       0, 1, 3);
       break;
     case ControlKind::CheckBox:
       grid_->addWidget(faces.Make<CheckBoxFace>(static_cast<CheckBox&>(control), this).widget(),

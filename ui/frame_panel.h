@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <optional>
 #include <vector>
 
 #include "ui/face.h"
@@ -20,6 +21,8 @@ class FramePanel : public QGroupBox {
   int unitWidth() const;
   /// It is drawn so that it stands out.
   bool asksForCare() const { return asksForCare_; }
+  /// The colour that the user has chosen for it.
+  const std::optional<QColor>& ground() const { return ground_; }
   /// Lines the grid up with those of the other frames in its column.
   void Align(int labelWidth, int unitWidth);
 
@@ -31,6 +34,7 @@ class FramePanel : public QGroupBox {
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
   bool asksForCare_;
+  std::optional<QColor> ground_;
   bool grows_ = false;         ///< holds something that takes all the room there is
   bool growsToAnEnd_ = false;  ///< holds a table that takes room until all its rows are in sight
 };

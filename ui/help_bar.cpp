@@ -1,10 +1,10 @@
 #include "ui/help_bar.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextDocument>
@@ -13,7 +13,6 @@
 
 #include "core/files.h"
 #include "core/report.h"
-#include "ui/fixed_font.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
@@ -27,7 +26,9 @@ constexpr int kReportLines = 16;
 
 }  // namespace
 
-HelpBar::HelpBar(QWidget* parent) : QWidget(parent), label_(new QLabel(this)) {
+HelpBar::HelpBar(const WindowLook& look, QWidget* parent)
+    : QWidget(parent), label_(new QLabel(this)), ground_(look.helpGround()) {
+  look.DressHelp(*this);
   label_->setTextFormat(Qt::PlainText);
   label_->setWordWrap(true);
   label_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -45,7 +46,7 @@ void HelpBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(colors.border);
-  painter.setBrush(colors.card);
+  painter.setBrush(ground_.value_or(colors.card));
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
 }
 
@@ -116,13 +117,16 @@ void ReportHeads::KeepCaretInSight() {
 void ReportHeads::paintEvent(QPaintEvent*) {
   const ThemeColors colors(palette());
   QPainter painter(this);
-  painter.fillRect(rect(), colors.card);
+  // Where the rows have a ground of their own, their heads lie on it as well.
+  const QColor rowsGround = rows_.palette().color(QPalette::Base);
+  const bool isOwn = rowsGround != QApplication::palette().color(QPalette::Base);
+  painter.fillRect(rect(), isOwn ? rowsGround : colors.card);
   painter.setPen(colors.border);
   painter.drawLine(0, height() - 1, width(), height() - 1);
   QFont font = rows_.font();
   font.setBold(true);
   painter.setFont(font);
-  painter.setPen(palette().color(QPalette::Text));
+  painter.setPen(rows_.palette().color(QPalette::Text));
   const QFontMetrics metrics(rows_.font());
   const int left =
       static_cast<int>(rows_.document()->documentMargin()) - rows_.horizontalScrollBar()->value();
@@ -185,8 +189,9 @@ void FindBar::Find(bool backward) {
   }
 }
 
-ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
-    : QWidget(parent), box_(box), edit_(new LinesEdit(box, this)) {
+ReportPanel::ReportPanel(ReportBox& box, const WindowLook& look, QWidget* parent)
+    : QWidget(parent), box_(box), look_(look), edit_(new LinesEdit(box, this)) {
+  look_.DressReport(*edit_);
   heads_ = new ReportHeads(*edit_);
   find_ = new FindBar(*edit_);
   auto* column = new QVBoxLayout(this);
@@ -220,6 +225,7 @@ ReportPanel::ReportPanel(ReportBox& box, QWidget* parent)
 
 QPushButton* ReportPanel::AddButton(QBoxLayout& row, const char* caption, const char* tip) {
   auto* button = new QPushButton(QLatin1String(caption), this);
+  look_.DressCommand(*button, false);
   GiveHelp(*button, box_.screen(), QLatin1String(tip));
   button->setMinimumWidth(button->sizeHint().width() + 16);
   row.addWidget(button);
@@ -257,8 +263,10 @@ void ReportPanel::Follow() {
 
 void ReportPanel::showEvent(QShowEvent* event) {
   // Looked up when the first report opens: start-up does not pay for it.
-  edit_->setFont(FixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)));
-  edit_->setMinimumHeight(QFontMetrics(edit_->font()).lineSpacing() * kReportLines);
+  edit_->setFont(look_.ReportFont());
+  // Large letters leave the frames their room.
+  edit_->setMinimumHeight(std::min(QFontMetrics(edit_->font()).lineSpacing() * kReportLines,
+                                   screen()->availableSize().height() * 2 / 5));
   QWidget::showEvent(event);
 }
 

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QStringList>
 #include <QWidget>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ namespace veldox {
 /// whether it holds one or not, so that nothing moves.
 class HelpBar : public QWidget {
  public:
-  explicit HelpBar(QWidget* parent);
+  HelpBar(const WindowLook& look, QWidget* parent);
   QLabel* label() const { return label_; }
 
  protected:
@@ -26,6 +27,7 @@ class HelpBar : public QWidget {
 
  private:
   QLabel* label_;
+  std::optional<QColor> ground_;
 };
 
 /// Stands for a label, or a text box of its own, that is the help place of its screen.
@@ -79,7 +81,7 @@ class FindBar : public QWidget {
 /// A report in a fixed-pitch font, with buttons that press the report's keys.
 class ReportPanel : public QWidget {
  public:
-  ReportPanel(ReportBox& box, QWidget* parent);
+  ReportPanel(ReportBox& box, const WindowLook& look, QWidget* parent);
   LinesEdit* edit() const { return edit_; }
   /// Shows what the box holds.
   void Follow();
@@ -95,6 +97,7 @@ class ReportPanel : public QWidget {
   void SaveAsPdf();
 
   ReportBox& box_;
+  WindowLook look_;
   LinesEdit* edit_;
   ReportHeads* heads_;
   FindBar* find_;

@@ -18,7 +18,7 @@ constexpr int kGap = 10;
 
 }  // namespace
 
-Launcher::Launcher(Shell& shell, const Chooser& choose, QWidget* parent)
+Launcher::Launcher(Shell& shell, const Chooser& choose, const WindowLook& look, QWidget* parent)
     : QWidget(parent), grid_(new QGridLayout(this)) {
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setSpacing(kGap);
@@ -30,9 +30,11 @@ Launcher::Launcher(Shell& shell, const Chooser& choose, QWidget* parent)
     if (group == nullptr || item.subject != subject) {
       subject = item.subject;
       group = AddGroup(subject);
+      look.DressLabel(*group);
     }
     auto* button = new QPushButton(ToQt(item.text), group);
     button->setObjectName(QStringLiteral("Launch_") + ToQt(item.menuItem));
+    look.DressCommand(*button, false);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     button->setMinimumHeight(button->sizeHint().height() * 5 / 4);
     button->setEnabled(shell.MenuEnabled(*menuItem));
@@ -55,7 +57,9 @@ QGroupBox* Launcher::AddGroup(std::string_view subject) {
 }
 
 void Launcher::resizeEvent(QResizeEvent* event) {
-  Arrange(std::clamp((event->size().width() + kGap) / (kGroupWidth + kGap), 1, kMostColumns));
+  int width = kGroupWidth;
+  for (const QGroupBox* group : groups_) width = std::max(width, group->sizeHint().width());
+  Arrange(std::clamp((event->size().width() + kGap) / (width + kGap), 1, kMostColumns));
 }
 
 void Launcher::Arrange(int columns) {

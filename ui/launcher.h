@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/shell.h"
+#include "ui/window_look.h"
 
 class QGridLayout;
 
@@ -16,7 +17,7 @@ class Launcher : public QWidget {
  public:
   using Chooser = std::function<void(const MenuItem&)>;
 
-  Launcher(Shell& shell, const Chooser& choose, QWidget* parent);
+  Launcher(Shell& shell, const Chooser& choose, const WindowLook& look, QWidget* parent);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -58,25 +58,14 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new M
   for (const MenuItem& item : Shell::Menu()) {
     if (item.parent.empty()) menu_->Add(MakeAction(item, this));
   }
-  title_ = new TitleArea(shell, faces_, this);
-  auto* fileName = faces_.Make<LabelFace>(shell.Label8, this).label();
-  fileName->setAlignment(Qt::AlignHCenter);
-  BuildPages();
-  auto* help = new HelpBar(this);
-  faces_.Make<HelpFace>(shell.Label77, help);
-
-  auto* body = new QVBoxLayout;
-  body->setContentsMargins(kMargin, 0, kMargin, kMargin);
-  body->setSpacing(8);
-  body->addWidget(title_);
-  body->addWidget(fileName);
-  body->addWidget(pages_, 1);
-  body->addWidget(help);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(menu_);
-  column->addLayout(body);
+  for (const ScreenPart* panel : shell_.Panels()) {
+    panels_.push_back(std::make_unique<PanelFace>(*this, panel->frames()));
+  }
+  BuildBody();
 
   AddPictureKeys(*this, shell);
   setMinimumWidth(kNarrowest);
@@ -90,18 +79,50 @@ MainWindow::~MainWindow() {
   shell_.SetShellFace(nullptr);
 }
 
+void MainWindow::BuildBody() {
+  body_ = new QWidget(this);
+  title_ = new TitleArea(shell_, faces_, body_);
+  auto* fileName = faces_.Make<LabelFace>(shell_.Label8, body_).label();
+  fileName->setAlignment(Qt::AlignHCenter);
+  faces_.look().DressLabel(*fileName);
+  BuildPages();
+  auto* help = new HelpBar(faces_.look(), body_);
+  faces_.Make<HelpFace>(shell_.Label77, help);
+  auto* pile = new QVBoxLayout(body_);
+  pile->setContentsMargins(kMargin, 0, kMargin, kMargin);
+  pile->setSpacing(8);
+  pile->addWidget(title_);
+  pile->addWidget(fileName);
+  pile->addWidget(pages_, 1);
+  pile->addWidget(help);
+  static_cast<QBoxLayout*>(layout())->addWidget(body_, 1);
+}
+
+void MainWindow::SetAppearance(const Appearance& appearance) {
+  if (appearance == faces_.look().appearance()) return;
+  // The controls let go first: what their widgets do while they end is not the user's doing.
+  faces_.Clear();
+  for (const auto& panel : panels_) panel->page = nullptr;
+  pages_ = nullptr;
+  delete body_;
+  faces_.SetLook(WindowLook(appearance));
+  BuildBody();
+  body_->show();
+  for (const auto& panel : panels_) {
+    panel->Watch();
+    if (panel->frame().visible()) ShowPanel(*panel);
+  }
+}
+
 void MainWindow::BuildPages() {
-  pages_ = new QStackedWidget(this);
+  pages_ = new QStackedWidget(body_);
   auto* scroll = new QScrollArea(pages_);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setFocusPolicy(Qt::NoFocus);
   scroll->setWidgetResizable(true);
   scroll->setWidget(new Launcher(
-      shell_, [this](const MenuItem& item) { shell_.Choose(item); }, scroll));
+      shell_, [this](const MenuItem& item) { shell_.Choose(item); }, faces_.look(), scroll));
   pages_->addWidget(scroll);
-  for (const ScreenPart* panel : shell_.Panels()) {
-    panels_.push_back(std::make_unique<PanelFace>(*this, panel->frames()));
-  }
 }
 
 QWidget* MainWindow::BuildPanel(PanelFace& panel) {
@@ -124,7 +145,12 @@ QWidget* MainWindow::BuildPanel(PanelFace& panel) {
 
 void MainWindow::ShowPanel(PanelFace& panel) {
   if (!panel.frame().visible()) {
-    if (pages_->currentWidget() == panel.page) pages_->setCurrentIndex(0);
+    if (pages_->currentWidget() != panel.page) return;
+    // What another panel has covered is back in sight.
+    const auto covered = std::find_if(panels_.begin(), panels_.end(), [&](const auto& other) {
+      return other->page != nullptr && other->frame().visible();
+    });
+    pages_->setCurrentWidget(covered == panels_.end() ? pages_->widget(0) : (*covered)->page);
     return;
   }
   if (panel.page == nullptr) {
@@ -188,6 +214,10 @@ void MainWindow::MenuChanged() {
   for (const MenuItem& item : Shell::Menu()) {
     if (auto* action = findChild<QAction*>(ToQt(item.name))) UpdateAction(*action, item);
   }
+}
+
+void MainWindow::AppearanceChanged() {
+  if (lookChanged_) lookChanged_();
 }
 
 void MainWindow::Ended() {

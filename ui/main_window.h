@@ -2,6 +2,7 @@
 
 #include <QStackedWidget>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -28,7 +29,13 @@ class MainWindow : public QWidget, public ShellFace {
   /// The action of a menu item; menus on the way to it are filled when they are not yet.
   QAction* ActionOf(const MenuItem& item);
 
+  /// What is done when the appearance of all screens has changed.
+  void SetLookListener(std::function<void()> listener) { lookChanged_ = std::move(listener); }
+  /// Fills the window below its menu anew where it is to look otherwise.
+  void SetAppearance(const Appearance& appearance);
+
   void MenuChanged() override;
+  void AppearanceChanged() override;
   void Ended() override;
 
  protected:
@@ -41,6 +48,7 @@ class MainWindow : public QWidget, public ShellFace {
   QAction* MakeAction(const MenuItem& item, QWidget* owner);
   void Fill(QMenu& menu, std::string_view name);
   void UpdateAction(QAction& action, const MenuItem& item);
+  void BuildBody();
   void BuildPages();
   QWidget* BuildPanel(PanelFace& panel);
   void ShowPanel(PanelFace& panel);
@@ -48,9 +56,11 @@ class MainWindow : public QWidget, public ShellFace {
   Shell& shell_;
   FaceSet faces_;
   MenuRows* menu_;
+  QWidget* body_ = nullptr;
   TitleArea* title_ = nullptr;
   QStackedWidget* pages_ = nullptr;
   std::vector<std::unique_ptr<PanelFace>> panels_;
+  std::function<void()> lookChanged_;
 };
 
 }  // namespace veldox

@@ -377,6 +377,8 @@ PickListFace::PickListFace(FaceSet& set, PickList& list, QWidget* parent)
       name_(new QLabel(panel_)),
       count_(new QLabel(panel_)),
       view_(new PickView(list, panel_)) {
+  set.look().DressEntry(*line_);
+  set.look().DressEntry(*view_);
   line_->setClearButtonEnabled(true);
   line_->setPlaceholderText(QStringLiteral("Type to narrow the list"));
   view_->setFocusProxy(line_);

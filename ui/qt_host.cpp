@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,6 +23,8 @@
 
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
+#include "ui/theme.h"
+#include "ui/window_look.h"
 
 namespace veldox {
 namespace {
@@ -182,13 +185,13 @@ std::optional<FontChoice> QtHost::AskFont() {
   bool chosen = false;
   const QFont font = QFontDialog::getFont(&chosen, QApplication::activeWindow());
   if (!chosen) return std::nullopt;
-  return FontChoice{FromQt(font.family()), font.pointSize(), font.bold(), font.italic()};
+  return FontChoice{FromQt(font.family()), QFontInfo(font).pointSize(), font.bold(), font.italic()};
 }
 
 std::optional<std::int32_t> QtHost::AskColor() {
   const QColor color = QColorDialog::getColor(Qt::white, QApplication::activeWindow());
   if (!color.isValid()) return std::nullopt;
-  return color.red() + 256 * color.green() + 65536 * color.blue();
+  return FromQColor(color);
 }
 
 ClockTime QtHost::Now() {
@@ -217,7 +220,13 @@ ScreenSize QtHost::MeasureScreen() {
   if (screen == nullptr) return {};
   const double scale = screen->devicePixelRatio();
   return {qRound(screen->geometry().width() * scale), qRound(screen->geometry().height() * scale),
-          qRound(screen->logicalDotsPerInch() * scale)};
+          qRound(screen->logicalDotsPerInch() * scale), scale};
+}
+
+PlainColors QtHost::OwnColors() {
+  const QPalette palette = QApplication::palette();
+  return {FromQColor(ThemeColors(palette).card), FromQColor(palette.color(QPalette::WindowText)),
+          FromQColor(palette.color(QPalette::ButtonText))};
 }
 
 std::unique_ptr<PageSurface> QtHost::OpenPrinter(PageJob job) {

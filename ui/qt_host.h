@@ -15,6 +15,7 @@ class QtHost : public Host {
   DecimalMark SystemDecimalMark() override;
   std::filesystem::path ProgramFolder() override;
   ScreenSize MeasureScreen() override;
+  PlainColors OwnColors() override;
   std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override;
   void PreviewPages(PageJob job, const PageDrawing& draw) override;
   void PrintGraph() override;

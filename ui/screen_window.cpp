@@ -48,14 +48,28 @@ void OrderTabs(const FaceSet& faces) {
   }
 }
 
-ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
-    : screen_(screen), faces_(screen) {
+ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appearance& appearance,
+                           const ScreenScaling& scaling)
+    : screen_(screen), makeOwnFace_(makeOwnFace), faces_(screen) {
   setObjectName(ToQt(screen.name()));
   setWindowTitle(ToQt(screen.title()));
-  Control* quit = screen.QuitCommand();
+  faces_.SetLook(WindowLook(appearance));
+  Fill();
+  AddPictureKeys(*this, screen);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
+    connect(again, &QShortcut::activated, this, [this] { screen_.CalculateAgain(); });
+  }
+  SizeToScreen();
+  SizeByLargeScreen(scaling);
+}
+
+void ScreenWindow::Fill() {
+  faces_.look().DressWindow(*this);
+  Control* quit = screen_.QuitCommand();
   std::vector<const Control*> placed;
   for (const Control* control :
-       {screen.HelpPlace(), static_cast<Control*>(screen.ReportPane()), quit}) {
+       {screen_.HelpPlace(), static_cast<Control*>(screen_.ReportPane()), quit}) {
     if (control != nullptr) placed.push_back(control);
   }
 
@@ -67,7 +81,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
   column->setSpacing(kWindowMargin);
   QLayout* foot = BuildFoot(quit);
   // Made after all controls: the tab key comes to it last.
-  ownFace_ = makeOwnFace(screen, this);
+  ownFace_ = makeOwnFace_(screen_, this);
   if (ownFace_ == nullptr) {
     column->addWidget(sheets_, 1);
   } else {
@@ -83,12 +97,47 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace)
     Face* last = quit == nullptr ? nullptr : faces_.Of(*quit);
     if (last != nullptr) QWidget::setTabOrder(chain.back(), last->widget());
   }
-  AddPictureKeys(*this, screen);
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-    auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
-    connect(again, &QShortcut::activated, this, [this] { screen_.CalculateAgain(); });
+}
+
+void ScreenWindow::FillAnew(WindowLook look) {
+  // The controls let go first: what their widgets do while they end is not the user's doing.
+  faces_.Clear();
+  backgrounds_.clear();
+  sheets_ = nullptr;
+  ownFace_ = nullptr;
+  report_ = nullptr;
+  delete layout();
+  qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+  faces_.SetLook(std::move(look));
+  Fill();
+  for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    // In a window that is open already nothing shows by itself.
+    if (!child->testAttribute(Qt::WA_WState_ExplicitShowHide)) child->show();
   }
+  // The keyboard is where it was, in a window at the back as well.
+  const Control* focus = screen_.focus();
+  const Face* face = focus == nullptr ? nullptr : faces_.Of(*focus);
+  if (face != nullptr) face->widget()->setFocus(Qt::OtherFocusReason);
+}
+
+void ScreenWindow::SetAppearance(const Appearance& appearance) {
+  if (appearance == faces_.look().appearance()) return;
+  const bool hasOwnSize = size() == ownSize_ && faces_.look().scale() == 1;
+  FillAnew(WindowLook(appearance, faces_.look().scale()));
+  if (hasOwnSize && !isMaximized() && !isFullScreen()) SizeToScreen();
+  ShareRoom();
+}
+
+void ScreenWindow::SizeByLargeScreen(const ScreenScaling& scaling) {
+  mode_ = scaling.ModeOf(screen_.block());
+  if (mode_ == ScreenScaling::Mode::Off) return;
+  const ScaleFactors factors = scaling.FactorsFor(mode_, width(), height());
+  const ControlBox box = ScaleControl(
+      {0, 0, static_cast<double>(width()), static_cast<double>(height()), 0, 1}, factors);
+  FillAnew(WindowLook(faces_.look().appearance(), box.fontSize));
   SizeToScreen();
+  const QSize wanted = QSize(qRound(box.width), qRound(box.height)).expandedTo(size());
+  resize(FittingSize(*this, wanted.boundedTo(QSize(scaling.widthLimit(), scaling.heightLimit()))));
 }
 
 void ScreenWindow::FollowPointerOverBackgrounds() {
@@ -113,9 +162,9 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   foot->setSpacing(8);
   Control* helpPlace = screen_.HelpPlace();
   ReportBox* report = screen_.ReportPane();
-  auto* bar = helpPlace != nullptr ? new HelpBar(this) : nullptr;
+  auto* bar = helpPlace != nullptr ? new HelpBar(faces_.look(), this) : nullptr;
   if (report != nullptr) {
-    auto* panel = new ReportPanel(*report, this);
+    auto* panel = new ReportPanel(*report, faces_.look(), this);
     panel->installEventFilter(this);
     report_ = panel;
     faces_.Make<ReportFace>(*report, panel, helpPlace == report ? bar : nullptr);
@@ -142,7 +191,9 @@ QLayout* ScreenWindow::BesideOwnFace() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(0, 0, kWindowMargin, 0);
   row->setSpacing(0);
-  sheets_->setFixedWidth(sheets_->WantedWidth() + BarWidth(*sheets_));
+  // However wide the frames are, half of the screen is left to the screen's own face.
+  sheets_->setFixedWidth(std::min(sheets_->WantedWidth() + BarWidth(*sheets_),
+                                  QWidget::screen()->availableSize().width() / 2));
   row->addWidget(sheets_);
   auto* face = new QVBoxLayout;
   face->setContentsMargins(0, kWindowMargin, 0, 0);
@@ -162,6 +213,7 @@ void ScreenWindow::SizeToScreen() {
         std::max(sheets_->WantedHeight(frames, sheets_->width()), face.height() + kWindowMargin) +
         foot;
     resize(FittingSize(*this, {sheets_->width() + face.width() + kWindowMargin, height}));
+    ownSize_ = size();
     return;
   }
   const int foot = layout()->minimumSize().height() - least;
@@ -177,6 +229,7 @@ void ScreenWindow::SizeToScreen() {
     height = std::min(height, room.height());
   }
   resize(width, height);
+  ownSize_ = size();
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {

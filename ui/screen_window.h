@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "core/screen_scaling.h"
 #include "ui/face.h"
 
 namespace veldox {
@@ -17,10 +18,17 @@ using OwnFaceMaker = QWidget* (*)(Screen& screen, QWidget* parent);
 /// right of the frames. Escape puts a panel away; Ctrl+Enter runs the last calculation again.
 class ScreenWindow : public QWidget {
  public:
-  ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace);
+  /// @param scaling  how it uses a large screen
+  ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appearance& appearance,
+               const ScreenScaling& scaling);
 
   Screen& screen() const { return screen_; }
   FaceSet& faces() { return faces_; }
+  /// How it uses a large screen.
+  ScreenScaling::Mode mode() const { return mode_; }
+  /// Fills the window anew where it is to look otherwise. It keeps its place, and the size that
+  /// the user or a large screen has given it.
+  void SetAppearance(const Appearance& appearance);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -29,6 +37,11 @@ class ScreenWindow : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// Makes all that stands in the window.
+  void Fill();
+  /// Makes it anew.
+  void FillAnew(WindowLook look);
+  void SizeByLargeScreen(const ScreenScaling& scaling);
   void FollowPointerOverBackgrounds();
   QLayout* BuildFoot(Control* quit);
   void SizeToScreen();
@@ -41,11 +54,14 @@ class ScreenWindow : public QWidget {
   void ShareRoom();
 
   Screen& screen_;
+  OwnFaceMaker makeOwnFace_;
   FaceSet faces_;
-  SheetStack* sheets_;
+  SheetStack* sheets_ = nullptr;
   QWidget* ownFace_ = nullptr;  ///< null for most screens
   QWidget* report_ = nullptr;
   int heightWithoutReport_ = 0;
+  ScreenScaling::Mode mode_ = ScreenScaling::Mode::Off;
+  QSize ownSize_;  ///< what its contents would like
   std::vector<const QObject*> backgrounds_;
 };
 

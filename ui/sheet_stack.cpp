@@ -27,8 +27,9 @@ void Flatten(Frame& frame, std::vector<Frame*>& frames) {
   }
 }
 
-QLabel* MakeName(QWidget* parent) {
+QLabel* MakeName(const WindowLook& look, QWidget* parent) {
   auto* name = new QLabel(parent);
+  look.DressLabel(*name);
   name->setTextFormat(Qt::PlainText);
   QFont font = name->font();
   font.setBold(true);
@@ -85,7 +86,7 @@ QWidget* SheetStack::BuildPages(QWidget* page) {
     auto* inside = new QVBoxLayout(sheet);
     inside->setContentsMargins(0, 0, 0, 0);
     inside->setSpacing(0);
-    QLabel* name = MakeName(sheet);
+    QLabel* name = MakeName(faces_.look(), sheet);
     inside->addWidget(name);
     std::vector<Frame*> own;
     Flatten(*each, own);
@@ -102,7 +103,7 @@ void SheetStack::BuildPanel(veldox::Panel& panel) {
   auto* pile = new QVBoxLayout(sheet);
   pile->setContentsMargins(0, 0, 0, 0);
   pile->setSpacing(0);
-  QLabel* name = MakeName(sheet);
+  QLabel* name = MakeName(faces_.look(), sheet);
   pile->addWidget(name);
   Command* close = panel.closingCommand();
   if (close != nullptr) placed_.push_back(close);

@@ -159,7 +159,9 @@ CellFace::CellFace(FaceSet& set, Field& field, TableFace& table, QWidget* parent
     : Face(set, field, new CellEdit(field, table, parent)),
       field_(field),
       table_(table),
-      edit_(static_cast<CellEdit*>(widget())) {}
+      edit_(static_cast<CellEdit*>(widget())) {
+  set.look().DressEntry(*edit_);
+}
 
 void CellFace::Follow() {
   Face::Follow();
@@ -205,7 +207,10 @@ int TableFace::CaptionWidth() const {
 
 int TableFace::CellWidth(int column) const {
   const QFontMetrics metrics = widget()->fontMetrics();
-  int width = metrics.horizontalAdvance(QLatin1Char('0')) * kCellDigits;
+  QWidget cell;
+  set().look().DressEntry(cell);
+  int width = cell.fontMetrics().horizontalAdvance(QLatin1Char('0')) *
+              std::max(kCellDigits, table_.column(column).characters);
   for (const QString& word : ToQt(table_.Head(column)).split(QLatin1Char(' '))) {
     width = std::max(width, metrics.horizontalAdvance(word));
   }
@@ -227,7 +232,7 @@ void TableFace::BuildHeads(QWidget& heads) {
     QLabel* head = named != nullptr ? set().Make<LabelFace>(*named, &heads).label()
                                     : MakeText(ToQt(table_.Head(column)), &heads);
     QLabel* unit = MakeText(QString(), &heads);
-    unit->setForegroundRole(QPalette::PlaceholderText);
+    set().look().MakeFaint(*unit);
     for (QLabel* label : {head, unit}) {
       label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
       label->setMinimumWidth(0);
@@ -329,13 +334,12 @@ void TableFace::DimRow(int row) {
 void TableFace::AlignPoints(int column) {
   const QChar mark =
       table_.screen().mark() == DecimalMark::Comma ? QLatin1Char(',') : QLatin1Char('.');
-  const QFontMetrics metrics = widget()->fontMetrics();
   std::vector<std::pair<CellEdit*, int>> cells;
   int widest = 0;
   for (int row = 0; row < table_.rows(); ++row) {
     CellEdit* edit = EditOf(table_.Cell(row, column));
     if (edit == nullptr) continue;
-    cells.emplace_back(edit, metrics.horizontalAdvance(Fraction(edit->text(), mark)));
+    cells.emplace_back(edit, edit->fontMetrics().horizontalAdvance(Fraction(edit->text(), mark)));
     widest = std::max(widest, cells.back().second);
   }
   for (const auto& [edit, wide] : cells) edit->LeaveRight(widest - wide);

@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <memory>
+#include <optional>
 
 #include "ui/field_edit.h"
 #include "ui/frame_panel.h"
@@ -81,6 +82,11 @@ class FlatStyle : public QProxyStyle {
  public:
   FlatStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+  void SetBorders(bool entryBorders, bool raisedOptions) {
+    entryBorders_ = entryBorders;
+    raisedOptions_ = raisedOptions;
+  }
+
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
@@ -142,7 +148,7 @@ class FlatStyle : public QProxyStyle {
     if (control == CC_GroupBox) {
       if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
         const auto* panel = dynamic_cast<const FramePanel*>(widget);
-        DrawFrame(*box, panel != nullptr && panel->asksForCare(), painter);
+        DrawFrame(*box, panel, painter);
         return;
       }
     }
@@ -218,15 +224,18 @@ class FlatStyle : public QProxyStyle {
                  chosen ? QPalette::HighlightedText : QPalette::ButtonText);
   }
 
-  static void DrawFrame(const QStyleOptionGroupBox& box, bool asksForCare, QPainter* painter) {
-    const ThemeColors colors(box.palette);
+  static void DrawFrame(const QStyleOptionGroupBox& box, const FramePanel* panel,
+                        QPainter* painter) {
+    const ThemeColors colors(QApplication::palette());
     painter->save();
-    if (asksForCare) {
-      Panel(painter, box.rect, kFrameRadius, colors.cautionFill, colors.cautionBorder);
+    const std::optional<QColor> chosen = panel == nullptr ? std::nullopt : panel->ground();
+    if (panel != nullptr && panel->asksForCare()) {
+      Panel(painter, box.rect, kFrameRadius, chosen.value_or(colors.cautionFill),
+            colors.cautionBorder);
       DrawBar(painter, QRectF(box.rect).adjusted(0, kFrameRadius / 2, 0, -kFrameRadius / 2),
               colors.cautionBorder);
     } else {
-      Panel(painter, box.rect, kFrameRadius, colors.card, colors.border);
+      Panel(painter, box.rect, kFrameRadius, chosen.value_or(colors.card), colors.border);
     }
     if (!box.text.isEmpty()) {
       QFont font = painter->font();
@@ -254,7 +263,7 @@ class FlatStyle : public QProxyStyle {
   }
 
   static void DrawButton(const QStyleOption& option, QPainter* painter) {
-    const ThemeColors colors(option.palette);
+    const ThemeColors colors(QApplication::palette());
     const QColor text = option.palette.color(QPalette::ButtonText);
     const bool on = (option.state & State_Enabled) != 0;
     QColor fill = option.palette.color(QPalette::Button);
@@ -292,8 +301,8 @@ class FlatStyle : public QProxyStyle {
     return QIcon(pixmap);
   }
 
-  static void DrawIndicator(const QStyleOption& option, bool round, QPainter* painter) {
-    const ThemeColors colors(option.palette);
+  void DrawIndicator(const QStyleOption& option, bool round, QPainter* painter) const {
+    const ThemeColors colors(QApplication::palette());
     const bool enabled = (option.state & State_Enabled) != 0;
     const bool on = (option.state & State_On) != 0;
     const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -301,9 +310,16 @@ class FlatStyle : public QProxyStyle {
     QColor line = enabled ? colors.fieldBorder : colors.border;
     if (on) fill = line = enabled ? colors.accent : colors.fieldBorder;
     if ((option.state & State_HasFocus) != 0) line = colors.accent;
+    QColor sign = option.palette.color(QPalette::HighlightedText);
+    if (!raisedOptions_) {
+      // A line in the colour of the caption and a sign in it, on whatever ground there is.
+      fill = Qt::transparent;
+      sign = option.palette.color(enabled ? QPalette::Active : QPalette::Disabled,
+                                  QPalette::WindowText);
+      if ((option.state & State_HasFocus) == 0) line = sign;
+    }
     painter->save();
     Panel(painter, box, round ? box.width() / 2 : 3, fill, line);
-    const QColor sign = option.palette.color(QPalette::HighlightedText);
     if (on && round) {
       painter->setPen(Qt::NoPen);
       painter->setBrush(sign);
@@ -318,16 +334,14 @@ class FlatStyle : public QProxyStyle {
     painter->restore();
   }
 
-  static void DrawField(const FieldEdit& edit, const QStyleOption& option, QPainter* painter) {
-    const ThemeColors colors(option.palette);
+  void DrawField(const FieldEdit& edit, const QStyleOption& option, QPainter* painter) const {
+    const ThemeColors colors(QApplication::palette());
     const bool focused = (option.state & State_HasFocus) != 0;
     QColor fill = edit.output() ? colors.outputFill : option.palette.color(QPalette::Base);
     QColor line = edit.output() ? colors.outputBorder : colors.fieldBorder;
     double width = 1;
-    if (edit.plain()) {
-      fill = Qt::transparent;
-      line = Qt::transparent;
-    }
+    if (edit.plain() || !entryBorders_) line = Qt::transparent;
+    if (edit.plain()) fill = Qt::transparent;
     if (edit.mark() == Mark::Changed) fill = colors.changedFill;
     if (edit.inRange()) fill = Blend(option.palette.color(QPalette::Base), colors.accent, 0.35);
     if (focused) {
@@ -344,6 +358,9 @@ class FlatStyle : public QProxyStyle {
     if (edit.mark() == Mark::Changed) DrawBar(painter, option.rect, colors.accent);
     painter->restore();
   }
+
+  bool entryBorders_ = true;
+  bool raisedOptions_ = true;
 };
 
 }  // namespace
@@ -351,7 +368,7 @@ class FlatStyle : public QProxyStyle {
 ThemeColors::ThemeColors(const QPalette& palette) {
   const QColor window = palette.color(QPalette::Active, QPalette::Window);
   const QColor base = palette.color(QPalette::Active, QPalette::Base);
-  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  const QColor text = palette.color(QPalette::Active, QPalette::Text);
   dark = window.lightness() < text.lightness();
   const QColor red(dark ? 0xff6b6b : 0xc62828);
   accent = palette.color(QPalette::Active, QPalette::Highlight);
@@ -365,6 +382,13 @@ ThemeColors::ThemeColors(const QPalette& palette) {
   cautionBorder = Blend(card, QColor(kCaution), 0.8);
   errorFill = Blend(base, QColor(0xe53935), dark ? 0.26 : 0.13);
   errorBorder = red;
+}
+
+void ApplyBorders(const Appearance& appearance) {
+  auto* style = dynamic_cast<FlatStyle*>(QApplication::style());
+  if (style == nullptr) return;
+  style->SetBorders(appearance.entryBorder, appearance.raisedOptions);
+  for (QWidget* widget : QApplication::allWidgets()) widget->update();
 }
 
 void ApplyTheme(QApplication& app, Theme theme) {

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QPalette>
 
+#include "core/appearance.h"
+
 class QApplication;
 
 namespace veldox {
@@ -13,6 +15,9 @@ enum class Theme { System, Light, Dark };
 
 /// Gives the application its style and colours. May be called again to switch.
 void ApplyTheme(QApplication& app, Theme theme);
+
+/// Draws the borders of text boxes and the signs of option and check boxes as the user has chosen.
+void ApplyBorders(const Appearance& appearance);
 
 /// Colours derived from a palette, so that they hold in light and dark alike.
 struct ThemeColors {

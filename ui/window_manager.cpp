@@ -1,11 +1,19 @@
 #include "ui/window_manager.h"
 
 #include "ui/own_faces.h"
+#include "ui/theme.h"
 
 namespace veldox {
 
 WindowManager::WindowManager(Shell& shell) : shell_(shell), pictures_(shell, *this), main_(shell) {
   shell_.context().host.SetPictureMaker(&pictures_);
+  main_.SetLookListener([this] {
+    if (following_) return;
+    following_ = true;
+    // What has changed the look may be in the middle of its own event.
+    QMetaObject::invokeMethod(
+        &main_, [this] { FollowAppearance(); }, Qt::QueuedConnection);
+  });
   shell_.SetFace(this);
   for (Screen* screen : shell_.screens()) screen->SetFace(this);
 }
@@ -30,7 +38,8 @@ QWidget* WindowManager::WindowOf(const Screen& screen) {
 
 QWidget& WindowManager::Window(Screen& screen) {
   if (QWidget* window = WindowOf(screen)) return *window;
-  windows_.push_back(std::make_unique<ScreenWindow>(screen, &MakeOwnFace));
+  windows_.push_back(std::make_unique<ScreenWindow>(
+      screen, &MakeOwnFace, AppearanceOf(shell_.block()), shell_.scaling()));
   return *windows_.back();
 }
 
@@ -40,12 +49,28 @@ Face* WindowManager::FaceOf(const Control& control) {
   return window == nullptr ? nullptr : window->faces().Of(control);
 }
 
+void WindowManager::FollowAppearance() {
+  following_ = false;
+  const Appearance appearance = AppearanceOf(shell_.block());
+  ApplyBorders(appearance);
+  main_.SetAppearance(appearance);
+  std::erase_if(windows_, [&](const auto& window) {
+    return !window->isVisible() && window->faces().look().appearance() != appearance;
+  });
+  for (const auto& window : windows_) window->SetAppearance(appearance);
+}
+
 void WindowManager::ScreenVisibilityChanged(Screen& screen) {
   if (!screen.visible()) {
     QWidget* window = WindowOf(screen);
     if (window != nullptr && window != &main_) window->hide();
     return;
   }
+  const ScreenScaling::Mode mode = shell_.scaling().ModeOf(shell_.block());
+  // A window that was closed opens as the screen's size says now.
+  std::erase_if(windows_, [&](const auto& each) {
+    return &each->screen() == &screen && !each->isVisible() && each->mode() != mode;
+  });
   QWidget& window = Window(screen);
   if (window.isMinimized()) {
     window.showNormal();

@@ -30,11 +30,15 @@ class WindowManager : public ScreenFace {
 
  private:
   ScreenWindow* Find(const Screen& screen) const;
+  /// Brings the look of all windows in line with the shared values. What is open follows; a window
+  /// that is closed is made anew when it opens, as the screen's size then says.
+  void FollowAppearance();
 
   Shell& shell_;
   QtPictures pictures_;
   MainWindow main_;
   std::vector<std::unique_ptr<ScreenWindow>> windows_;
+  bool following_ = false;  ///< all windows are about to be brought in line
 };
 
 }  // namespace veldox

@@ -84,6 +84,7 @@ TEST(KeyTable, EveryKeyHasAMemberThatItsFormCanHold) {
       case KeyForm::IntegerOrField: EXPECT_TRUE(isReal || isCount || isColor) << row->key; break;
       case KeyForm::FieldLiteral:
       case KeyForm::Text: EXPECT_TRUE(isText) << row->key; break;
+      case KeyForm::Flag:
       case KeyForm::YesNo:
       case KeyForm::OnOff: EXPECT_TRUE(isCount) << row->key; break;
       case KeyForm::Table:

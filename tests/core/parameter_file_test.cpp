@@ -676,15 +676,15 @@ Draw Switch = No
 ;   User Selected GUI Options -- Keep This Order
 Quit BackGround Color = 0
 BackGround Color = 0
-Option Check Box Style = 0
+Option Check Box Style = 1
 Large Screen = No
 Full Screen = No
 Entry Box Font Name = 
 Entry Box Font Size = 0
 Entry Box Font Bold = 0
 Entry Box Font Italic = 0
-Entry Box Alignment = 0
-Entry Box Style = 0
+Entry Box Alignment = 2
+Entry Box Style = 1
 Label Box Font Name = 
 Label Box Font Size = 0
 Label Box Font Bold = 0
@@ -1102,6 +1102,10 @@ void FillBlock(ParameterBlock& block) {
       block.** color = 100000 + number;
     } else if (const auto* count = std::get_if<std::int16_t ParameterBlock::*>(&row.member)) {
       block.** count = whole ? static_cast<std::int16_t>(number) : row.onValue;
+      // Letters of a size that there is, styles that there are.
+      if (row.nearest != nullptr) {
+        block.** count = static_cast<std::int16_t>(row.nearest(10 + number % 30));
+      }
     }
   }
   for (std::size_t i = 0; i < 20; ++i) {

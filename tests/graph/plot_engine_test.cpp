@@ -178,6 +178,31 @@ TEST_F(PlotEngineTest, RefusesCurvesThatAreNone) {
   EXPECT_TRUE(plot_.series().empty());
 }
 
+TEST_F(PlotEngineTest, ACurveThatMayBeEmptyIsDrawnAsFarAsItGoes) {
+  plot_.SetScale({0, 1, 0, 1});
+  plot_.DrawAxes();
+  plot_.PlotSeries({}, "a table without records", {}, 0);
+  const std::vector<GraphPoint> one{{0.5, 0.25}};
+  plot_.PlotSeries(one, {}, {}, 0);
+  const std::vector<GraphPoint> noNumber{{0.5, NAN}};
+  EXPECT_THAT(MessageOf([&] { plot_.PlotSeries(noNumber, {}, {}, 0); }), HasSubstr("no number"));
+  ASSERT_EQ(plot_.series().size(), 2U);
+  EXPECT_TRUE(plot_.series()[0].points.empty());
+  EXPECT_TRUE(plot_.series()[0].starts.empty());
+  // It has its pen and its name like every other.
+  EXPECT_EQ(plot_.series()[0].name, "Green");
+  EXPECT_EQ(plot_.series()[1].name, "Blue");
+  RecordingSurface surface(600, 400);
+  plot_.DrawOn(surface, {});
+  EXPECT_NE(surface.Find("a table without records"), nullptr);
+  // The lonely point is a dot, the empty curve nothing at all.
+  ASSERT_EQ(surface.polylines.size(), 1U);
+  EXPECT_EQ(surface.polylines[0].points.size(), 2U);
+  ASSERT_EQ(plot_.NearestPoints(0).size(), 1U);
+  EXPECT_EQ(plot_.NearestPoints(0)[0].series, 1U);
+  EXPECT_EQ(plot_.PointsAsCsv(), "series,name,x,y\r\n2,\"Blue\",0.5,0.25\r\n");
+}
+
 TEST_F(PlotEngineTest, NamesTheCurveThatHoldsAPointThatIsNone) {
   plot_.SetScale({0, 1, 0, 1});
   const std::vector<GraphPoint> overflown{{1, 1}, {2, std::numeric_limits<double>::infinity()}};

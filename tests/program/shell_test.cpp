@@ -73,12 +73,28 @@ TEST_F(ShellTest, ADamagedStartUpFileIsRefusedByOneBox) {
   EXPECT_EQ(block().Bore, 4.0);
 }
 
-TEST_F(ShellTest, MarkerFilesSetTheSizeOfTheScreens) {
+TEST_F(ShellTest, AMarkerFileRunsTheCommandOfItsScreenSize) {
+  WriteFile("veldox.lrg", "");
+  program_.Start();
+  EXPECT_EQ(block().LargeScreen, 1);
+  EXPECT_EQ(block().FullScreen, 0);
+}
+
+TEST_F(ShellTest, OfTwoMarkerFilesTheFullScreensCommandRunsLast) {
   WriteFile("veldox.lrg", "");
   WriteFile("veldox.ful", "");
   program_.Start();
-  EXPECT_EQ(block().LargeScreen, 1);
+  EXPECT_EQ(block().LargeScreen, 0);
   EXPECT_EQ(block().FullScreen, 1);
+}
+
+TEST_F(ShellTest, OnASmallScreenMarkerFilesDoNothing) {
+  host_.screen = {1024, 699, 96};
+  WriteFile("veldox.ful", "");
+  program_.Start();
+  EXPECT_EQ(block().FullScreen, 0);
+  EXPECT_FALSE(shell().MenuEnabled(*Shell::FindMenuItem("LrgScrRes")));
+  EXPECT_FALSE(shell().MenuEnabled(*Shell::FindMenuItem("FullScrRes")));
 }
 
 TEST_F(ShellTest, CommaSystemsAreToldAndConverted) {
@@ -336,7 +352,7 @@ TEST_F(UnsavedWorkTest, IsMadeByABoxAnOptionAndAPickThatTheFileHolds) {
   // Nor does it ask about the main form's options, nor about what a file brings.
   Choose("Graph");
   EXPECT_FALSE(changes([&] { shell().graphOptions.Check1.Click(); }));
-  EXPECT_FALSE(changes([&] { shell().graphOptions.Option4.buttons()[2]->Click(); }));
+  EXPECT_FALSE(changes([&] { shell().graphOptions.Option5.buttons()[2]->Click(); }));
   EXPECT_EQ(block().GridSwitch, 2);
   WriteFile("boxes.prm", "Show 3 Decimals = No\r\nCubicin Option = 2\r\nBase Exponent = 1.4\r\n");
   host_.AnswerFile(folder_ / "boxes.prm");

@@ -60,10 +60,10 @@ TEST_F(RunnerTest, TellsBoxesOptionsAndStates) {
 }
 
 TEST_F(RunnerTest, TellsAndPicksRowsOfLists) {
-  EXPECT_EQ(Run("rows Main.Combo4\nget Main.Combo4\nselect Main.Combo4 1 - 3d Fixed (Default)\n"
+  EXPECT_EQ(Run("rows Main.Combo4\nget Main.Combo4\nselect Main.Combo4 0 - None\n"
                 "get Main.Combo4\n"),
-            "2\n0 - None\n1 - 3d Fixed (Default)\nMain.Combo4 = \n"
-            "Main.Combo4 = 1 - 3d Fixed (Default)\n");
+            "2\n0 - None\n1 - 3d Fixed (Default)\nMain.Combo4 = 1 - 3d Fixed (Default)\n"
+            "Main.Combo4 = 0 - None\n");
 }
 
 TEST_F(RunnerTest, TellsSharedValuesByTheirKeys) {

@@ -55,7 +55,7 @@ messages
 value Custom Grid Line Count x
 value Custom Grid Line Count y
 pause buttons
-choose Main.Option4(2)
+choose Main.Option5(2)
 value Grid Switch
 check Main.Check1
 value Large Lines

@@ -77,7 +77,7 @@ messages
 pause options of the main form do not ask
 menu Graph
 check Main.Check1
-choose Main.Option4(2)
+choose Main.Option5(2)
 type Main.Text19 20
 click Main.Command3
 click Main.Command2
