@@ -291,6 +291,7 @@ void StoreLifts(const LiftFile& file, const std::string& title, ParameterBlock& 
   b.IntakeLash = intakeLash;
   b.ExhaustLash = exhaustLash;
   b.CamStepDegrees = {file.step, file.intake.step, file.exhaust.step};
+  b.LiftsOfCamDoctor = file.format == LiftFormat::CamDoctor ? 1 : 0;
   b.CamFileHeader = file.header;
   b.CamFileTitle = title;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,8 @@ class PageSurface {
   virtual bool landscape() const = 0;
   /// Draws one line of text with its left top corner at X and Y.
   virtual void PlaceText(int x, int y, const PageFont& font, std::string_view text) = 0;
+  /// Draws a black line between two places. @param width  twips
+  virtual void PlaceLine(int fromX, int fromY, int toX, int toY, int width) = 0;
   /// Sends the page and begins the next one.
   virtual void NewPage() = 0;
   /// Sends the last page and ends the job.
@@ -46,24 +49,51 @@ struct PlacedText {
   std::string text;
 };
 
+/// A line on a page, in twips.
+struct PlacedLine {
+  int fromX = 0;
+  int fromY = 0;
+  int toX = 0;
+  int toY = 0;
+  int width = 0;
+};
+
 /// What stands on one page.
 struct Page {
   bool landscape = false;
   std::vector<PlacedText> texts;
+  std::vector<PlacedLine> lines;
+};
+
+/// A rectangle of a page in twips.
+struct PageArea {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+/// What a report has drawn over its text where it is printed.
+struct PagePicture {
+  int height = 0;  ///< twips
+  std::function<void(PageSurface&, const PageArea&)> draw{};
 };
 
 /// Keeps the pages of a job instead of drawing them.
 class PageRecorder : public PageSurface {
  public:
   explicit PageRecorder(bool landscape = false) : landscape_(landscape) {
-    pages_.push_back({landscape_, {}});
+    pages_.push_back({landscape_, {}, {}});
   }
 
   bool landscape() const override { return landscape_; }
   void PlaceText(int x, int y, const PageFont& font, std::string_view text) override {
     pages_.back().texts.push_back({x, y, font, std::string(text)});
   }
-  void NewPage() override { pages_.push_back({landscape_, {}}); }
+  void PlaceLine(int fromX, int fromY, int toX, int toY, int width) override {
+    pages_.back().lines.push_back({fromX, fromY, toX, toY, width});
+  }
+  void NewPage() override { pages_.push_back({landscape_, {}, {}}); }
   void EndJob() override { ended_ = true; }
 
   const std::vector<Page>& pages() const { return pages_; }

@@ -99,11 +99,12 @@ int ReportPrinter::PageEnd() const {
   return landscape_ ? kPageEndLandscape : kPageEnd;
 }
 
-void ReportPrinter::PrintReport(std::string_view report, int fontSize) {
+void ReportPrinter::PrintReport(std::string_view report, int fontSize, const PagePicture& picture) {
   textFont_ = {std::string(kTextFontName), fontSize, false};
   boldFont_ = textFont_;
   boldFont_.bold = true;
   PrintCompanyHeader();
+  PrintPicture(picture);
   const std::vector<MarkedLine> lines = ReportLines(report);
   if (lines.size() == 1) {
     PrintText(lines.front().text, false);
@@ -174,6 +175,13 @@ void ReportPrinter::PrintCompanyHeader() {
   const int printedTop = alignment == PageAlignment::Right ? y : 0;
   PrintAligned(PrintedLine(header_.printed), font, kTextLeft, printedTop, PageAlignment::Right);
   y_ = std::max(y, printedTop + LineHeight(font)) + kUnderHeader;
+}
+
+void ReportPrinter::PrintPicture(const PagePicture& picture) {
+  if (!picture.draw) return;
+  const int height = std::min(picture.height, PageEnd() - y_);
+  picture.draw(surface_, {kTextLeft, y_, sheet_.width - 2 * kTextLeft, height});
+  y_ += height + kUnderHeader;
 }
 
 void ReportPrinter::PrintAligned(std::string_view text, const PageFont& font, int x, int y,

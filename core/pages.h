@@ -54,8 +54,9 @@ class ReportPrinter {
 
   /// Prints a whole report with the marks of its lines and ends the job. The first line, the
   /// prompt, is left out.
+  /// @param picture  stands over the text of the first page
   /// @throws CommandError (IndexOutOfRange) for a twelfth heading line, and what the surface throws
-  void PrintReport(std::string_view report, int fontSize);
+  void PrintReport(std::string_view report, int fontSize, const PagePicture& picture = {});
 
   /// The most heading lines that a report repeats on every page.
   static constexpr std::size_t kMostHeadingLines = 11;
@@ -65,6 +66,7 @@ class ReportPrinter {
   void NewPage();
   void PrintFooter();
   void PrintCompanyHeader();
+  void PrintPicture(const PagePicture& picture);
   void PrintAligned(std::string_view text, const PageFont& font, int x, int y,
                     PageAlignment alignment);
   void PrintText(std::string_view text, bool bold);

@@ -133,7 +133,7 @@ struct ParameterBlock {
   std::array<double, 54> BSACRPM{};
   double GraphXMax{0};
   double GraphYMax{0};
-  double MaxRPM{0};
+  double MaxRPM{8000};
 
   // Camshafts
   double IntakeOpen{0};
@@ -570,6 +570,9 @@ struct ParameterBlock {
   std::int16_t IntakeLiftCount{0};   ///< last index in use, the closing zero's; 0 for no table
   std::int16_t ExhaustLiftCount{0};  ///< the same of the exhaust
   CamSteps CamStepDegrees;
+  /// 1: of a Cam Doctor file. Its rows begin at index 0, the closing zero stands one before the
+  /// counts, and its steps are cam degrees.
+  std::int16_t LiftsOfCamDoctor{0};
   std::string CamFileHeader;    ///< comment lines that a conversion writes again
   std::string CurrentFileName;  ///< path of the lift file
   std::string CamFileTitle;     ///< its name without the folder
@@ -577,6 +580,7 @@ struct ParameterBlock {
   // Values without a record of their own in the file
   double RodLength2{6.2};
   double BalancerDiameter{6.75};  ///< inches
+  double Overlap{0};              ///< crank degrees
   double PistonArea{0};
   std::string Notes;
 

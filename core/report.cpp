@@ -1,5 +1,7 @@
 #include "core/report.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace veldox {
@@ -51,6 +53,16 @@ std::string ReportBoxText(std::string_view report) {
 
 std::string ReportFileText(std::string_view report) {
   return ReportBoxText(report).append(kLineBreak);
+}
+
+int FontSizeByWidth(std::string_view report) {
+  constexpr std::size_t kUsualWidth = 80;
+  const std::vector<MarkedLine> lines = ReportLines(report);
+  // The first line is never printed.
+  const bool wide = std::any_of(lines.begin() + 1, lines.end(), [](const MarkedLine& line) {
+    return line.text.size() > kUsualWidth;
+  });
+  return wide ? 9 : 10;
 }
 
 void ReportWriter::EndLine(LineMark mark) {

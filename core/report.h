@@ -54,6 +54,10 @@ std::string ReportBoxText(std::string_view report);
 /// line. A mark that no line break follows stays.
 std::string ReportFileText(std::string_view report);
 
+/// The points that a report is printed in where its width decides: 9 when a printed line is wider
+/// than 80 characters, else 10.
+int FontSizeByWidth(std::string_view report);
+
 /// Builds a report line by line: cells of numbers by ReportColumns, texts as they are.
 class ReportWriter : public ReportColumns {
  public:

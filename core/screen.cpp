@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "core/field_copy.h"
 #include "core/files.h"
 #include "core/key_table.h"
 #include "core/pages.h"
@@ -74,6 +75,7 @@ void Control::AppendReadingOrder(std::vector<Control*>& order) {
 
 void Control::Changed() {
   if (face_ != nullptr) face_->ControlChanged(*this);
+  for (const auto& follow : followers_) follow();
 }
 
 void Control::NoteChange() const {
@@ -215,12 +217,15 @@ ReportBox::ReportBox(Frame& frame, std::string name)
   SetVisible(false);
 }
 
-void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file) {
-  report_ = std::move(report);
+void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                           PagePicture picture) {
+  std::string shown = ReportBoxText(report);
+  report_ = file.isWhole ? "\r\n" + report : std::move(report);
   file_ = file;
+  picture_ = std::move(picture);
   fontSize_ = fontSize;
   showsReport_ = true;
-  SetText(ReportBoxText(report_));
+  SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) before_ = screen().focus();
   // The report's keys work at once.
@@ -235,6 +240,7 @@ void ReportBox::ShowSentence(std::string sentence) {
 
 void ReportBox::CloseReport() {
   report_.clear();
+  picture_ = {};
   sentence_.clear();
   showsReport_ = false;
   Control* before = std::exchange(before_, nullptr);
@@ -268,6 +274,7 @@ void ReportBox::WriteReportToFile() const {
       host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
   std::string_view report = report_;
+  if (file_.isWhole) report.remove_prefix(report.find('\n') + 1);
   if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
     report.remove_prefix(ReportPrompt.size());
   }
@@ -283,7 +290,7 @@ PageDrawing ReportBox::Pages() const {
   return [this](PageSurface& surface) {
     const ProgramContext& context = screen().context();
     ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
-        .PrintReport(report_, fontSize_);
+        .PrintReport(report_, fontSize_, picture_);
   };
 }
 
@@ -662,6 +669,13 @@ bool Screen::Perform(const std::function<void()>& command) {
 
 namespace {
 
+/// The field that a control shows or works a second time, itself for every other.
+const Control* ValueOf(const Control* control) {
+  if (const auto* copy = dynamic_cast<const FieldCopy*>(control)) return &copy->of();
+  if (const auto* twin = dynamic_cast<const FieldTwin*>(control)) return &twin->of();
+  return control;
+}
+
 /// The caption in quotes, behind it the frame where another frame has such a control too.
 std::string NameInMessages(const Control& control) {
   const std::string caption = control.PlainCaption();
@@ -670,10 +684,29 @@ std::string NameInMessages(const Control& control) {
   const std::vector<Control*>& all = control.screen().controls();
   const bool isElsewhere = std::any_of(all.begin(), all.end(), [&](const Control* other) {
     return other->kind() == control.kind() && other->frame() != control.frame() &&
-           other->PlainCaption() == caption;
+           other->PlainCaption() == caption && ValueOf(other) == other &&
+           ValueOf(&control) != other;
   });
   const std::string frame = control.frame()->PlainCaption();
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
+}
+
+/// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
+Control& WithinReach(Control& control) {
+  if (control.Reachable()) return control;
+  for (Control* other : control.screen().controls()) {
+    const bool isTwin = dynamic_cast<const FieldTwin*>(other) != nullptr;
+    if (isTwin && ValueOf(other) == &control && other->Reachable()) return *other;
+  }
+  return control;
+}
+
+/// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
+/// could type there.
+void MarkFault(Control& control) {
+  control.SetMark(Mark::Error);
+  Control& place = WithinReach(control);
+  if (place.Reachable() || !place.Shown()) place.Focus();
 }
 
 }  // namespace
@@ -681,13 +714,12 @@ std::string NameInMessages(const Control& control) {
 void Screen::Report(const CommandError& error) {
   std::string text = error.message();
   if (error.control() != nullptr) {
-    text = NameInMessages(*error.control()) + ' ' + text;
+    text = NameInMessages(WithinReach(*error.control())) + ' ' + text;
   }
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
   if (error.control() != nullptr) {
-    error.control()->SetMark(Mark::Error);
-    error.control()->Focus();
+    MarkFault(*error.control());
   }
 }
 
@@ -716,14 +748,23 @@ void Screen::TakeFocus(Control* control) {
   block().OptionFieldActive = field != nullptr && field->isOption() ? 1 : 0;
 }
 
+namespace {
+
+/// False where a field keeps the keyboard. One that a panel lies over cannot.
+bool MayLeave(Control* focus) {
+  auto* field = dynamic_cast<TextControl*>(focus);
+  return field == nullptr || !field->Reachable() || field->Leave();
+}
+
+}  // namespace
+
 bool Screen::MoveFocus(Control* control) {
   if (focus_ == control) return true;
   // What closes works always, and leaves a field as it stands.
   const auto* command = dynamic_cast<const Command*>(control);
   const bool closes =
       command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
-  auto* left = dynamic_cast<TextControl*>(focus_);
-  if (left != nullptr && !closes && !left->Leave()) return false;
+  if (!closes && !MayLeave(focus_)) return false;
   TakeFocus(control);
   return true;
 }
@@ -743,6 +784,7 @@ bool TakesKeyboard(const Control& control) {
     case ControlKind::Label:
     case ControlKind::Frame:
     case ControlKind::Table:
+    case ControlKind::Drawing:
     case ControlKind::OptionPart:
     case ControlKind::OptionGroup: return false;
     case ControlKind::OptionButton: return static_cast<const OptionButton&>(control).on();
@@ -800,10 +842,7 @@ Command* Screen::NextCalculation() {
 bool Screen::CalculateAgain() {
   Command* command = NextCalculation();
   if (command == nullptr) return false;
-  if (auto* field = dynamic_cast<TextControl*>(focus_); field != nullptr && !field->Leave()) {
-    return false;
-  }
-  return command->Click();
+  return MayLeave(focus_) && command->Click();
 }
 
 void Screen::PutAwayPanel() {
@@ -901,13 +940,13 @@ std::string Screen::BuildReport(const std::function<std::string()>& build, const
 }
 
 void Screen::FailAt(Field& field, std::string message) {
-  field.SetMark(Mark::Error);
-  field.Focus();
+  MarkFault(field);
   throw CommandError(ErrorKind::InvalidArgument, std::move(message));
 }
 
-void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file) {
-  ReportPane()->ShowReport(std::move(report), fontSize, file);
+void Screen::ShowReport(std::string report, int fontSize, const ReportFile& file,
+                        PagePicture picture) {
+  ReportPane()->ShowReport(std::move(report), fontSize, file, std::move(picture));
 }
 
 std::string Screen::TextOf(const Field& field, double value) const {

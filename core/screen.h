@@ -82,6 +82,7 @@ enum class ControlKind {
   TextArea,
   OptionPart,
   Table,
+  Drawing,
 };
 
 /// How a field stands out until the next command.
@@ -124,6 +125,9 @@ class Control {
   void SetEnabled(bool enabled);
   void SetMark(Mark mark);
   void SetFace(ControlFace* face) { face_ = face; }
+  /// Runs whenever what the control shows has changed, whoever changed it, for what follows of it
+  /// elsewhere on the screen.
+  void WhenChanged(std::function<void()> follow) { followers_.push_back(std::move(follow)); }
   /// Takes the keyboard focus.
   void Focus();
   /// An option of the main form: working it is no change of the data.
@@ -135,7 +139,7 @@ class Control {
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
           std::string help);
-  /// Tells the face.
+  /// Tells the face and who else follows.
   void Changed();
   /// The user has turned or picked something: what the file would hold asks to be saved, and the
   /// screen follows.
@@ -154,6 +158,7 @@ class Control {
   std::string caption_;
   std::string help_;
   ControlFace* face_ = nullptr;
+  std::vector<std::function<void()>> followers_;
   bool visible_ = true;
   bool enabled_ = true;
   bool isOption_ = false;
@@ -264,6 +269,7 @@ struct ReportFile {
   const char* filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Printer Files (*.prt)|*.prt";
   int filterIndex = 3;    ///< counts from 1
   bool hasPrompt = true;  ///< false: the file begins behind the report's first lines
+  bool isWhole = false;   ///< true: the report has no prompt, all of it is printed and written
 };
 
 /// The pane that shows a report; also the help place of screens without one of their own.
@@ -273,9 +279,12 @@ class ReportBox : public TextControl {
 
   /// Shows a report (core/report.h); it stays until a key closes it.
   /// @param fontSize  points it is printed in
-  void ShowReport(std::string report, int fontSize, const ReportFile& file = {});
+  /// @param picture  stands over the text in print
+  void ShowReport(std::string report, int fontSize, const ReportFile& file = {},
+                  PagePicture picture = {});
   bool showsReport() const { return showsReport_; }
-  /// The report with its marks, empty when none is shown.
+  /// The report with its marks, as it goes to the printer: behind a first line that is not
+  /// printed. Empty when none is shown.
   const std::string& report() const { return report_; }
   int fontSize() const { return fontSize_; }
   /// Draws the pages of the report.
@@ -299,6 +308,7 @@ class ReportBox : public TextControl {
   Control* before_ = nullptr;  // what had the focus when the report opened
   int fontSize_ = 0;
   ReportFile file_;
+  PagePicture picture_;
   bool showsReport_ = false;
 };
 
@@ -694,7 +704,9 @@ class Screen {
   void RequireResult(Field& field, double value, DividesBy divisors = {}) const;
   void ShowText(TextControl& field, std::string text);
   /// Shows a report in the screen's report box. @param fontSize  points it is printed in
-  void ShowReport(std::string report, int fontSize = 10, const ReportFile& file = {});
+  /// @param picture  stands over the text in print
+  void ShowReport(std::string report, int fontSize = 10, const ReportFile& file = {},
+                  PagePicture picture = {});
   /// A report that `build` makes of numbers no field has shown yet.
   /// @param impossible  what is told, with the fields at fault, when one of them divides by zero,
   ///                    is too large or is no number

@@ -151,6 +151,11 @@ void Table::SetHead(int column, std::string head) {
   Changed();
 }
 
+void Table::DimRows(std::function<bool(int row)> unused) {
+  unused_ = std::move(unused);
+  Changed();
+}
+
 Field* Table::Next(Place from, int rowStep, int columnStep) const {
   const Range whole = all();
   while (true) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/field_array.h"
@@ -20,11 +22,19 @@ struct TableColumn {
   /// Single fields from the first row on; null for a row that has none here.
   TableColumn(std::string head, std::initializer_list<Field*> fields);
 
+  /// The same with room for longer texts than numbers.
+  TableColumn Wide(int itsCharacters) && {
+    characters = itsCharacters;
+    return std::move(*this);
+  }
+
   std::string head;
   Label* headLabel = nullptr;
   std::vector<Field*> cells;
   /// What all of the column measures; its sign stands in the head.
   Unit unit = Unit::None;
+  /// How long its texts are; 0 for numbers as fields show them.
+  int characters = 0;
 };
 
 /// What the rows of a table are called.
@@ -70,6 +80,10 @@ class Table : public Control {
   const std::string& Head(int column) const;
   /// Gives a column another head; its fields are called by it from then on.
   void SetHead(int column, std::string head);
+  /// Rows that are not in use are shown dimmed; their texts stay, and they take input as ever.
+  /// @param unused  asked of a row whenever the table is shown anew
+  void DimRows(std::function<bool(int row)> unused);
+  bool IsDimmed(int row) const { return unused_ != nullptr && unused_(row); }
   Range all() const { return {0, 0, rows() - 1, columns() - 1}; }
 
   /// The nearest cell that is shown, in a direction; null where there is none.
@@ -96,6 +110,7 @@ class Table : public Control {
 
   std::vector<TableColumn> columns_;
   TableRows rowNames_;
+  std::function<bool(int row)> unused_;
   int rows_ = 0;
 };
 

@@ -19,6 +19,10 @@ inline constexpr double kKilogramsPerPound = 0.4535923696;
 inline constexpr double kKilometresPerMile = 1.609344;
 inline constexpr double kMetreKilogramsPerFootPound = 0.13825499407704847;
 inline constexpr double kBarPerPsi = 0.0689475729;
+inline constexpr double kKilopascalsPerPsi = 6.89475729;
+inline constexpr double kPsiPerInchMercury = 0.4911542;
+/// What the atmosphere weighs where no barometer tells it.
+inline constexpr double kStandardAtmospherePsi = 14.69595;
 /// Gravity.
 inline constexpr double kMetresASecondSquared = 9.80665;
 inline constexpr double kFeetASecondSquared = 32.17405;
@@ -77,6 +81,9 @@ inline constexpr UnitRule kTorqueRule{
 inline constexpr UnitRule kMeanPressureRule{[](double psi) { return psi * kBarPerPsi; },
                                             [](double bar) { return bar / kBarPerPsi; }};
 
+inline constexpr UnitRule kBoostPressureRule{[](double psi) { return psi * kKilopascalsPerPsi; },
+                                             [](double kpa) { return kpa / kKilopascalsPerPsi; }};
+
 /// Temperature in degrees Celsius.
 inline constexpr double CelsiusOf(double fahrenheit) {
   return (fahrenheit - 32) * 5 / 9;
@@ -116,10 +123,29 @@ enum class Unit {
   MilesPerHour,  ///< in both modes
   Torque,
   MeanPressure,
+  BoostPressure,  ///< above the atmosphere's
   Seconds,
   Feet,  ///< lengths on the road
   Miles,
+  LengthPerDegree,  ///< velocity of a cam's lift
+  LengthDegrees,    ///< area under a cam's lift
   PortArea,
+  // The same in both modes: of screens, or parts of them, that know no metric units.
+  SquareInches,
+  Horsepower,
+  Psi,
+  Fahrenheit,
+  InchesMercury,
+  InchesWater,
+  CubicFeetPerMinute,
+  PoundsPerHour,
+  KilogramsPerSecond,
+  GramsPerMinute,
+  CcPerMinute,
+  GallonsPerHour,
+  PoundsPerHorsepowerHour,
+  Milliseconds,
+  FeetPerSecond,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -152,10 +178,28 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::MilesPerHour: return "MPH";
     case Unit::Torque: return metric ? "m-kg" : "lb-ft";
     case Unit::MeanPressure: return metric ? "bar" : "psi";
+    case Unit::BoostPressure: return metric ? "kPa" : "psi";
     case Unit::Seconds: return "s";
     case Unit::Feet: return metric ? "m" : "ft";
     case Unit::Miles: return metric ? "km" : "mi";
+    case Unit::LengthPerDegree: return metric ? "mm/deg" : "in/deg";
+    case Unit::LengthDegrees: return metric ? "mm deg" : "in deg";
     case Unit::PortArea: return metric ? "sq cm" : "sq in";
+    case Unit::SquareInches: return "sq in";
+    case Unit::Horsepower: return "HP";
+    case Unit::Psi: return "psi";
+    case Unit::Fahrenheit: return "deg F";
+    case Unit::InchesMercury: return "in Hg";
+    case Unit::InchesWater: return "in H2O";
+    case Unit::CubicFeetPerMinute: return "CFM";
+    case Unit::PoundsPerHour: return "lb/hr";
+    case Unit::KilogramsPerSecond: return "kg/s";
+    case Unit::GramsPerMinute: return "g/min";
+    case Unit::CcPerMinute: return "cc/min";
+    case Unit::GallonsPerHour: return "gal/hr";
+    case Unit::PoundsPerHorsepowerHour: return "lb/hp-hr";
+    case Unit::Milliseconds: return "ms";
+    case Unit::FeetPerSecond: return "ft/s";
   }
   return "";
 }
@@ -163,7 +207,9 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
 /// How "Metric" converts a unit; null for those that are the same in both.
 constexpr const UnitRule* RuleOf(Unit unit) {
   switch (unit) {
-    case Unit::Length: return &kLengthRule;
+    case Unit::Length:
+    case Unit::LengthPerDegree:
+    case Unit::LengthDegrees: return &kLengthRule;
     case Unit::Area: return &kAreaRule;
     case Unit::PortArea: return &kPortAreaRule;
     case Unit::Volume: return &kVolumeRule;
@@ -179,6 +225,7 @@ constexpr const UnitRule* RuleOf(Unit unit) {
     case Unit::Feet: return &kFeetRule;
     case Unit::Torque: return &kTorqueRule;
     case Unit::MeanPressure: return &kMeanPressureRule;
+    case Unit::BoostPressure: return &kBoostPressureRule;
     default: return nullptr;
   }
 }

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "engine/displacement.h"
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 
 namespace veldox {
 

@@ -7,7 +7,7 @@
 #include "core/numbers.h"
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 #include "reference/weather.h"
 
 namespace veldox {

@@ -15,7 +15,6 @@ namespace veldox {
 /// is the inch; where it is the millimetre they are out by a factor that all of them share, so
 /// that ratios hold. Pressures of one call share a unit.
 
-inline constexpr double kPsiPerInchMercury = 0.4911542;
 inline constexpr double kBarsPerPsi = 0.0689475729;
 
 /// Pressures of water in air.

@@ -8,7 +8,7 @@
 
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 
 namespace veldox {
 
@@ -17,7 +17,6 @@ namespace {
 constexpr double kNewtonsPerPound = 4.448222;
 constexpr double kNewtonMetresPerFootPound = 1.3558179;
 constexpr int kMostGraphPoints = 200000;
-constexpr double kStandardPressure = 14.69595;  ///< psi
 constexpr double kInchesOfWaterPerPsi = 27.707258364;
 constexpr double kFastPortAngle = 73;    ///< where the piston draws about its most
 constexpr double kFeetPerInchSpeed = 6;  ///< inches of stroke by RPM to feet a minute
@@ -140,7 +139,7 @@ double LargestChange(double compressionRatio) {
 
 /// Inches of water by which the pressure differs once the volume has grown by a fraction.
 double PressureDrop(double fraction) {
-  return (kStandardPressure - kStandardPressure / (fraction + 1)) * kInchesOfWaterPerPsi;
+  return (kStandardAtmospherePsi - kStandardAtmospherePsi / (fraction + 1)) * kInchesOfWaterPerPsi;
 }
 
 double FlowLimit(double flow, bool metric) {

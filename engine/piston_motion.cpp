@@ -5,7 +5,7 @@
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/units.h"
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 
 namespace veldox {
 

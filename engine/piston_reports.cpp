@@ -5,7 +5,7 @@
 #include "core/report.h"
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 
 namespace veldox {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -25,7 +26,12 @@ struct GraphFrame {
 struct GraphCurve {
   std::string note;  ///< the legend's text before the pen's colour word; may be empty
   std::vector<GraphPoint> points;
-  std::vector<std::size_t> moves;  ///< indices of points that no line leads to
+  std::vector<std::size_t> moves;                 ///< indices of points that no line leads to
+  std::size_t fewestPoints = kFewestCurvePoints;  ///< 0: without points it is an empty graph
+  bool boxes = false;                             ///< a small box around each point
+  /// A line across the graph that the curve is read against, such as the lift a cam is rated at.
+  /// It is drawn once, however many curves bring it, and is no curve itself.
+  std::optional<double> standardLine = std::nullopt;
 };
 
 /// The grapher as other screens see it: a graph command computes its curves and hands
@@ -43,6 +49,9 @@ class Grapher {
   /// Draws curves onto the present graph with the next pens; axes stay.
   /// @throws CommandError for points that cannot be drawn, or without a graph
   virtual void AddToGraph(std::span<const GraphCurve> curves) = 0;
+  /// The same, and the axes grow where they do not hold a range yet. What was drawn keeps its
+  /// values.
+  virtual void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) = 0;
   /// There is a graph that curves can be added to.
   virtual bool HasGraph() const = 0;
   /// Opens the grapher's window with what was drawn.

@@ -123,9 +123,23 @@ void Form8::KeepFirstLimits() {
 void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
   if (curves.empty()) PlotEngine::RequireSeries({});
   for (const GraphCurve& curve : curves) {
-    next.PlotSeries(curve.points, {}, curve.moves);
+    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints);
     if (!curve.note.empty()) next.SetCurveNote(curve.note + "  " + next.series().back().name);
+    if (curve.boxes) {
+      const Color color = next.ShownColor(next.series().back());
+      for (const GraphPoint& point : curve.points) next.PlotBox(point.x, point.y, color);
+    }
+    if (curve.standardLine) DrawStandardLine(next, *curve.standardLine);
   }
+}
+
+void Form8::DrawStandardLine(PlotEngine& next, double level) {
+  const bool stands =
+      std::any_of(next.lines().begin(), next.lines().end(), [&](const PlotLineRecord& line) {
+        return line.inTextColor && line.from.y == level && line.to.y == level &&
+               line.to.x >= next.XHigh;
+      });
+  if (!stands) next.PlotAdjustedLine({next.XLow, level}, {next.XHigh, level}, {}, true);
 }
 
 void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) {
@@ -149,11 +163,19 @@ void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curve
 }
 
 void Form8::AddToGraph(std::span<const GraphCurve> curves) {
+  AddToGraph(curves, plot_.scale());
+}
+
+void Form8::AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) {
   if (!HasGraph()) {
     throw CommandError(ErrorKind::InvalidArgument,
                        "There is no graph yet that a curve can be added to.");
   }
   PlotEngine next = plot_;
+  const AxisRange scale = next.scale();
+  const AxisRange grown{std::min(scale.xLow, range.xLow), std::max(scale.xHigh, range.xHigh),
+                        std::min(scale.yLow, range.yLow), std::max(scale.yHigh, range.yHigh)};
+  if (grown != scale) next.Rescale(grown);
   AddCurves(next, curves);
   Commit(std::move(next), Shown::Other);
 }

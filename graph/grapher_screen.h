@@ -44,6 +44,7 @@ class Form8 : public Screen, public Grapher, public FileTaker {
   // Grapher
   void DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) override;
   void AddToGraph(std::span<const GraphCurve> curves) override;
+  void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) override;
   bool HasGraph() const override { return plot_.hasAxes(); }
   void ShowGraph() override { SetVisible(true); }
   PlotEngine& plot() override { return plot_; }
@@ -117,6 +118,7 @@ class Form8 : public Screen, public Grapher, public FileTaker {
   void RunGraphScript(const std::filesystem::path& file, ReadMode mode, const AxisRange& limits);
   AxisRange ScriptLimits(const GraphScript& script, const AxisRange& before);
   static void AddCurves(PlotEngine& next, std::span<const GraphCurve> curves);
+  static void DrawStandardLine(PlotEngine& next, double level);
   void Commit(PlotEngine next, Shown shown);
   void KeepFirstLimits();
   void GraphChanged();

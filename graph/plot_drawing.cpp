@@ -17,6 +17,7 @@ namespace {
 constexpr double kLabelLine = 1.15;   ///< height of a line of tick labels in text heights
 constexpr double kLegendLeft = 10;    ///< drawing units from the frame's left edge
 constexpr double kSwatchWidth = 1.6;  ///< length of the legend's sample line in text heights
+constexpr double kColumnGap = 2;      ///< between columns of the legend, in text heights
 constexpr double kLegendGap = 0.4;    ///< between the sample and the name, in text heights
 constexpr double kLargeLineWidth = 2;
 constexpr double kSwatchLineWidth = 2.5;
@@ -216,15 +217,25 @@ struct LegendLine {
   bool begins;  ///< the curve's first line, which has its sample
 };
 
-/// The names of the curves. A long one goes on in the next line, from where two blanks part it.
-/// The graph itself keeps the larger part of a surface.
-std::vector<LegendLine> LegendLines(const PlotEngine& engine, const Surface& surface, double font,
-                                    double frameLeft) {
+/// The legend in rows and columns, filled column by column.
+struct LegendSheet {
+  std::vector<LegendLine> lines;
+  std::size_t rows = 0;
+  double widest = 0;       ///< of its texts
+  double columnWidth = 0;  ///< from a column's left edge to the next one's
+  double width = 0;
+};
+
+/// The names of the curves. A long one goes on in the next line, from where two blanks part it;
+/// very many stand in columns. The graph itself keeps the larger part of a surface.
+LegendSheet LayOutLegend(const PlotEngine& engine, const Surface& surface, double font,
+                         double frameLeft) {
   constexpr double kMostOfHeight = 0.4;
+  constexpr std::size_t kTallColumn = 8;
   constexpr std::string_view kParting = "  ";
   const double lineHeight = surface.TextHeight(font);
-  const double room =
-      surface.Width() - frameLeft - kLegendLeft - (kSwatchWidth + 2 * kLegendGap) * lineHeight;
+  const double sample = (kSwatchWidth + kLegendGap) * lineHeight;
+  const double room = surface.Width() - frameLeft - kLegendLeft - sample - kLegendGap * lineHeight;
   std::vector<LegendLine> lines;
   for (const PlotSeriesRecord& series : engine.series()) {
     std::string rest = engine.LegendText(series);
@@ -243,12 +254,24 @@ std::vector<LegendLine> LegendLines(const PlotEngine& engine, const Surface& sur
     }
     lines.push_back({std::move(rest), &series, begins});
   }
+  LegendSheet sheet;
+  for (const LegendLine& line : lines) {
+    sheet.widest = std::max(sheet.widest, surface.TextWidth(line.text, font));
+  }
+  sheet.columnWidth = sample + sheet.widest + kColumnGap * lineHeight;
+  const double fitting = std::floor((room + sample + kColumnGap * lineHeight) / sheet.columnWidth);
+  const std::size_t columns =
+      std::min(static_cast<std::size_t>(std::max(1.0, fitting)),
+               std::max<std::size_t>(1, (lines.size() + kTallColumn - 1) / kTallColumn));
   const auto most = static_cast<std::size_t>(kMostOfHeight * surface.Height() / lineHeight);
-  if (most < lines.size()) {
-    lines.resize(most);
+  if (most * columns < lines.size()) {
+    lines.resize(most * columns);
     if (most > 0) lines.back().text = "...";
   }
-  return lines;
+  sheet.rows = (lines.size() + columns - 1) / columns;
+  sheet.width = static_cast<double>(columns) * sheet.columnWidth - kColumnGap * lineHeight;
+  sheet.lines = std::move(lines);
+  return sheet;
 }
 
 Color Halfway(Color a, Color b) {
@@ -270,24 +293,21 @@ std::optional<Pen> EdgeOf(const Drawing& d, const Pen& pen) {
 
 /// The names of the curves: over the graph, under it, or in its middle.
 void Legend(const Drawing& d) {
-  const std::vector<LegendLine> lines = LegendLines(d.engine, d.surface, d.font, d.frame.left);
-  double widest = 0;
-  for (const LegendLine& line : lines) {
-    widest = std::max(widest, d.surface.TextWidth(line.text, d.font));
-  }
-  const double height = static_cast<double>(lines.size()) * d.lineHeight;
+  const LegendSheet sheet = LayOutLegend(d.engine, d.surface, d.font, d.frame.left);
+  const double height = static_cast<double>(sheet.rows) * d.lineHeight;
   const double swatch = kSwatchWidth * d.lineHeight;
   const double gap = kLegendGap * d.lineHeight;
-  const double width = swatch + gap + widest;
   double left = d.frame.left + kLegendLeft;
-  if (d.block.CaptionSide == 1) left = d.frame.left + (d.frame.width - width) / 2;
-  if (d.block.CaptionSide == 2) left = d.frame.right() - width - kLegendLeft;
+  if (d.block.CaptionSide == 1) left = d.frame.left + (d.frame.width - sheet.width) / 2;
+  if (d.block.CaptionSide == 2) left = d.frame.right() - sheet.width - kLegendLeft;
   left = std::max(left, gap);
-  double top = d.frame.top - kYPointerLines * d.lineHeight - height;
-  if (!d.engine.hasAxes()) top = d.frame.top + gap;
-  if (d.block.CaptionTop == 1) top = d.frame.top + (d.frame.height - height) / 2;
-  if (d.block.CaptionTop == 2) top = d.surface.Height() - height - gap;
-  for (const LegendLine& line : lines) {
+  double first = d.frame.top - kYPointerLines * d.lineHeight - height;
+  if (!d.engine.hasAxes()) first = d.frame.top + gap;
+  if (d.block.CaptionTop == 1) first = d.frame.top + (d.frame.height - height) / 2;
+  if (d.block.CaptionTop == 2) first = d.surface.Height() - height - gap;
+  double top = first;
+  std::size_t row = 0;
+  for (const LegendLine& line : sheet.lines) {
     if (line.begins) {
       Pen pen = line.series->pen;
       pen.color = d.engine.ShownColor(*line.series);
@@ -302,6 +322,10 @@ void Legend(const Drawing& d) {
     d.surface.DrawText({left + swatch + gap, top}, line.text, d.font, d.colors.text,
                        TextAlign::Left);
     top += d.lineHeight;
+    if (++row < sheet.rows) continue;
+    row = 0;
+    top = first;
+    left += sheet.columnWidth;
   }
 }
 
@@ -394,7 +418,7 @@ PlotLayout PlotEngine::LayOut(const Surface& surface, const PlotTheme& theme) co
           static_cast<double>(Titles().size()) * kLabelLine * surface.TextHeight(TitleFont(font));
     }
     const double legend =
-        lineHeight * static_cast<double>(LegendLines(*this, surface, font, left).size());
+        lineHeight * static_cast<double>(LayOutLegend(*this, surface, font, left).rows);
     if (block_->CaptionTop == 0) top += legend;
     bottom = (block_->CaptionTop == 2 ? legend : 0) +
              (block_->GraphLogo != 0 ? 4.2 : 3.2) * kLabelLine * lineHeight;

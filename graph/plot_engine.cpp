@@ -317,11 +317,12 @@ void PlotEngine::PlotLine(double x, double y, Color color) {
   PlotLine(x, y);
 }
 
-void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_view curve) {
-  if (points.empty()) {
+void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_view curve,
+                               std::size_t fewest) {
+  if (points.empty() && fewest > 0) {
     throw CommandError(ErrorKind::InvalidArgument, "There is nothing to graph: no point came out.");
   }
-  if (points.size() == 1) {
+  if (points.size() < fewest) {
     throw CommandError(
         ErrorKind::InvalidArgument,
         "There is nothing to graph: only one point came out, and a curve needs two.");
@@ -330,12 +331,13 @@ void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_v
 }
 
 void PlotEngine::PlotSeries(std::span<const GraphPoint> points, std::string note,
-                            std::span<const std::size_t> moves) {
-  RequireSeries(points, note.empty() ? Caption(kTitleCaption) : note);
+                            std::span<const std::size_t> moves, std::size_t fewest) {
+  RequireSeries(points, note.empty() ? Caption(kTitleCaption) : note, fewest);
   CurveColor();
   PlotSeriesRecord& series = series_.back();
   series.note = std::move(note);
   series.points.assign(points.begin(), points.end());
+  if (points.empty()) return;
   series.starts.push_back(0);
   for (const std::size_t move : moves) {
     if (move > series.starts.back() && move < points.size()) series.starts.push_back(move);

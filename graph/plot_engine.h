@@ -23,6 +23,9 @@ struct GraphPoint {
   friend bool operator==(const GraphPoint&, const GraphPoint&) = default;
 };
 
+/// A curve needs two points, unless it is told that fewer will do.
+inline constexpr std::size_t kFewestCurvePoints = 2;
+
 /// The value range of both axes.
 struct AxisRange {
   double xLow = 0;
@@ -193,13 +196,15 @@ class PlotEngine {
   void PlotPoint(double x, double y, Color color);
   void PlotLine(double x, double y, Color color);
   /// CurveColor, PlotPoint for the first point and PlotLine for the rest.
-  /// @param moves  indices of further points that no line leads to
-  /// @throws CommandError (InvalidArgument) for fewer than two points
+  /// @param moves   indices of further points that no line leads to
+  /// @param fewest  how many points the curve needs: 0 for one that may be empty
+  /// @throws CommandError (InvalidArgument) for fewer
   void PlotSeries(std::span<const GraphPoint> points, std::string note = {},
-                  std::span<const std::size_t> moves = {});
+                  std::span<const std::size_t> moves = {}, std::size_t fewest = kFewestCurvePoints);
   /// Throws what PlotSeries would, so that a graph can be checked before the old one goes.
   /// @param curve  its name, which a refusal tells
-  static void RequireSeries(std::span<const GraphPoint> points, std::string_view curve = {});
+  static void RequireSeries(std::span<const GraphPoint> points, std::string_view curve = {},
+                            std::size_t fewest = kFewestCurvePoints);
   /// A small box around a point.
   void PlotBox(double x, double y, Color color);
   /// A circle; its radius is in X units. @throws CommandError (Overflow, InvalidArgument)

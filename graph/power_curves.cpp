@@ -7,12 +7,12 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/units.h"
 
 namespace veldox {
 
 namespace {
 
-constexpr double kKilopascalsPerPsi = 6.89475729;
 constexpr double kModelCubicInches = 122.047488;
 constexpr double kTopOfTypes1To4 = 10000;
 constexpr double kWalkStep = 5;

@@ -1,6 +1,11 @@
 #include "program/program.h"
 
+#include "airfuel/airflow_screen.h"
+#include "airfuel/blower_screen.h"
 #include "airfuel/nitrous_screen.h"
+#include "cam/cam_files.h"
+#include "cam/cam_generator_screen.h"
+#include "cam/cam_information_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
@@ -9,6 +14,7 @@
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
 #include "reference/weather_screen.h"
+#include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
@@ -34,15 +40,21 @@ Program::Program(Host& host)
   grapher_ = &AddScreen<Form8>();
   auto& displacement = AddScreen<Form1>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form1CR>(static_cast<Grapher&>(*grapher_));
+  auto& camInformation = AddScreen<Form2>(static_cast<Grapher&>(*grapher_), *camFiles_);
+  camFiles_->AddLashTaker(camInformation);
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form11>();
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();
+  AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
+  AddScreen<Form4>(static_cast<Grapher&>(*grapher_));
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
+  AddScreen<Form33>();
   auto& elapsedTime = AddScreen<Form3>();
   auto& gear = AddScreen<Form5>();
   auto& gearboxFinder = AddScreen<Form19>();

@@ -1,9 +1,12 @@
 #include "ui/control_faces.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHelpEvent>
+#include <QScreen>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "core/results.h"
 #include "ui/fixed_font.h"
@@ -46,10 +49,17 @@ QString LabelText(const Control& control) {
   return text;
 }
 
+/// The widest that a label gets before it breaks its lines; large letters leave room for a field
+/// and its unit beside it.
+int WidestLabel(const QLabel& label) {
+  return std::min(DigitsWidth(label, kLabelDigits),
+                  QGuiApplication::primaryScreen()->availableSize().width() / 2);
+}
+
 QLabel* MakeLabel(const Control& control, QWidget* parent) {
   auto* label = new QLabel(ToQtLines(control.caption()), parent);
   label->setTextFormat(Qt::PlainText);
-  const int widest = DigitsWidth(*label, kLabelDigits);
+  const int widest = WidestLabel(*label);
   if (label->sizeHint().width() > widest) {
     label->setWordWrap(true);
     label->setMinimumWidth(widest);
@@ -125,8 +135,8 @@ void LabelFace::Follow() {
   if (text != label_->text()) {
     label_->setText(text);
     label_->setAccessibleName(ToQtLines(control().caption()));
-    label_->setWordWrap(label_->wordWrap() || label_->fontMetrics().horizontalAdvance(text) >
-                                                  DigitsWidth(*label_, kLabelDigits));
+    label_->setWordWrap(label_->wordWrap() ||
+                        label_->fontMetrics().horizontalAdvance(text) > WidestLabel(*label_));
   }
 }
 
@@ -135,7 +145,7 @@ CheckBoxFace::CheckBoxFace(FaceSet& set, CheckBox& box, QWidget* parent)
       box_(box),
       widget_(static_cast<QCheckBox*>(widget())) {
   connect(widget_, &QCheckBox::clicked, this, [this] {
-    box_.Click();
+    if (TakesClick()) box_.Click();
     Follow();
   });
 }
@@ -151,7 +161,13 @@ OptionButtonFace::OptionButtonFace(FaceSet& set, OptionButton& option, QWidget* 
       option_(option),
       button_(static_cast<QRadioButton*>(widget())) {
   if (option.group().isParted()) set.ButtonsOf(option.group()).addButton(button_);
-  connect(button_, &QRadioButton::clicked, this, [this] { option_.Click(); });
+  connect(button_, &QRadioButton::clicked, this, [this] {
+    if (TakesClick()) option_.Click();
+    // The button that is chosen shows it, whatever came of the click.
+    for (const auto& button : option_.group().buttons()) {
+      if (Face* face = this->set().Of(*button)) face->Follow();
+    }
+  });
 }
 
 void OptionButtonFace::Follow() {
@@ -223,7 +239,9 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
       button_(static_cast<QPushButton*>(widget())) {
   set.look().DressCommand(*button_, command.role() == CommandRole::Closes ||
                                         &command == command.screen().QuitCommand());
-  connect(button_, &QPushButton::clicked, this, [&command] { command.Click(); });
+  connect(button_, &QPushButton::clicked, this, [this] {
+    if (TakesClick()) command_.Click();
+  });
 }
 
 void CommandFace::Follow() {

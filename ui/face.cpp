@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QShortcutEvent>
 #include <QWidget>
+#include <utility>
 
 #include "ui/qt_text.h"
 
@@ -122,8 +123,16 @@ void Face::FocusCame(Qt::FocusReason reason) {
   // Whatever moved the focus, the user sees where it is; a mouse sees what it clicks.
   if (reason != Qt::MouseFocusReason) BringIntoView(*widget_);
   // A window that comes to the front enters nothing.
-  if (!MovedOnPurpose(reason) || !EnterControl()) return;
+  if (!MovedOnPurpose(reason)) return;
+  refused_ = !EnterControl();
+  if (refused_) return;
   if (CameByKeyboard(reason)) control_.screen().Hover(&control_);
+}
+
+bool Face::TakesClick() {
+  // The press, or its access key, has brought the focus before, where a field let it go.
+  if (control_.screen().focus() == &control_) return true;
+  return !std::exchange(refused_, false) && EnterControl();
 }
 
 bool Face::EnterControl() {

@@ -44,6 +44,8 @@ class Face : public QObject, public ControlFace {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   FaceSet& set() const { return set_; }
+  /// False for a click that goes nowhere, because the field that had the focus keeps it.
+  bool TakesClick();
 
  private:
   void FocusCame(Qt::FocusReason reason);
@@ -54,6 +56,7 @@ class Face : public QObject, public ControlFace {
   FaceSet& set_;
   Control& control_;
   QWidget* widget_;
+  bool refused_ = false;  ///< a field has kept the focus, and has told why
 };
 
 /// The faces of one window. It moves the screen's focus with the keyboard focus and puts

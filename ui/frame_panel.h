@@ -35,7 +35,8 @@ class FramePanel : public QGroupBox {
   std::vector<Unit> units_;
   bool asksForCare_;
   std::optional<QColor> ground_;
-  bool grows_ = false;  ///< holds something that takes all the room there is
+  bool grows_ = false;         ///< holds something that takes all the room there is
+  bool growsToAnEnd_ = false;  ///< holds a table that takes room until all its rows are in sight
 };
 
 /// Stands for a frame that is shown and hidden in its place.
@@ -44,6 +45,10 @@ class FrameFace : public Face {
   FrameFace(FaceSet& set, Frame& frame, FramePanel* panel);
   void Follow() override;
 };
+
+/// Adds a frame and those inside it, in the order of declaration. What stands in a row of frames
+/// goes with the row.
+void AppendFrames(Frame& frame, std::vector<Frame*>& frames);
 
 /// True when a frame has something to show besides the controls placed elsewhere.
 bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed);

@@ -68,11 +68,6 @@ bool Covers(const QRectF& card, QPointF point, double air) {
   return card.adjusted(-air, -air, air, air).contains(point);
 }
 
-Color FromQtColor(const QColor& color) {
-  return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
-          static_cast<std::uint8_t>(color.blue())};
-}
-
 }  // namespace
 
 QRectF PlaceCard(QSizeF card, const QRectF& room, QPointF pointer,

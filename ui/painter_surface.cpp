@@ -54,6 +54,11 @@ QColor ToQtColor(Color color) {
   return {color.red, color.green, color.blue};
 }
 
+Color FromQtColor(const QColor& color) {
+  return {static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+          static_cast<std::uint8_t>(color.blue())};
+}
+
 PainterSurface::PainterSurface(QPainter& painter, QSizeF size, double unitsPerPoint)
     : painter_(painter),
       size_(size),

@@ -17,6 +17,7 @@ QFont GraphFont(double points, double unitsPerPoint);
 /// The lengths of a line style's dashes and gaps in pen widths; empty for a solid line.
 std::vector<double> DashesOf(LineStyle style);
 QColor ToQtColor(Color color);
+Color FromQtColor(const QColor& color);
 
 /// Draws a graph with a QPainter: on a window, a picture, a printer's page. Pen widths are
 /// drawing units, so that they grow with the painter's scale; upright and level lines are

@@ -107,6 +107,14 @@ void PainterPageSurface::PlaceText(int x, int y, const PageFont& font, std::stri
   painter_.restore();
 }
 
+void PainterPageSurface::PlaceLine(int fromX, int fromY, int toX, int toY, int width) {
+  painter_.save();
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::RoundCap));
+  painter_.drawLine(fromX, fromY, toX, toY);
+  painter_.restore();
+}
+
 void PainterPageSurface::NewPage() {
   if (!device_.newPage()) {
     throw CommandError(ErrorKind::File, "The printer could not begin a new page.");

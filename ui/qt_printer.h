@@ -35,6 +35,7 @@ class PainterPageSurface : public PageSurface {
 
   bool landscape() const override { return landscape_; }
   void PlaceText(int x, int y, const PageFont& font, std::string_view text) override;
+  void PlaceLine(int fromX, int fromY, int toX, int toY, int width) override;
   void NewPage() override;
   void EndJob() override;
 

@@ -41,6 +41,15 @@ class RowsScroll : public QScrollArea {
   QSize minimumSizeHint() const override { return Sized(std::min(rows_, kLeastRows)); }
   int rowsInSight() const { return std::max(1, viewport()->height() / RowHeight()); }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // More height than all rows take would part the table from what stands below it.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+      setMaximumHeight(widget()->sizeHint().height());
+    }
+    return QScrollArea::eventFilter(watched, event);
+  }
+
  private:
   int RowHeight() const {
     const int all = widget() == nullptr ? 0 : widget()->sizeHint().height();
@@ -85,6 +94,26 @@ void CellEdit::LeaveRight(int pixels) {
   const int room = width() - kCellEdges - fontMetrics().horizontalAdvance(text());
   const int right = kSideMargin + std::clamp(pixels, 0, std::max(0, room));
   if (textMargins().right() != right) setTextMargins(kSideMargin, 0, right, 0);
+}
+
+void CellEdit::SetDimmed(bool dimmed) {
+  if (dimmed == dimmed_) return;
+  dimmed_ = dimmed;
+  ShowInk();
+}
+
+void CellEdit::ShowInk() {
+  QPalette ink;
+  if (dimmed_) {
+    ink.setColor(QPalette::Text, QApplication::palette(this).color(QPalette::PlaceholderText));
+  }
+  setPalette(ink);
+}
+
+bool CellEdit::event(QEvent* event) {
+  // A palette of its own does not follow the desktop's.
+  if (event->type() == QEvent::PaletteChange && dimmed_) ShowInk();
+  return FieldEdit::event(event);
 }
 
 void CellEdit::keyPressEvent(QKeyEvent* event) {
@@ -151,7 +180,9 @@ TableFace::TableFace(FaceSet& set, Table& table, QWidget* parent)
   auto* pile = new QVBoxLayout(widget());
   pile->setContentsMargins(0, 0, 0, 0);
   pile->setSpacing(2);
+  pile->setSizeConstraint(QLayout::SetMinAndMaxSize);
   BuildHeads(*heads_);
+  heads_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   auto* rows = new QWidget(scroll_);
   BuildRows(*rows);
   scroll_->setWidget(rows);
@@ -178,7 +209,8 @@ int TableFace::CellWidth(int column) const {
   const QFontMetrics metrics = widget()->fontMetrics();
   QWidget cell;
   set().look().DressEntry(cell);
-  int width = cell.fontMetrics().horizontalAdvance(QLatin1Char('0')) * kCellDigits;
+  int width = cell.fontMetrics().horizontalAdvance(QLatin1Char('0')) *
+              std::max(kCellDigits, table_.column(column).characters);
   for (const QString& word : ToQt(table_.Head(column)).split(QLatin1Char(' '))) {
     width = std::max(width, metrics.horizontalAdvance(word));
   }
@@ -286,6 +318,16 @@ void TableFace::Refresh() {
       shown = shown || (cell != nullptr && cell->visible());
     }
     rowLabels_[static_cast<std::size_t>(row)]->setVisible(shown);
+    DimRow(row);
+  }
+}
+
+void TableFace::DimRow(int row) {
+  const bool dimmed = table_.IsDimmed(row);
+  rowLabels_[static_cast<std::size_t>(row)]->setForegroundRole(dimmed ? QPalette::PlaceholderText
+                                                                      : QPalette::WindowText);
+  for (int column = 0; column < table_.columns(); ++column) {
+    if (CellEdit* edit = EditOf(table_.Cell(row, column))) edit->SetDimmed(dimmed);
   }
 }
 

@@ -24,15 +24,22 @@ class CellEdit : public FieldEdit {
 
   /// Makes the text end this many pixels from the right, where it has the room.
   void LeaveRight(int pixels);
+  /// Shows the text of a row that is not in use paler, still to be read.
+  void SetDimmed(bool dimmed);
+  bool dimmed() const { return dimmed_; }
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void ExtendMenu(QMenu& menu) override;
 
  private:
+  void ShowInk();
+
   TableFace& table_;
+  bool dimmed_ = false;
 };
 
 /// Stands for one field of a table.
@@ -77,8 +84,9 @@ class TableFace : public Face {
  private:
   void BuildHeads(QWidget& heads);
   void BuildRows(QWidget& rows);
-  /// Lines up heads, captions and decimal points.
+  /// Lines up heads, captions and decimal points, and dims the rows that are not in use.
   void Refresh();
+  void DimRow(int row);
   void AlignPoints(int column);
   int CellWidth(int column) const;
   int CaptionWidth() const;

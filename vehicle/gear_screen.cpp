@@ -17,6 +17,8 @@ constexpr double kFewestSpreadGears = 3;
 Form5::Form5(ProgramContext& context)
     : Screen(context, "Form5", "Gear / Tire / Speed Information Calculator", "Gear") {
   SetPattern(&FormatValue<"0.00000">);
+  Gears.DimRows([this](int gear) { return IsZero(Text2[gear]); });
+  Teeth.DimRows([this](int gear) { return IsZero(Text11[gear]) || IsZero(Text12[gear]); });
   constexpr std::array<const char*, kMostGears - 1> kShifts{
       "1 - 2", "2 - 3", "3 - 4", "4 - 5", "5 - 6", "6 - 7", "7 - 8", "8 - 9", "9 - 10"};
   for (std::size_t i = 0; i < kShifts.size(); ++i) {
@@ -58,6 +60,10 @@ void Form5::TakeGearbox(const Gearbox& gearbox) {
 void Form5::ConvertUnits() {
   SwitchUnits();
   if (metric()) ShowHelp(context().rules.messages().PartialMetricNote);
+}
+
+bool Form5::IsZero(const Field& field) const {
+  return IsNumber(field.text(), mark()) && ParseNumber(field.text(), mark()) == 0;
 }
 
 // ---------------------------------------------------------------- reading and showing

@@ -77,6 +77,8 @@ class Form5 : public Screen, public GearboxTaker {
   /// Shows a speed in MPH.
   void ShowSpeed(double mph);
   double TransRatio(int gear) const;
+  /// True for a field of a gear that the gearbox does not have.
+  bool IsZero(const Field& field) const;
   /// Shows a number of every gear but the last beside it; gears that no shift leads from stay
   /// empty.
   void ShowShifts(const char* head, const std::function<std::string(int)>& textOf);

@@ -41,6 +41,14 @@ TEST(CamCard, SimulationsHaveTwoLinesMore) {
   EXPECT_TRUE(ParseCamCard(Card(5), "a.cam", false, kPoint).fault);
 }
 
+TEST(CamCard, TheFirstStandardIsTheOneUsed) {
+  const std::string text = Card(3, "Seat-To-Seat") + Card(3, "0.050-Lift");
+  EXPECT_EQ(ParseCamCard(text, "a.cam", false, kPoint).caption, "Seat-To - Roller Street");
+  for (const char* standard : {" Seat-To", "0.050 L", "seat-to-seat"}) {
+    EXPECT_FALSE(ParseCamCard(Card(3, standard), "a.cam", false, kPoint).found) << standard;
+  }
+}
+
 TEST(CamCard, TimingAt050ReplacesTheFirst) {
   const std::string text = Card(5, "Seat-To-Seat") + "more\n0.050-Inch timing\n 5\n 45\n 50\n -2\n";
   const CamCard at050 = ParseCamCard(text, "a.cqu", true, kPoint);

@@ -232,7 +232,7 @@ Use BSAC RPM Table = No
 54 * BSAC RPM = 0.0
 Graph X Max = 0.0
 Graph Y Max = 0.0
-Max RPM = 0
+Max RPM = 8000
 ;   Data for Camshafts
 Intake Open = 0.0
 Intake Close = 95.5

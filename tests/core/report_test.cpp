@@ -172,6 +172,16 @@ TEST_F(ReportBoxTest, TooManyHeadingsFailTheCommandAndKeepTheReport) {
   EXPECT_EQ(box_.report(), report);
 }
 
+TEST(FontSizeByWidth, IsSmallerWhereAPrintedLineIsWide) {
+  const std::string wide(80, 'x');
+  EXPECT_EQ(FontSizeByWidth("prompt\r\n" + wide + "\r\nend"), 10);
+  EXPECT_EQ(FontSizeByWidth("prompt\r\n" + wide + "_\r\nend"), 10) << "a mark is not printed";
+  EXPECT_EQ(FontSizeByWidth("prompt\r\n" + wide + "x\r\nend"), 9);
+  // The first line is never printed.
+  EXPECT_EQ(FontSizeByWidth(wide + "x\r\nend"), 10);
+  EXPECT_EQ(FontSizeByWidth(""), 10);
+}
+
 TEST(ReportTexts, ArePrecise) {
   EXPECT_THAT(std::string(PagePrompt),
               "Pressing the . key will cause this Page to be Written to a Disk File.\r\n\r\n");

@@ -138,6 +138,16 @@ TEST_F(TableTest, HiddenRowsAreLeftOut) {
   EXPECT_EQ(bench_.Text50[4].text(), ".1");
 }
 
+TEST_F(TableTest, RowsAreDimmedWhileTheyAreNotInUse) {
+  EXPECT_FALSE(bench_.Intake.IsDimmed(4));
+  bench_.Intake.DimRows([this](int row) { return bench_.Text49[row].text() == "0"; });
+  EXPECT_FALSE(bench_.Intake.IsDimmed(3));
+  EXPECT_TRUE(bench_.Intake.IsDimmed(4));
+  bench_.Text49[4].SetText("190");
+  EXPECT_FALSE(bench_.Intake.IsDimmed(4));
+  EXPECT_TRUE(bench_.Intake.IsDimmed(5));
+}
+
 TEST_F(TableTest, AMetricSwitchGoesDownTheColumn) {
   EXPECT_TRUE(bench_.Check1.Click());
   EXPECT_EQ(bench_.Text48[0].text(), "1.27");

@@ -1,4 +1,4 @@
-#include "engine/step_bound.h"
+#include "core/step_bound.h"
 
 #include <gtest/gtest.h>
 

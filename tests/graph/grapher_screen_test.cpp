@@ -282,6 +282,58 @@ TEST_F(Form8Test, AGraphOfNothingLeavesTheOldOne) {
   EXPECT_EQ(form_.plot().series().size(), 2U);
 }
 
+TEST_F(Form8Test, ACurveBringsItsStandardLineOnceAndItsBoxes) {
+  GraphCurve curve;
+  curve.note = "a lobe";
+  curve.points = {{0, 0}, {1, 0.3}, {2, 0}};
+  curve.boxes = true;
+  curve.standardLine = 0.05;
+  form_.DrawGraph({{0, 3, -0.05, 0.4}, false, "", "", "", "", false}, {&curve, 1});
+  const PlotEngine& plot = form_.plot();
+  ASSERT_EQ(plot.lines().size(), 1U);
+  EXPECT_EQ(plot.lines()[0].from, (GraphPoint{0, 0.05}));
+  EXPECT_EQ(plot.lines()[0].to, (GraphPoint{3, 0.05}));
+  EXPECT_EQ(plot.boxes().size(), 3U);
+  EXPECT_EQ(plot.boxes()[1].center, (GraphPoint{1, 0.3}));
+  EXPECT_EQ(plot.series().size(), 1U);
+  form_.AddToGraph({&curve, 1});
+  EXPECT_EQ(plot.lines().size(), 1U);
+  EXPECT_EQ(plot.boxes().size(), 6U);
+  curve.standardLine = 0.04;
+  form_.AddToGraph({&curve, 1});
+  EXPECT_EQ(plot.lines().size(), 2U);
+  EXPECT_EQ(plot.series().size(), 3U);
+}
+
+TEST_F(Form8Test, AxesGrowForACurveThatBringsItsRange) {
+  GraphCurve curve;
+  curve.points = {{0, 0}, {1, 0.3}, {2, 0}};
+  curve.standardLine = 0.05;
+  form_.DrawGraph({{0, 3, -0.05, 0.4}, false, "", "", "", "", false}, {&curve, 1});
+  GraphCurve larger;
+  larger.points = {{0, 0}, {2, 0.6}, {4, 0}};
+  larger.standardLine = 0.05;
+  form_.AddToGraph({&larger, 1}, {1, 5, 0, 0.7});
+  const PlotEngine& plot = form_.plot();
+  EXPECT_EQ(plot.scale(), (AxisRange{0, 5, -0.05, 0.7}));
+  // All curves are read on the same axes, and the line reaches across them.
+  EXPECT_EQ(plot.series()[0].range, plot.scale());
+  EXPECT_EQ(plot.series()[1].range, plot.scale());
+  EXPECT_EQ(plot.lines().back().to, (GraphPoint{5, 0.05}));
+  // Without a range they stay.
+  form_.AddToGraph({&curve, 1});
+  EXPECT_EQ(plot.scale(), (AxisRange{0, 5, -0.05, 0.7}));
+}
+
+TEST_F(Form8Test, AnEmptyGraphHasItsAxes) {
+  GraphCurve curve;
+  curve.fewestPoints = 0;
+  form_.DrawGraph({{0, 360, -0.05, 0.4}, false, "", "", "", "", false}, {&curve, 1});
+  EXPECT_TRUE(form_.HasGraph());
+  ASSERT_EQ(form_.plot().series().size(), 1U);
+  EXPECT_TRUE(form_.plot().series()[0].points.empty());
+}
+
 TEST_F(Form8Test, TellsTheMousePosition) {
   ReadGraph("xhigh = 10\nyhigh = 20\nline = 0,0,10,20\n");
   RecordingSurface surface(800, 600);

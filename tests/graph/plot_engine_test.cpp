@@ -178,6 +178,31 @@ TEST_F(PlotEngineTest, RefusesCurvesThatAreNone) {
   EXPECT_TRUE(plot_.series().empty());
 }
 
+TEST_F(PlotEngineTest, ACurveThatMayBeEmptyIsDrawnAsFarAsItGoes) {
+  plot_.SetScale({0, 1, 0, 1});
+  plot_.DrawAxes();
+  plot_.PlotSeries({}, "a table without records", {}, 0);
+  const std::vector<GraphPoint> one{{0.5, 0.25}};
+  plot_.PlotSeries(one, {}, {}, 0);
+  const std::vector<GraphPoint> noNumber{{0.5, NAN}};
+  EXPECT_THAT(MessageOf([&] { plot_.PlotSeries(noNumber, {}, {}, 0); }), HasSubstr("no number"));
+  ASSERT_EQ(plot_.series().size(), 2U);
+  EXPECT_TRUE(plot_.series()[0].points.empty());
+  EXPECT_TRUE(plot_.series()[0].starts.empty());
+  // It has its pen and its name like every other.
+  EXPECT_EQ(plot_.series()[0].name, "Green");
+  EXPECT_EQ(plot_.series()[1].name, "Blue");
+  RecordingSurface surface(600, 400);
+  plot_.DrawOn(surface, {});
+  EXPECT_NE(surface.Find("a table without records"), nullptr);
+  // The lonely point is a dot, the empty curve nothing at all.
+  ASSERT_EQ(surface.polylines.size(), 1U);
+  EXPECT_EQ(surface.polylines[0].points.size(), 2U);
+  ASSERT_EQ(plot_.NearestPoints(0).size(), 1U);
+  EXPECT_EQ(plot_.NearestPoints(0)[0].series, 1U);
+  EXPECT_EQ(plot_.PointsAsCsv(), "series,name,x,y\r\n2,\"Blue\",0.5,0.25\r\n");
+}
+
 TEST_F(PlotEngineTest, NamesTheCurveThatHoldsAPointThatIsNone) {
   plot_.SetScale({0, 1, 0, 1});
   const std::vector<GraphPoint> overflown{{1, 1}, {2, std::numeric_limits<double>::infinity()}};
@@ -459,6 +484,30 @@ TEST_F(PlotEngineTest, ManyNamesLeaveTheGraphItsRoom) {
   RecordingSurface many(600, 600);
   EXPECT_GT(plot_.DrawOn(many, {}).frame.height, 200);
   EXPECT_NE(many.Find("..."), nullptr);
+}
+
+TEST_F(PlotEngineTest, ManyNamesStandInColumns) {
+  plot_.SetScale({0, 10, 0, 10});
+  plot_.DrawAxes();
+  const std::vector<GraphPoint> points{{0, 0}, {10, 10}};
+  const auto name = [](int i) { return "Row " + std::to_string(10 + i); };
+  for (int i = 0; i < 8; ++i) plot_.PlotSeries(points, name(i));
+  RecordingSurface few(800, 600);
+  plot_.DrawOn(few, {});
+  for (int i = 1; i < 8; ++i) EXPECT_EQ(few.Find(name(i))->at.x, few.Find(name(0))->at.x);
+  for (int i = 8; i < 12; ++i) plot_.PlotSeries(points, name(i));
+  RecordingSurface more(800, 600);
+  const double top = plot_.DrawOn(more, {}).frame.top;
+  // Two columns of six, read downwards, none upon the other.
+  EXPECT_EQ(more.Find(name(5))->at.x, more.Find(name(0))->at.x);
+  EXPECT_EQ(more.Find(name(6))->at.y, more.Find(name(0))->at.y);
+  EXPECT_GE(more.Find(name(6))->at.x, more.Find(name(0))->at.x + more.TextWidth(name(0), 10) + 10);
+  EXPECT_EQ(more.Find(name(11))->at.y, more.Find(name(5))->at.y);
+  EXPECT_LT(more.Find(name(11))->at.y + 10, top);
+  // Where there is no room for a second column, there is none.
+  RecordingSurface narrow(150, 600);
+  plot_.DrawOn(narrow, {});
+  EXPECT_EQ(narrow.Find(name(11))->at.x, narrow.Find(name(0))->at.x);
 }
 
 TEST_F(PlotEngineTest, ACurveOfAnEarlierScaleStaysWhereItWasDrawn) {

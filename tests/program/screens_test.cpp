@@ -90,6 +90,8 @@ TEST_F(Screens, ShowNumbersThatTheirCommandsCanRead) {
       if (field == nullptr || field->rule() == KeyRule::AnyText) continue;
       // A result that no command has worked out yet.
       if (field->rule() == KeyRule::OutputOnly && field->text().empty()) continue;
+      // A row of a table that the user has not filled.
+      if (field->whole() != nullptr && field->text().empty()) continue;
       EXPECT_TRUE(IsNumber(field->text(), DecimalMark::Point))
           << screen->name() << '.' << field->name() << ": " << field->text();
     }

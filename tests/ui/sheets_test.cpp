@@ -12,6 +12,7 @@
 #include <QToolTip>
 #include <QWindow>
 
+#include "graph/curve_colors.h"
 #include "tests/support/sample_screens.h"
 #include "tests/ui/window_test.h"
 #include "ui/screen_window.h"
@@ -46,7 +47,8 @@ class SampleTest : public WindowTest {
   }
 
   S screen{program->context()};
-  ScreenWindow window{screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; }};
+  ScreenWindow window{screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; },
+                      AppearanceOf(shell().block()), shell().scaling()};
 };
 
 class TableWindowTest : public SampleTest<FlowBench> {
@@ -248,6 +250,47 @@ TEST_F(TableWindowTest, HeadsHaveTheUnitsSign) {
   ClickCommand("Command35");
   EXPECT_EQ(hasSign("mm"), 2);
   EXPECT_EQ(hasSign("in"), 0);
+}
+
+TEST_F(TableWindowTest, RowsThatAreNotInUseArePalerAndStillReadable) {
+  screen.Intake.DimRows([this](int row) { return screen.Text49[row].text() == "0"; });
+  const auto ink = [&](const char* name) { return Edit(name).palette().color(QPalette::Text); };
+  const auto contrast = [&](const char* name) {
+    const auto plain = [](const QColor& color) {
+      return Color{static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
+                   static_cast<std::uint8_t>(color.blue())};
+    };
+    return Contrast(plain(ink(name)), plain(Edit(name).palette().color(QPalette::Base)));
+  };
+  for (const Theme theme : {Theme::Dark, Theme::Light}) {
+    ApplyTheme(*qApp, theme);
+    Settle();
+    EXPECT_NE(ink("Text49(4)"), ink("Text49(3)"));
+    EXPECT_EQ(ink("Text48(4)"), ink("Text49(4)"));
+    EXPECT_LT(contrast("Text49(4)"), contrast("Text49(3)"));
+    EXPECT_GE(contrast("Text49(4)"), 4.5);
+  }
+  Edit("Text49(4)").setFocus(Qt::TabFocusReason);
+  TypeText(Edit("Text49(4)"), "190");
+  Settle();
+  EXPECT_EQ(ink("Text49(4)"), ink("Text49(3)"));
+  EXPECT_NE(ink("Text49(5)"), ink("Text49(3)"));
+}
+
+TEST_F(TableWindowTest, CommandsFollowATableWhateverTheHeight) {
+  const auto gap = [&] {
+    const QWidget& last = Edit("Text48(15)");
+    const QWidget& below = Child(window, "CommandF3(0)");
+    return below.mapTo(&window, QPoint()).y() - last.mapTo(&window, QPoint(0, last.height())).y();
+  };
+  window.resize(window.width(), 1400);
+  Settle();
+  ASSERT_TRUE(WaitFor([&] { return !Edit("Text48(15)").visibleRegion().isEmpty(); }));
+  EXPECT_GE(gap(), 2);
+  EXPECT_LE(gap(), 24);
+  // Nor do the heads drift down from the frame's title.
+  const QWidget& frame = Child(window, "Frame11a");
+  EXPECT_LE(Edit("Text48(0)").mapTo(&frame, QPoint()).y(), 80);
 }
 
 TEST_F(TableWindowTest, TheWheelChangesNoCell) {
