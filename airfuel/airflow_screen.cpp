@@ -2,7 +2,7 @@
 
 namespace veldox {
 
-Form4::Form4(ProgramContext& context)
-    : Screen(context, "Form4", "Air / Fuel / Exhaust Calculator", "AirFuel") {}
+Form4::Form4(ProgramContext& context, Grapher& grapher)
+    : Screen(context, "Form4", "Air / Fuel / Exhaust Calculator", "AirFuel"), grapher_(grapher) {}
 
 }  // namespace veldox

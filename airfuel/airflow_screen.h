@@ -1,8 +1,12 @@
 #pragma once
 
 #include "airfuel/airflow_page.h"
+#include "airfuel/flow_panel.h"
 #include "airfuel/fuel_panel.h"
 #include "airfuel/injector_panel.h"
+#include "airfuel/mach_panel.h"
+#include "airfuel/port_panel.h"
+#include "airfuel/valve_panel.h"
 #include "core/panel.h"
 #include "core/screen.h"
 
@@ -11,8 +15,11 @@ namespace veldox {
 /// Air, fuel and exhaust: a main page, and panels that its buttons show over it. Each of them is a
 /// class of its own.
 class Form4 : public Screen {
+  // Parts are handed it, which are made before what is declared behind them.
+  Grapher& grapher_;
+
  public:
-  explicit Form4(ProgramContext& context);
+  Form4(ProgramContext& context, Grapher& grapher);
 
   Control* HelpPlace() override { return &Text78; }
   ReportBox* ReportPane() override { return &Text78; }
@@ -21,23 +28,30 @@ class Form4 : public Screen {
   AirflowPage Page{*this, Fuel};
 
   Frame PanelsFrame{Page.Frame1, "PanelsFrame", "Panels", 0};
-  Command Command35{PanelsFrame, "Command35", "Analyze Flow Data", "Show Air Flow Details Form."};
+  Command Command35{PanelsFrame, "Command35", "Analyze Flow Data",
+                    "Show Analyze Air Flow Data Form.", Opens(&Form4::Flow)};
   Command Command37{PanelsFrame, "Command37", "EFI - Sizing", "Show EFI - Injector Sizing Form.",
                     Opens(&Form4::Injectors)};
   Command Command39{PanelsFrame, "Command39", "Valve Mach Sizing",
-                    "Show Valve / Mach - Sizing Data Form."};
+                    "Show Valve / Mach - Sizing Data Form.", Opens(&Form4::Mach)};
   Command Command43{PanelsFrame, "Command43", "Exhaust / Header", "Show Exhaust/Header Form."};
   Command Command48{PanelsFrame, "Command48", "Port Time Area",
                     "Show Analyze Port Time Area Form."};
   Command Command55{PanelsFrame, "Command55", "Port Flow / CSA", "Show Port Flow / CSA Form."};
   Command Command50{PanelsFrame, "Command50(0)", "Valve Sizing",
-                    "Show Valve and Throat Sizing Form."};
-  Command Command80{PanelsFrame, "Command80", "Calculators", "Show Calculators Form."};
+                    "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
+                    Opens(&Form4::Valves)};
+  Command Command80{PanelsFrame, "Command80", "Calculators", "Show Calculators Form.",
+                    Opens(&Form4::Ports)};
   Command Command34{PanelsFrame, "Command34", "Set Lambda Fuel",
                     "Select Fuel Type for Use with Lambda Value.", Opens(&Form4::Fuel)};
   Command Command69{PanelsFrame, "Command69", "Graphing", "Show Graphing Options Form."};
 
   InjectorPanel Injectors{*this, Page};
+  ValvePanel Valves{*this};
+  MachPanel Mach{*this, Page, grapher_};
+  FlowPanel Flow{*this, Valves, Mach, grapher_};
+  PortPanel Ports{*this};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   ReportBox Text78{HelpFrame, "Text78"};

@@ -29,4 +29,29 @@ class FieldCopy : public ResultLabel {
   const Field& of_;
 };
 
+/// A field of another page or panel that can be worked in a second place too, where commands need
+/// it: what is typed into one of them stands in both.
+class FieldTwin : public Field {
+ public:
+  /// @param label  what it is called here; the field's own label where it is empty
+  FieldTwin(Frame& frame, Field& of, const std::string& label = {})
+      : Field(frame, of.name() + " in " + frame.name(), label.empty() ? of.caption() : label,
+              of.text(), Entry(of.rule(), of.unit(), Holds().NotConverted(), of.leaveCheck()),
+              of.help()),
+        of_(of) {
+    of_.WhenChanged([this] {
+      SetText(of_.text());
+      SetMark(of_.mark());
+    });
+    WhenChanged([this] { of_.SetText(text()); });
+  }
+  FieldTwin(const FieldTwin&) = delete;
+  FieldTwin& operator=(const FieldTwin&) = delete;
+
+  const Field& of() const { return of_; }
+
+ private:
+  Field& of_;
+};
+
 }  // namespace veldox

@@ -327,7 +327,10 @@ class ParameterFile::Writer {
   /// where that is a number. A field that the user has left empty is 0.
   double CellOf(const KeyRow& row, int index, int column) const {
     const double& value = row.cell(block_, index, column);
-    if (row.tableForm != TableForm::Fields && row.tableForm != TableForm::Smart) return value;
+    if (row.tableForm != TableForm::Fields && row.tableForm != TableForm::Smart &&
+        row.tableForm != TableForm::Pairs) {
+      return value;
+    }
     const Field* field = AsField(file_.OwnerOf(row, &value));
     if (field == nullptr) return value;
     if (field->text().empty() && block_.FormsCleared == 0) return 0;
@@ -374,7 +377,7 @@ class ParameterFile::Writer {
   void AppendFurtherFields(const KeyRow& row, int index) {
     for (int column = 1; column < row.rowWidth; ++column) {
       written_.bytes += ' ';
-      AppendField(row.cell(block_, index, column));
+      AppendField(CellOf(row, index, column));
     }
   }
 

@@ -669,6 +669,13 @@ bool Screen::Perform(const std::function<void()>& command) {
 
 namespace {
 
+/// The field that a control shows or works a second time, itself for every other.
+const Control* ValueOf(const Control* control) {
+  if (const auto* copy = dynamic_cast<const FieldCopy*>(control)) return &copy->of();
+  if (const auto* twin = dynamic_cast<const FieldTwin*>(control)) return &twin->of();
+  return control;
+}
+
 /// The caption in quotes, behind it the frame where another frame has such a control too.
 std::string NameInMessages(const Control& control) {
   const std::string caption = control.PlainCaption();
@@ -677,17 +684,29 @@ std::string NameInMessages(const Control& control) {
   const std::vector<Control*>& all = control.screen().controls();
   const bool isElsewhere = std::any_of(all.begin(), all.end(), [&](const Control* other) {
     return other->kind() == control.kind() && other->frame() != control.frame() &&
-           other->PlainCaption() == caption && dynamic_cast<const FieldCopy*>(other) == nullptr;
+           other->PlainCaption() == caption && ValueOf(other) == other &&
+           ValueOf(&control) != other;
   });
   const std::string frame = control.frame()->PlainCaption();
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
+}
+
+/// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
+Control& WithinReach(Control& control) {
+  if (control.Reachable()) return control;
+  for (Control* other : control.screen().controls()) {
+    const bool isTwin = dynamic_cast<const FieldTwin*>(other) != nullptr;
+    if (isTwin && ValueOf(other) == &control && other->Reachable()) return *other;
+  }
+  return control;
 }
 
 /// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
 /// could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
-  if (control.Reachable() || !control.Shown()) control.Focus();
+  Control& place = WithinReach(control);
+  if (place.Reachable() || !place.Shown()) place.Focus();
 }
 
 }  // namespace
@@ -695,7 +714,7 @@ void MarkFault(Control& control) {
 void Screen::Report(const CommandError& error) {
   std::string text = error.message();
   if (error.control() != nullptr) {
-    text = NameInMessages(*error.control()) + ' ' + text;
+    text = NameInMessages(WithinReach(*error.control())) + ' ' + text;
   }
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});

@@ -145,6 +145,7 @@ enum class Unit {
   GallonsPerHour,
   PoundsPerHorsepowerHour,
   Milliseconds,
+  FeetPerSecond,
 };
 
 /// The sign of a unit as shown beside a field, in inches or in metric mode.
@@ -198,6 +199,7 @@ constexpr std::string_view UnitSign(Unit unit, bool metric) {
     case Unit::GallonsPerHour: return "gal/hr";
     case Unit::PoundsPerHorsepowerHour: return "lb/hp-hr";
     case Unit::Milliseconds: return "ms";
+    case Unit::FeetPerSecond: return "ft/s";
   }
   return "";
 }

@@ -9,6 +9,7 @@
 
 #include "core/field_copy.h"
 #include "core/report.h"
+#include "graph/grapher_screen.h"
 #include "tests/support/test_host.h"
 
 namespace veldox {
@@ -36,7 +37,8 @@ class AirflowScreen : public testing::Test {
 
   TestHost host_;
   std::unique_ptr<ProgramContext> context_ = std::make_unique<ProgramContext>(host_);
-  Form4 form_{*context_};
+  Form8 grapher_{*context_};
+  Form4 form_{*context_, grapher_};
   AirflowPage& page_ = form_.Page;
   InjectorPanel& injectors_ = form_.Injectors;
   ParameterBlock& block_ = context_->block;
@@ -384,6 +386,55 @@ TEST_F(AirflowScreen, RefusesDeadTimeByItsName) {
   }
   EXPECT_EQ(injectors_.Text6.text(), "18.0");
   EXPECT_EQ(injectors_.Text82.mark(), Mark::Error);
+}
+
+TEST_F(AirflowScreen, AFieldInTwoPlacesIsOne) {
+  FieldTwin& twin = form_.Mach.Rpm;
+  EXPECT_EQ(twin.text(), page_.Text2.text());
+  Set(twin, "7100");
+  EXPECT_EQ(page_.Text2.text(), "7100");
+  Set(page_.Text2, "6900");
+  EXPECT_EQ(twin.text(), "6900");
+  EXPECT_EQ(twin.rule(), page_.Text2.rule());
+  EXPECT_EQ(twin.leaveCheck(), page_.Text2.leaveCheck());
+  page_.Text2.SetMark(Mark::Error);
+  EXPECT_EQ(twin.mark(), Mark::Error);
+}
+
+TEST_F(AirflowScreen, FlowTablesArePastedByColumns) {
+  Click(form_.Command35);
+  FlowPanel& flow = form_.Flow;
+  flow.IntakeTable.Paste({0, 0}, ".15\t72\r\n.25\t131.5\r\n");
+  EXPECT_EQ(flow.Text48[0].text(), ".15");
+  EXPECT_EQ(flow.Text49[1].text(), "131.5");
+  EXPECT_EQ(flow.Text48[2].text(), ".300");
+  flow.ExhaustTable.Paste({0, 1}, "50\n90\n120\n");
+  EXPECT_EQ(flow.Text49Exhaust[2].text(), "120");
+  EXPECT_EQ(flow.Text49[2].text(), "229");
+}
+
+TEST_F(AirflowScreen, HeadsOfTheFlowTablesFollowTheFigures) {
+  Click(form_.Command35);
+  FlowPanel& flow = form_.Flow;
+  EXPECT_EQ(flow.IntakeTable.Head(2), "Velocity @ Throat");
+  flow.Option2.Choose(4);
+  EXPECT_TRUE(Click(flow.Command33));
+  EXPECT_EQ(flow.IntakeTable.Head(2), "CFM per Sq In @ Throat");
+  EXPECT_EQ(flow.ExhaustTable.Head(3), "CFM per Sq In @ Valve");
+}
+
+TEST_F(AirflowScreen, AStemThatIsPickedGoesIntoItsField) {
+  ValvePanel& valves = form_.Valves;
+  Click(form_.Command50);
+  EXPECT_EQ(valves.Combo1.chosenText(), ".3415");
+  valves.Combo1.Pick(3);
+  EXPECT_EQ(valves.Text43.text(), ".2756");
+  Set(valves.Text43, "0.311");
+  EXPECT_EQ(valves.Combo1.chosenText(), ".3110");
+  Set(valves.Text43, ".3");
+  EXPECT_EQ(valves.Combo1.chosen(), -1);
+  valves.Combo1.Pick(3);
+  EXPECT_EQ(valves.Text43.text(), ".2756");
 }
 
 }  // namespace
