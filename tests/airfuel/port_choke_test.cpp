@@ -138,10 +138,10 @@ TEST(ChokeReport, LogicChangesOnlyTheExhaust) {
   for (std::size_t row = 0; row < old.size(); ++row) {
     ASSERT_EQ(old[row].size(), 13U);
     ASSERT_EQ(other[row].size(), 13U);
-    for (const std::size_t column : {0, 1, 3, 5, 7, 9, 11}) {
+    for (const std::size_t column : {0U, 1U, 3U, 5U, 7U, 9U, 11U}) {
       EXPECT_EQ(old[row][column], other[row][column]);
     }
-    for (const std::size_t column : {2, 4, 6, 8, 10}) {
+    for (const std::size_t column : {2U, 4U, 6U, 8U, 10U}) {
       EXPECT_NE(old[row][column], other[row][column]);
     }
   }

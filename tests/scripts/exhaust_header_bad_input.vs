@@ -44,8 +44,6 @@ click Form4.CommandF2(8)
 set Form4.Text23 1.75
 set Form4.Text20 -5
 click Form4.CommandF2(4)
-set Form4.Text20
-click Form4.CommandF2(4)
 set Form4.Text20 210
 set Form4.Text3 1e308
 click Form4.CommandF2(7)
