@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "core/numbers.h"
+#include "core/units.h"
 
 namespace veldox {
 
@@ -36,8 +37,8 @@ double CarburetorFlow(double cubicInches, double rpm, double volumetricEfficienc
 
 double BlownCarburetorFlow(double cubicInches, double rpm, double boost,
                            double volumetricEfficiency) {
-  return cubicInches * rpm / kSweptPerCubicFoot * (boost + kAtmospherePsi) / kAtmospherePsi *
-         volumetricEfficiency;
+  return cubicInches * rpm / kSweptPerCubicFoot * (boost + kStandardAtmospherePsi) /
+         kStandardAtmospherePsi * volumetricEfficiency;
 }
 
 double RaceCarburetorFlow(double carburetorFlow, double vacuum) {
@@ -70,7 +71,7 @@ double FlowAtDepression(double flow, double depression, double newDepression) {
 
 double VolumetricEfficiencyOfPower(double horsepower, double cubicInches, double rpm,
                                    double compressionRatio) {
-  return (792000 / kAtmospherePsi) * horsepower / (cubicInches * rpm * compressionRatio);
+  return (792000 / kStandardAtmospherePsi) * horsepower / (cubicInches * rpm * compressionRatio);
 }
 
 double BsfcOfCompression(double compressionRatio) {

@@ -7,8 +7,6 @@ namespace veldox {
 
 /// Cubic inches times RPM of a four-stroke engine that sweeps one cubic foot in a minute.
 inline constexpr double kSweptPerCubicFoot = 3456;
-/// Standard atmosphere.
-inline constexpr double kAtmospherePsi = 14.69595;
 
 /// How much intake flow a kind of engine needs for a horsepower of each cylinder.
 inline constexpr double kProStockFlow = 3.1875;

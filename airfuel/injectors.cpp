@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "airfuel/airflow.h"
+#include "core/units.h"
 
 namespace veldox {
 
@@ -76,7 +77,8 @@ double ThrottleBodyFlowOf(double cubicInches, double rpm, double volumetricEffic
 
 double RatingForEngine(const InjectedEngine& engine, double dutyCycle) {
   return (engine.cubicInches * engine.rpm / kSweptPerCubicFoot) *
-         ((engine.boost + kAtmospherePsi) / kAtmospherePsi) * engine.volumetricEfficiency *
+         ((engine.boost + kStandardAtmospherePsi) / kStandardAtmospherePsi) *
+         engine.volumetricEfficiency *
          (60 / (engine.airFuelRatio * dutyCycle * engine.injectors * kCubicFeetPerPound));
 }
 

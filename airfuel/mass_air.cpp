@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::array<double, 7> kStoichiometric{14.7, 9.77, 9.0, 6.4, 14.6, 15.5, 17.2};
 
-constexpr double kKilopascalPerPsi = 6.89475729;
 /// Joules that a kilogram of air takes up for a kelvin, over its change of volume.
 constexpr double kGasConstantOfAir = 287;
 constexpr double kCcPerCubicFoot = 28316.84659;
@@ -32,7 +31,7 @@ double StoichiometricRatio(int fuel) {
 InletAir InletAirOf(double fahrenheit, double inchesMercury, double boost) {
   constexpr double kZeroCelsius = 273.15;
   return {(fahrenheit - 32) * (5.0 / 9) + kZeroCelsius,
-          (inchesMercury * kPsiPerInchMercury + boost) * kKilopascalPerPsi * 1000};
+          (inchesMercury * kPsiPerInchMercury + boost) * kKilopascalsPerPsi * 1000};
 }
 
 double SweptM3PerSec(double cubicInches, double rpm) {

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "core/units.h"
+
 namespace veldox {
 namespace {
 
@@ -32,7 +34,7 @@ TEST(Carburetor, SweepsAThousandCubicFeetAtTenThousandRevolutions) {
 }
 
 TEST(Carburetor, UnderOneAtmosphereOfBoostFlowsTwice) {
-  EXPECT_NEAR(BlownCarburetorFlow(345.6, 10000, kAtmospherePsi, 1), 2000, 1e-9);
+  EXPECT_NEAR(BlownCarburetorFlow(345.6, 10000, kStandardAtmospherePsi, 1), 2000, 1e-9);
   EXPECT_NEAR(BlownCarburetorFlow(345.6, 10000, 0, 1), 1000, 1e-9);
 }
 
