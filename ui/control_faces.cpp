@@ -1,9 +1,12 @@
 #include "ui/control_faces.h"
 
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHelpEvent>
+#include <QScreen>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "core/results.h"
 #include "ui/fixed_font.h"
@@ -46,10 +49,17 @@ QString LabelText(const Control& control) {
   return text;
 }
 
+/// The widest that a label gets before it breaks its lines; large letters leave room for a field
+/// and its unit beside it.
+int WidestLabel(const QLabel& label) {
+  return std::min(DigitsWidth(label, kLabelDigits),
+                  QGuiApplication::primaryScreen()->availableSize().width() / 2);
+}
+
 QLabel* MakeLabel(const Control& control, QWidget* parent) {
   auto* label = new QLabel(ToQtLines(control.caption()), parent);
   label->setTextFormat(Qt::PlainText);
-  const int widest = DigitsWidth(*label, kLabelDigits);
+  const int widest = WidestLabel(*label);
   if (label->sizeHint().width() > widest) {
     label->setWordWrap(true);
     label->setMinimumWidth(widest);
@@ -125,8 +135,8 @@ void LabelFace::Follow() {
   if (text != label_->text()) {
     label_->setText(text);
     label_->setAccessibleName(ToQtLines(control().caption()));
-    label_->setWordWrap(label_->wordWrap() || label_->fontMetrics().horizontalAdvance(text) >
-                                                  DigitsWidth(*label_, kLabelDigits));
+    label_->setWordWrap(label_->wordWrap() ||
+                        label_->fontMetrics().horizontalAdvance(text) > WidestLabel(*label_));
   }
 }
 

@@ -1,6 +1,7 @@
 #include "ui/screen_window.h"
 
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -29,6 +30,14 @@ constexpr QSize kDecoration(10, 40);
 /// The width of the bar that scrolls the frames down.
 int BarWidth(const SheetStack& sheets) {
   return sheets.views().front().scroll->verticalScrollBar()->sizeHint().width();
+}
+
+/// A widget that frames stand on, and those on it.
+void AppendGrounds(QWidget& ground, std::vector<QWidget*>& grounds) {
+  grounds.push_back(&ground);
+  for (QWidget* child : ground.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (qobject_cast<QGroupBox*>(child) == nullptr) AppendGrounds(*child, grounds);
+  }
 }
 
 }  // namespace
@@ -143,11 +152,7 @@ void ScreenWindow::SizeByLargeScreen(const ScreenScaling& scaling) {
 void ScreenWindow::FollowPointerOverBackgrounds() {
   std::vector<QWidget*> grounds{this};
   for (const SheetView& view : sheets_->views()) {
-    grounds.push_back(view.flow);
-    for (QWidget* column :
-         view.flow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-      grounds.push_back(column);
-    }
+    AppendGrounds(*view.flow, grounds);
   }
   for (QWidget* ground : grounds) {
     ground->setMouseTracking(true);

@@ -91,7 +91,8 @@ class HalfBuilt : public Screen {
 
 TEST_F(Form1WindowTest, CommandThatIsNotBuiltSaysSo) {
   HalfBuilt screen(program->context());
-  ScreenWindow half(screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; });
+  ScreenWindow half(
+      screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; }, Appearance{}, ScreenScaling{});
   EXPECT_FALSE(Child(half, "Later").isEnabled());
   EXPECT_EQ(Child(half, "Later").toolTip(), QStringLiteral("Not available yet"));
   // One that only cannot be used now keeps its own words.
