@@ -10,7 +10,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/file_taker.h"
 #include "ui/control_faces.h"
+#include "ui/file_drop.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/qt_text.h"
@@ -65,6 +67,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appea
   faces_.SetLook(WindowLook(appearance));
   Fill();
   AddPictureKeys(*this, screen);
+  if (auto* taker = dynamic_cast<FileTaker*>(&screen)) AcceptFiles(*this, *taker);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
     connect(again, &QShortcut::activated, this, [this] { screen_.CalculateAgain(); });
@@ -147,6 +150,11 @@ void ScreenWindow::SizeByLargeScreen(const ScreenScaling& scaling) {
   SizeToScreen();
   const QSize wanted = QSize(qRound(box.width), qRound(box.height)).expandedTo(size());
   resize(FittingSize(*this, wanted.boundedTo(QSize(scaling.widthLimit(), scaling.heightLimit()))));
+}
+
+bool ScreenWindow::sizedByUser() const {
+  const QSize now(width(), heightWithoutReport_ > 0 ? heightWithoutReport_ : height());
+  return mode_ == ScreenScaling::Mode::Off && now != ownSize_;
 }
 
 void ScreenWindow::FollowPointerOverBackgrounds() {
