@@ -252,8 +252,9 @@ BlowerPlot PlotFlowMap(const FlowMapInput& input, const FlowMapLimits& limits,
   AxisRange& range = plot.frame.range;
   range.yLow = 1;
   const double wanted = point ? std::fmax(kGraphedRatio, point->pressureRatio) : kGraphedRatio;
-  range.yHigh = limits.pressureRatio.value_or(1 + AxisEnd(wanted - 1));
-  const std::vector<MapColumn> columns = ColumnsUpTo(input, range.yHigh);
+  const std::vector<MapColumn> columns = ColumnsUpTo(input, limits.pressureRatio.value_or(wanted));
+  // The last step of boost goes beyond what was wanted.
+  range.yHigh = limits.pressureRatio.value_or(1 + AxisEnd(columns.back().pressureRatio - 1));
   double largest = 0;
   for (const double rpm : FlowMapSpeeds(input.maxRpm)) {
     GraphCurve& curve = plot.curves.emplace_back();

@@ -119,15 +119,15 @@ void Form14::EstimateBoostForRatio() {
 
 // ---------------------------------------------------------------- blower drive
 
-void Form14::StoreBlowerRatio() {
-  Store(Text12, block().CrankGear / block().BlowerGear, {&Text11});
+void Form14::StoreBlowerRatio(DividesBy zeros) {
+  Store(Text12, block().CrankGear / block().BlowerGear, zeros);
 }
 
 void Form14::SolveDrive() {
   ReadFields({&Text8, &Text10, &Text11});
   std::int16_t rpm = 0;
   ReadCount(rpm, Text8);
-  StoreBlowerRatio();
+  StoreBlowerRatio({&Text11});
   Store(Text13, rpm * block().BlowerRatio);
 }
 
@@ -135,14 +135,15 @@ void Form14::SolveCrankGear() {
   ReadFields({&Text8, &Text11, &Text13});
   const ParameterBlock& b = block();
   Store(Text10, b.BlowerGear * b.BlowerRPM / b.RPM, {&Text8});
-  StoreBlowerRatio();
+  StoreBlowerRatio({&Text11});
 }
 
 void Form14::SolveBlowerGear() {
   ReadFields({&Text8, &Text10, &Text13});
   const ParameterBlock& b = block();
   Store(Text11, b.CrankGear * b.RPM / b.BlowerRPM, {&Text13});
-  StoreBlowerRatio();
+  // A gear of 0 was not typed: it comes of these.
+  StoreBlowerRatio({&Text8, &Text10});
 }
 
 // ---------------------------------------------------------------- compressed air

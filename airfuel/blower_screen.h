@@ -61,7 +61,8 @@ class Form14 : public Screen {
   void RequireBoostedAir();
   /// Ends a command for a temperature that no air has. @throws CommandError
   void RequireTemperature(Field& field, double temperature);
-  void StoreBlowerRatio();
+  /// @param zeros  what is to blame for a blower gear of 0
+  void StoreBlowerRatio(DividesBy zeros);
   /// A value of the screen, or a whole table where that is in use.
   ValueByRpm ReadByRpm(Field& field, const CheckBox& usesTable, FieldArray& table);
   /// What a field says, where that is a number.
@@ -110,7 +111,7 @@ class Form14 : public Screen {
   Field Text6{Frame2, "Text6", "Effective Compression Ratio", "12.83793",
               Entry(KeyRule::UnsignedReal, Holds(&P::EffectiveCompressionRatio))};
   Command Command7{
-      Frame2, "Command7", "&Effective CR",
+      Frame2, "Command7", "Effecti&ve CR",
       "Estimate Effective Compression Ratio from Compression Ratio and Blower Pressure",
       &Form14::EstimateEffectiveRatio};
   Command Command8{Frame2, "Command8", "CR with &Blower",
@@ -123,8 +124,9 @@ class Form14 : public Screen {
                    &Form14::EstimateBoostForRatio};
 
   Frame Frame3{*this, "Frame3", "Engine and Blower Drive", 0};
-  Field Text7{Frame3, "Text7", "Engine Size", "326.7256",
-              Entry(KeyRule::UnsignedReal, Unit::Volume, Holds(&P::CubicInches))};
+  Field Text7{
+      Frame3, "Text7", "Engine Size", "326.7256",
+      Entry(KeyRule::UnsignedReal, Unit::Volume, Holds(&P::CubicInches).By(kEngineSizeRule))};
   Field Text8{Frame3, "Text8", "Engine RPM", "6500",
               Entry(KeyRule::Digits, Unit::RevolutionsPerMinute, Holds(&P::RPM))};
   Field Text9{Frame3,
@@ -279,7 +281,7 @@ class Form14 : public Screen {
                    "using Engine Size, Volumetric Efficiency, Temperature, Blower Efficiency and "
                    "Barometric Pressure.",
                    &Form14::MapByBoost};
-  Command Command20{Frame7, "Command20", "Flow Map I&C",
+  Command Command20{Frame7, "Command20", "F&low Map IC",
                     "Generate Blower / Turbo Flow Map Driven by Boost Pressure and Density Ratio "
                     "using Engine Size, Volumetric Efficiency, Temperature, Blower Efficiency, "
                     "Barometric Pressure and Intercooler Outlet Temperature.",
@@ -288,7 +290,7 @@ class Form14 : public Screen {
   Frame Frame8{*this, "Frame8", "Old and New Density Ratio", 2};
   Field Text27{Frame8, "Text27", "Old Density Ratio", "1.0", KeyRule::UnsignedReal};
   Field Text28{Frame8, "Text28", "New Density Ratio", "1.348762", KeyRule::UnsignedReal};
-  Command Command1{Frame8, "Command1", "Graph HP / Tor&que",
+  Command Command1{Frame8, "Command1", "Graph HP / Torqu&e",
                    "Graph HP and Torque also New HP and Torque. Using Old and New Density Ratio's. "
                    "Note when adding a Blower to Naturally Aspirated engine use an Old Density "
                    "Ratio of 1.",

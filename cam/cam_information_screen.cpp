@@ -8,6 +8,7 @@
 #include "cam/lift_reports.h"
 #include "core/files.h"
 #include "core/text.h"
+#include "graph/axis_growth.h"
 
 namespace veldox {
 
@@ -285,14 +286,8 @@ void Form2::AddToGraph(const LiftGraphInput& input) {
     return;
   }
   const GraphCurve curve = LiftGraphCurve(input, mark());
-  AxisRange range = grapher_.plot().scale();
-  const AxisRange own = LiftGraphFrame(input, curve, mark()).range;
-  for (const GraphPoint& point : curve.points) {
-    if (point.x > range.xHigh) range.xHigh = own.xHigh;
-    if (point.y > range.yHigh) range.yHigh = own.yHigh;
-    if (point.y < range.yLow) range.yLow = own.yLow;
-  }
-  grapher_.AddToGraph({&curve, 1}, range);
+  grapher_.AddToGraph({&curve, 1}, GrownBy(grapher_.plot().scale(), curve,
+                                           LiftGraphFrame(input, curve, mark()).range));
   grapher_.ShowGraph();
 }
 

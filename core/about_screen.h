@@ -17,6 +17,9 @@ class Form15 : public Screen {
     Label3.SetCaption(date);
   }
 
+ private:
+  void ShowHandbook() { context().host.ShowHandbook(); }
+
  public:
   Frame Frame1{*this, "Frame1", ""};
   Label Label1{Frame1, "Label1", "VELDOX-Math-Formula-Calculator"};
@@ -25,6 +28,9 @@ class Form15 : public Screen {
   Label Label4{Frame1, "Label4",
                "The formulas of the trade for people who build and tune engines, cars,\r\n"
                "motorcycles and racing cars."};
+  Command Handbook{Frame1, "Handbook", "Handbook",
+                   "Show the handbook: every screen with its fields, commands and formulas.",
+                   Serves(&Form15::ShowHandbook)};
   Command subend{Frame1, "subend", "&Quit", "Close this screen.", &Screen::Quit};
 };
 

@@ -18,8 +18,12 @@ ColorCode ChosenOr(std::int32_t chosen, ColorCode own) {
 }  // namespace
 
 AppearancePanel::AppearancePanel(Screen& screen, std::function<FontChoice()> pickFont,
-                                 std::function<std::string()> pickColor)
-    : ScreenPart(screen), pickFont_(std::move(pickFont)), pickColor_(std::move(pickColor)) {
+                                 std::function<std::string()> pickColor,
+                                 std::function<PlainColors()> ownColors)
+    : ScreenPart(screen),
+      pickFont_(std::move(pickFont)),
+      pickColor_(std::move(pickColor)),
+      ownColors_(std::move(ownColors)) {
   SetFrames({&OptionFrame});
   SetAreOptions();
   // It has no item in the menu.
@@ -116,30 +120,27 @@ void AppearancePanel::TellContrast(ColorCode text, ColorCode ground) {
 void AppearancePanel::PickHelpColor() {
   PickColorInto(block().HelpBoxFontColor);
   TellContrast(block().HelpBoxFontColor,
-               ChosenOr(block().HelpBackGroundColor, screen().context().host.OwnColors().ground));
+               ChosenOr(block().HelpBackGroundColor, ownColors_().ground));
 }
 
 void AppearancePanel::PickHelpGround() {
   PickColorInto(block().HelpBackGroundColor);
-  TellContrast(ChosenOr(block().HelpBoxFontColor, screen().context().host.OwnColors().text),
-               block().HelpBackGroundColor);
+  TellContrast(ChosenOr(block().HelpBoxFontColor, ownColors_().text), block().HelpBackGroundColor);
 }
 
 void AppearancePanel::PickLabelColor() {
   PickColorInto(block().LabelBoxColor);
-  TellContrast(block().LabelBoxColor,
-               ChosenOr(block().BackGroundColor, screen().context().host.OwnColors().ground));
+  TellContrast(block().LabelBoxColor, ChosenOr(block().BackGroundColor, ownColors_().ground));
 }
 
 void AppearancePanel::PickFrameGround() {
   PickColorInto(block().BackGroundColor);
-  TellContrast(ChosenOr(block().LabelBoxColor, screen().context().host.OwnColors().text),
-               block().BackGroundColor);
+  TellContrast(ChosenOr(block().LabelBoxColor, ownColors_().text), block().BackGroundColor);
 }
 
 void AppearancePanel::PickQuitGround() {
   PickColorInto(block().QuitBackGroundColor);
-  TellContrast(screen().context().host.OwnColors().buttonText, block().QuitBackGroundColor);
+  TellContrast(ownColors_().buttonText, block().QuitBackGroundColor);
 }
 
 void AppearancePanel::UseClassicFont(std::string& name) {

@@ -15,8 +15,9 @@ class AppearancePanel : public ScreenPart {
  public:
   /// @param pickFont   asks the user for a font
   /// @param pickColor  asks the user for a color, as decimal text
+  /// @param ownColors  what shows where no color is chosen
   AppearancePanel(Screen& screen, std::function<FontChoice()> pickFont,
-                  std::function<std::string()> pickColor);
+                  std::function<std::string()> pickColor, std::function<PlainColors()> ownColors);
 
   /// What is done when the appearance was changed here.
   void SetListener(std::function<void()> listener) { listener_ = std::move(listener); }
@@ -61,6 +62,7 @@ class AppearancePanel : public ScreenPart {
 
   std::function<FontChoice()> pickFont_;
   std::function<std::string()> pickColor_;
+  std::function<PlainColors()> ownColors_;
   std::function<void()> listener_;
 
  public:

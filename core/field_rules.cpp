@@ -58,7 +58,10 @@ void FieldRules::Warn(const std::string& text) {
 }
 
 void FieldRules::NoteChange() {
-  if (block_.OptionFieldActive != 1) block_.DataChanged = 1;
+  if (block_.OptionFieldActive == 1) return;
+  const bool isFirst = block_.DataChanged != 1;
+  block_.DataChanged = 1;
+  if (isFirst && changed_) changed_();
 }
 
 void FieldRules::Filter(KeyRule rule, std::string_view text, char32_t& key) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/host.h"
 #include "core/parameter_block.h"
@@ -69,6 +71,8 @@ class FieldRules {
 
   /// Marks the shared values as changed since the last Read.
   void NoteChange();
+  /// What is done when values that were saved are changed for the first time.
+  void SetChangeListener(std::function<void()> listener) { changed_ = std::move(listener); }
 
  private:
   char32_t MarkKey() const;
@@ -77,6 +81,7 @@ class FieldRules {
   ParameterBlock& block_;
   Host& host_;
   FieldMessages messages_;
+  std::function<void()> changed_;
 };
 
 }  // namespace veldox

@@ -135,6 +135,12 @@ class Host {
   virtual DecimalMark SystemDecimalMark() = 0;
   /// Where the start-up file, user tables and marker files lie and dialogs begin.
   virtual std::filesystem::path ProgramFolder() = 0;
+  /// Where the program keeps what it remembers of its desktop; empty where it keeps nothing.
+  virtual std::filesystem::path SettingsFile() { return {}; }
+  /// Shows the handbook. @throws CommandError (File) where it is not there
+  virtual void ShowHandbook() {
+    throw CommandError(ErrorKind::File, "The handbook can be shown only while windows are shown.");
+  }
   virtual ScreenSize MeasureScreen() = 0;
   /// The colours that windows have now where none is chosen.
   virtual PlainColors OwnColors() { return {}; }

@@ -13,6 +13,7 @@ enum class MenuKind {
   List,  ///< puts a list into a screen and opens that
   Action,
   PrintScreen,
+  RecentFile,  ///< opens one of the parameter files worked on last
 };
 
 /// One item of the menu tree (Shell::Menu). The table lists the items in the order of the menus.
@@ -23,6 +24,7 @@ struct MenuItem {
   MenuKind kind = MenuKind::Action;
   std::string_view screen{};  ///< the screen it opens, fills or prints
   void (Shell::*action)() = nullptr;
+  int index = 0;  ///< of a recent file, from the latest on
 };
 
 /// A button of the launcher in the main window's body (Shell::Launcher).

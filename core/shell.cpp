@@ -21,6 +21,21 @@ constexpr const char* kParameterFilter =
     "Text Files (*.txt)|*.txt|All Files (*.*)|*.*|Parameter Files (*.prm)|*.prm";
 constexpr int kParameterFilterIndex = 3;
 
+/// The colours of the program's own dark look.
+constexpr PlainColors kDarkColors{0x2F2B28, 0xEAE8E6, 0xEAE8E6};
+
+/// The caption of a recent file: its number to press, its name, and the folder it lies in.
+std::string RecentCaption(int index, const Settings& settings) {
+  const std::size_t at = static_cast<std::size_t>(index);
+  if (at >= settings.recentFiles().size()) return {};
+  const std::filesystem::path& file = settings.recentFiles()[at];
+  std::string name = PathText(file.filename()) + " - " + PathText(file.parent_path());
+  for (std::size_t sign = 0; (sign = name.find('&', sign)) != std::string::npos; sign += 2) {
+    name.insert(sign, 1, '&');
+  }
+  return (index == 9 ? "1&0  " : "&" + std::to_string(index + 1) + "  ") + name;
+}
+
 bool IsThere(const std::filesystem::path& file) {
   std::error_code error;
   return std::filesystem::exists(file, error);
@@ -33,6 +48,7 @@ Shell::Shell(ProgramContext& context)
   appearance.SetListener([this] {
     if (shellFace_ != nullptr) shellFace_->AppearanceChanged();
   });
+  context.rules.SetChangeListener([this] { TellTitleChanged(); });
 }
 
 Screen* Shell::FindScreen(std::string_view screenName) {
@@ -50,6 +66,9 @@ Control* Shell::FindControl(std::string_view qualifiedName) {
 }
 
 void Shell::Start() {
+  settings_ = LoadSettings(context().host.SettingsFile());
+  if (shellFace_ != nullptr) shellFace_->LookChanged();
+  TellMenuChanged();
   block().DataChanged = 0;
   appearance.FillLists();
   DetectDecimalMark();
@@ -116,15 +135,29 @@ void Shell::ReadStartUpFile() {
 }
 
 std::string Shell::MenuCaption(const MenuItem& item) const {
+  if (item.kind == MenuKind::RecentFile) return RecentCaption(item.index, settings_);
   if (item.action == &Shell::Metric) return SwitchCaption(item.caption, block().MetricMenuOn != 0);
   if (item.action == &Shell::Print_CI)
     return SwitchCaption(item.caption, printing.headsOnEveryPage());
   return std::string(item.caption);
 }
 
+std::optional<bool> Shell::MenuTicked(const MenuItem& item) const {
+  if (item.action == &Shell::Look_Light) return settings_.look == LookChoice::Light;
+  if (item.action == &Shell::Look_Dark) return settings_.look == LookChoice::Dark;
+  if (item.action == &Shell::Look_Desktop) return settings_.look == LookChoice::Desktop;
+  return std::nullopt;
+}
+
+bool Shell::MenuVisible(const MenuItem& item) const {
+  return item.kind != MenuKind::RecentFile ||
+         static_cast<std::size_t>(item.index) < settings_.recentFiles().size();
+}
+
 bool Shell::MenuEnabled(const MenuItem& item) {
   switch (item.kind) {
     case MenuKind::Separator: return false;
+    case MenuKind::RecentFile: return MenuVisible(item);
     case MenuKind::Screen:
     case MenuKind::List:
     case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
@@ -153,6 +186,8 @@ void Shell::Choose(const MenuItem& item) {
     Open(*screen);
   } else if (item.kind == MenuKind::PrintScreen) {
     Perform([&] { printing.PrintScreen(std::string(item.screen)); });
+  } else if (item.kind == MenuKind::RecentFile) {
+    Perform([&] { OpenRecentFile(static_cast<std::size_t>(item.index)); });
   } else if (item.action != nullptr) {
     Perform([&] { (this->*item.action)(); });
   } else {
@@ -179,6 +214,20 @@ void Shell::TellMenuChanged() {
   if (shellFace_ != nullptr) shellFace_->MenuChanged();
 }
 
+void Shell::TellTitleChanged() {
+  if (shellFace_ != nullptr) shellFace_->TitleChanged();
+}
+
+std::string Shell::WindowTitle() const {
+  std::string text = title();
+  if (!block().ParameterFileName.empty()) {
+    const std::string& path = block().ParameterFileName;
+    text += " - " + path.substr(path.find_last_of('/') + 1);
+  }
+  if (block().DataChanged == 1) text += " *";
+  return text;
+}
+
 Button Shell::Question(const std::string& text, std::vector<Button> buttons) {
   return context().host.Ask({Icon::Question, title(), text, std::move(buttons)});
 }
@@ -197,6 +246,14 @@ std::filesystem::path Shell::AskParameterFile(FileDialog::Kind kind) {
 void Shell::ShowFile(const std::filesystem::path& path, int records, const char* done) {
   block().ParameterFileName = PathText(path);
   Label8.SetCaption("Parameter File -- " + PathText(path.filename()));
+  TellTitleChanged();
+  std::error_code error;
+  const std::filesystem::path whole = std::filesystem::absolute(path, error);
+  if (!error) {
+    settings_.AddRecentFile(whole);
+    SaveSettings();
+    TellMenuChanged();
+  }
   Inform(FormatValue<"#,##0">(records, mark()) + done);
 }
 
@@ -204,6 +261,7 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   const int records = parameterFile_.ReadParameterFile(file);
   // Only now that new data are there is nothing left to be saved.
   block().DataChanged = 0;
+  TellTitleChanged();
   TellMenuChanged();
   graphOptions.TellChanged();
   appearance.TellChanged();
@@ -211,17 +269,60 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   return records;
 }
 
-void Shell::Read() {
-  if (block().DataChanged == 1) {
-    const Button answer = Question("Do you want to Save Your Data before Reading in New Data?",
-                                   {Button::Yes, Button::No});
-    // A save that is cancelled or fails ends the command with nothing read.
-    if (answer == Button::Yes) Write();
-  }
-  const std::filesystem::path path = AskParameterFile(FileDialog::Kind::Open);
+void Shell::SettleChanges() {
+  if (block().DataChanged != 1) return;
+  const Button answer = Question("Do you want to Save Your Data before Reading in New Data?",
+                                 {Button::Yes, Button::No});
+  // A save that is cancelled or fails ends the command with nothing read.
+  if (answer == Button::Yes) Write();
+}
+
+void Shell::ReadFile(const std::filesystem::path& file) {
   context().HandOver(nullptr);
-  const int records = TakeFile(path);
-  ShowFile(path, records, " Records Read");
+  const int records = TakeFile(file);
+  ShowFile(file, records, " Records Read");
+}
+
+void Shell::Read() {
+  SettleChanges();
+  ReadFile(AskParameterFile(FileDialog::Kind::Open));
+}
+
+void Shell::OpenFile(const std::filesystem::path& file) {
+  Perform([&] {
+    SettleChanges();
+    ReadFile(file);
+  });
+}
+
+void Shell::OpenRecentFile(std::size_t index) {
+  const std::filesystem::path file = settings_.recentFiles().at(index);
+  if (!IsThere(file)) {
+    settings_.DropRecentFile(index);
+    SaveSettings();
+    TellMenuChanged();
+    throw CommandError(
+        ErrorKind::File,
+        "This file is not there any more. It was taken off the list:\r\n" + PathText(file));
+  }
+  SettleChanges();
+  ReadFile(file);
+}
+
+void Shell::ChooseLook(LookChoice look) {
+  settings_.look = look;
+  SaveSettings();
+  TellMenuChanged();
+  if (shellFace_ != nullptr) shellFace_->LookChanged();
+}
+
+PlainColors Shell::OwnColors() const {
+  switch (settings_.look) {
+    case LookChoice::Light: return {};
+    case LookChoice::Dark: return kDarkColors;
+    case LookChoice::Desktop: break;
+  }
+  return context().host.OwnColors();
 }
 
 void Shell::Write() {
@@ -309,6 +410,7 @@ void Shell::Exit() {
   for (Screen* screen : screens_) screen->SetVisible(false);
   ended_ = true;
   if (shellFace_ != nullptr) shellFace_->Ended();
+  SaveSettings();
 }
 
 FontChoice Shell::PickFont() {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,7 @@
 #include "core/appearance_panel.h"
 #include "core/company_panel.h"
 #include "core/delimited_columns_panel.h"
+#include "core/file_taker.h"
 #include "core/graph_options_panel.h"
 #include "core/menu_table.h"
 #include "core/notes_panel.h"
@@ -19,6 +21,7 @@
 #include "core/screen.h"
 #include "core/screen_printing.h"
 #include "core/screen_scaling.h"
+#include "core/settings.h"
 #include "core/title_animation.h"
 
 namespace veldox {
@@ -31,13 +34,17 @@ class ShellFace {
   virtual void MenuChanged() = 0;
   /// The fonts, colours or borders of all screens have changed.
   virtual void AppearanceChanged() = 0;
+  /// Windows are to be light or dark otherwise.
+  virtual void LookChanged() = 0;
+  /// Another file is worked on, or its data were changed or saved.
+  virtual void TitleChanged() = 0;
   /// Exit has run: all windows close and the program ends.
   virtual void Ended() = 0;
 };
 
 /// The main form: menu, opening and closing of screens, dirty flag, start-up and
 /// shutdown order. It computes nothing itself.
-class Shell : public Screen {
+class Shell : public Screen, public FileTaker {
  public:
   /// Marks an Exit that the window's close box asked for.
   static constexpr std::int16_t kWindowCloseMarker = 12345;
@@ -63,6 +70,10 @@ class Shell : public Screen {
   /// An item by its control name; null when there is none.
   static const MenuItem* FindMenuItem(std::string_view name);
   std::string MenuCaption(const MenuItem& item) const;
+  /// Whether an item shows a tick; nothing for one that never does.
+  std::optional<bool> MenuTicked(const MenuItem& item) const;
+  /// False for the place of a recent file that there is not.
+  bool MenuVisible(const MenuItem& item) const;
   /// False for items whose screen or panel is not there yet.
   bool MenuEnabled(const MenuItem& item);
   /// Chooses a menu item; nothing for one that is disabled.
@@ -72,6 +83,11 @@ class Shell : public Screen {
   void Open(Screen& screen);
   /// What else is done when the menu has opened a screen.
   void SetOpenListener(std::function<void(Screen&)> listener) { opened_ = std::move(listener); }
+  /// Reads a parameter file as the Read command does.
+  void OpenFile(const std::filesystem::path& file) override;
+  /// The given caption, the file that is worked on, and a mark while its data have changed.
+  std::string WindowTitle() const;
+  Settings& settings() { return settings_; }
   /// The main window's close box.
   void CloseWindow();
   /// The main window was minimised.
@@ -136,6 +152,10 @@ class Shell : public Screen {
   void Co_Name() { company.Open(); }
   void Load_Co_Name() { company.Load(); }
   void Print_Head_Location() { companyPlace.Open(); }
+  void Look_Light() { ChooseLook(LookChoice::Light); }
+  void Look_Dark() { ChooseLook(LookChoice::Dark); }
+  void Look_Desktop() { ChooseLook(LookChoice::Desktop); }
+  void Handbook() { context().host.ShowHandbook(); }
   void LrgScrRes() { SetScreenSize(ScreenScaling::Mode::Large); }
   void FullScrRes() { SetScreenSize(ScreenScaling::Mode::Full); }
   void ScrRes();
@@ -157,6 +177,16 @@ class Shell : public Screen {
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   void TellMenuChanged();
+  void TellTitleChanged();
+  /// Asks about unsaved data. @throws CommandError (Cancelled, File) where they were to be saved
+  ///                                and are not
+  void SettleChanges();
+  void ReadFile(const std::filesystem::path& file);
+  void OpenRecentFile(std::size_t index);
+  void ChooseLook(LookChoice look);
+  void SaveSettings() { veldox::SaveSettings(context().host.SettingsFile(), settings_); }
+  /// The colours of windows where none is chosen.
+  PlainColors OwnColors() const;
   void SetScreenSize(ScreenScaling::Mode mode);
   void ProbeScreenFile(const char* marker, std::string_view menuItem);
 
@@ -171,6 +201,7 @@ class Shell : public Screen {
   std::string dateLine_;
   bool ended_ = false;
   ScreenScaling scaling_;
+  Settings settings_;
 
  public:
   // The title, its name line for the parameter file, and the help line
@@ -190,7 +221,8 @@ class Shell : public Screen {
   NotesPanel notes{*this};
   DelimitedColumnsPanel delimitedColumns{*this};
   GraphOptionsPanel graphOptions{*this, [this] { return PickColor(); }};
-  AppearancePanel appearance{*this, [this] { return PickFont(); }, [this] { return PickColor(); }};
+  AppearancePanel appearance{*this, [this] { return PickFont(); }, [this] { return PickColor(); },
+                             [this] { return OwnColors(); }};
   CompanyPanel company{*this};
   CompanyPlacePanel companyPlace{*this};
 

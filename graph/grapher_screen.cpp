@@ -91,6 +91,10 @@ void Form8::Inform(Icon icon, const std::string& text, const std::string& boxTit
                       {Button::OK}});
 }
 
+void Form8::OpenFile(const std::filesystem::path& file) {
+  Perform([&] { RunGraphScript(file, ReadMode::NewLimits, plot_.scale()); });
+}
+
 std::filesystem::path Form8::AskFile(FileDialog::Kind kind, const char* filter, int index) {
   const auto path = context().host.AskFile({kind, filter, index, context().host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/file_taker.h"
 #include "core/screen.h"
 #include "graph/graph_script.h"
 #include "graph/grapher.h"
@@ -29,13 +30,15 @@ struct MoveableLine {
 
 /// The grapher: the one screen with a graph surface, `Picture1`. It graphs the standard
 /// horsepower curves, graph-script files and pictures, and what other screens hand over.
-class Form8 : public Screen, public Grapher {
+class Form8 : public Screen, public Grapher, public FileTaker {
  public:
   explicit Form8(ProgramContext& context);
 
   void CopyFromBlock() override { OptionsChanged(); }
   Control* HelpPlace() override { return &Label7; }
   Control* QuitCommand() override { return &Command1; }
+  /// Reads a graph file and draws what it tells.
+  void OpenFile(const std::filesystem::path& file) override;
   void Closed() override;
 
   // Grapher

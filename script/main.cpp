@@ -9,15 +9,19 @@
 
 namespace {
 
-/// The program that works real windows lies beside this one; it takes this one's place,
-/// so that a script without windows never loads the toolkit.
+/// The program that works real windows lies beside this one, or among the helpers of an
+/// installed one; it takes this one's place, so that a script without windows never loads the
+/// toolkit.
 int RunWithWindows(char** argv) {
   std::error_code error;
   std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) self = argv[0];
-  const std::string windows = (self.parent_path() / "veldox-script-windows").string();
-  execv(windows.c_str(), argv);
-  std::fprintf(stderr, "veldox-script: cannot start %s\n", windows.c_str());
+  const std::filesystem::path folder = self.parent_path();
+  constexpr const char* kName = "veldox-script-windows";
+  const std::string beside = (folder / kName).string();
+  const std::string installed = (folder.parent_path() / "libexec" / "veldox" / kName).string();
+  for (const std::string& windows : {beside, installed}) execv(windows.c_str(), argv);
+  std::fprintf(stderr, "veldox-script: cannot start %s\n", beside.c_str());
   return 2;
 }
 

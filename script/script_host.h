@@ -65,6 +65,7 @@ class ScriptHost : public Host {
   void PreviewPages(PageJob job, const PageDrawing& draw) override;
   void PrintGraph() override;
   void PrintWindow(const std::string& screen) override;
+  void ShowHandbook() override { dialogs.emplace_back("handbook"); }
   void SetUpPrinter() override { ChoosePrinter(); }
   void SetBusy(bool) override {}
 

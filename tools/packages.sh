@@ -42,5 +42,8 @@ require_packages() {
 
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl-dev)
 DISPLAY_PACKAGES=(xvfb xauth fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev libgmock-dev locales poppler-utils)
+TEST_PACKAGES=(libgtest-dev libgmock-dev locales poppler-utils dbus desktop-file-utils appstream
+  man-db shared-mime-info)
+PACKAGE_PACKAGES=(dpkg-dev file lintian)
+ROOT_PACKAGES=(debootstrap xvfb x11-utils)
 LINT_PACKAGES=(clang-format clang-tidy)

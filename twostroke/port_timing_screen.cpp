@@ -4,6 +4,7 @@
 
 #include "engine/compression.h"
 #include "engine/displacement.h"
+#include "graph/axis_growth.h"
 #include "twostroke/mean_pressure.h"
 
 namespace veldox {
@@ -184,11 +185,11 @@ void Form18::EstimateTimeAreasOfPower() {
 
 void Form18::SolveSquishArea() {
   ReadBaseFields();
-  ReadFields({&Text37});
   const ParameterBlock& b = block();
   const double unit = isMetric() ? kSquareMillimetresPerSquareCentimetre : 1;
-  const double area = SquishArea(b.Bore, b.SquishRatio);
   Show(Text35, PistonArea(b.Bore) / unit);
+  ReadFields({&Text37});
+  const double area = SquishArea(b.Bore, b.SquishRatio);
   Show(Text36, area / unit);
   Show(Text40, SquishCircle(area));
 }
@@ -258,7 +259,8 @@ void Form18::GraphSquish(bool first) {
            : isMetric();
   const SquishPlot plot = PlotSquish(flows, block().TwoSExhaustDegrees, metric, SquishCaption());
   if (adds) {
-    grapher_.AddToGraph({&plot.curve, 1});
+    grapher_.AddToGraph({&plot.curve, 1},
+                        GrownBy(grapher_.plot().scale(), plot.curve, plot.frame.range));
   } else {
     grapher_.DrawGraph(plot.frame, {&plot.curve, 1});
   }

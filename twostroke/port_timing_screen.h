@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/frame_row.h"
 #include "core/screen.h"
 #include "core/table.h"
 #include "graph/grapher.h"
@@ -142,6 +143,19 @@ class Form18 : public Screen {
                     "Ratio from Dynamic Compression Ratio, Stroke, and Piston to Deck Clearance.",
                     &Form18::SolveExhaustDistanceForRatio};
 
+  Frame Frame4{*this, "Frame4", "Power", 0};
+  Field Text32{Frame4, "Text32", "Horse Power", "55.5",
+               Entry(KeyRule::UnsignedReal, Unit::Power, Holds(&P::HorsePower).ConvertedAsShown())};
+  Field Text33{
+      Frame4, "Text33", "BMEP", "82.79",
+      Entry(KeyRule::UnsignedReal, Unit::MeanPressure, Holds(&P::BMEP).ConvertedAsShown())};
+  Field Text34{Frame4, "Text34", "Average Piston Speed", "3520.83",
+               Entry(KeyRule::OutputOnly, Unit::PistonSpeed, Holds().DerivedAnew())};
+  Command Command14{Frame4, "Command14", "B&MEP",
+                    "Calculate Average Piston Speed, and BMEP from Horsepower, number of "
+                    "cylinders, Bore, Stroke and RPM.",
+                    &Form18::SolveMeanPressure};
+
   Frame Frame2{*this, "Frame2", "Ports", 1};
   Field Text48{Frame2, "Text48", "Exhaust Distance", "1.399",
                Entry(KeyRule::UnsignedReal, Unit::Length,
@@ -233,49 +247,20 @@ class Form18 : public Screen {
                     "Port open in Milli Seconds and Total Port Area.",
                     &Form18::SolveTransferTimeArea};
 
-  Frame Frame3{*this, "Frame3", "Blowdown", 1};
+  FrameRow BelowPorts{*this, "BelowPorts", 1};
+
+  Frame Frame3{BelowPorts, "Frame3", "Blowdown", 0};
   Field Text19{Frame3, "Text19", "Blowdown Distance", "0.2",
                Entry(KeyRule::OutputOnly, Unit::Length)};
   Field Text17{Frame3, "Text17", "Blowdown Degrees", "6.792",
                Entry(KeyRule::OutputOnly, Unit::Degrees)};
   Field Text18{Frame3, "Text18", "Blowdown Time in Milli Seconds", "0.1742", KeyRule::OutputOnly};
-  Table Blowdown{Frame3,
-                 "Blowdown",
-                 "Blowdown",
-                 {{"Blowdown Distance", {&Text19}},
-                  {"Blowdown Degrees", {&Text17}},
-                  {"Blowdown Time in Milli Seconds", {&Text18}}},
-                 {"", {"Transfer"}}};
   Command Command7{Frame3, "Command7", "B&lowdown",
                    "Calculate Blowdown Degrees / Time in Milli Seconds, using RPM, Exhaust Degrees "
                    "ATDC and Transfer Degrees ATDC.",
                    &Form18::SolveBlowdown};
 
-  Frame Frame4{*this, "Frame4", "Power and Target Time Areas", 0};
-  Field Text32{Frame4, "Text32", "Horse Power", "55.5",
-               Entry(KeyRule::UnsignedReal, Unit::Power, Holds(&P::HorsePower).ConvertedAsShown())};
-  Field Text33{
-      Frame4, "Text33", "BMEP", "82.79",
-      Entry(KeyRule::UnsignedReal, Unit::MeanPressure, Holds(&P::BMEP).ConvertedAsShown())};
-  Field Text34{Frame4, "Text34", "Average Piston Speed", "3520.83",
-               Entry(KeyRule::OutputOnly, Unit::PistonSpeed, Holds().DerivedAnew())};
-  Field Text43{Frame4, "Text43", "Inlet TA", "0.1089", KeyRule::OutputOnly};
-  Field Text44{Frame4, "Text44", "Exhaust TA", "0.1089", KeyRule::OutputOnly};
-  Field Text45{Frame4, "Text45", "Blowdown TA", "0.1089", KeyRule::OutputOnly};
-  Field Text46{Frame4, "Text46", "Transfer TA", "0.1089", KeyRule::OutputOnly};
-  Command Command14{Frame4, "Command14", "B&MEP",
-                    "Calculate Average Piston Speed, and BMEP from Horsepower, number of "
-                    "cylinders, Bore, Stroke and RPM.",
-                    &Form18::SolveMeanPressure};
-  Command Command18{Frame4, "Command18", "TA's from BMEP",
-                    "Estimate Inlet TA, Exhaust TA, Transfer TA, and Blowdown TA from BMEP.",
-                    &Form18::EstimateTimeAreasOfPressure};
-  Command Command19{Frame4, "Command19", "TA's from HP",
-                    "Estimate Inlet TA, Exhaust TA, Transfer TA, and Blowdown TA from HP, number "
-                    "of cylinders, RPM, and Engine Size.",
-                    &Form18::EstimateTimeAreasOfPower};
-
-  Frame Frame5{*this, "Frame5", "Squish Band", 1};
+  Frame Frame5{BelowPorts, "Frame5", "Squish Band", 0};
   Field Text35{Frame5, "Text35", "Piston  / Cylinder Area", "12.566",
                Entry(KeyRule::OutputOnly, Unit::PortArea)};
   Field Text36{Frame5, "Text36", "Squish Area", "6.66",
@@ -296,16 +281,6 @@ class Form18 : public Screen {
                "2.309",
                Entry(KeyRule::OutputOnly, Unit::Length),
                "Diameter of a circle of the squish area, not of what the band leaves of the bore."};
-  Table SquishBand{Frame5,
-                   "SquishBand",
-                   "Squish Band",
-                   {{"Piston  / Cylinder Area", {&Text35}},
-                    {"Squish Area", {&Text36}},
-                    {"Squish Ratio", {&Text37}},
-                    {"Squish Clearance", {&Text38}},
-                    {"Squish Volume", {&Text39}},
-                    {"Bowl Diameter", {&Text40}}},
-                   {"", {"Band"}}};
   Command Command15{Frame5, "Command15", "&Squish Area",
                     "Calculate Squish and Piston areas from Bore and Squish Ratio.",
                     &Form18::SolveSquishArea};
@@ -313,7 +288,7 @@ class Form18 : public Screen {
                     "Calculate Squish Volume from Squish Areas and Squish Clearance.",
                     &Form18::SolveSquishVolume};
 
-  Frame Frame6{*this, "Frame6", "Squish Velocity every .01 Degrees", 1};
+  Frame Frame6{BelowPorts, "Frame6", "Squish Velocity", 1};
   Field Text41{Frame6, "Text41", "Max. Squish Velocity", "137.67",
                Entry(KeyRule::OutputOnly, Unit::SurfaceSpeed, Holds().Pattern<".000">())};
   Field Text42{Frame6,
@@ -328,20 +303,17 @@ class Form18 : public Screen {
                "49.0",
                Entry(KeyRule::OutputOnly, Unit::SurfaceSpeed, Holds().Pattern<".000">()),
                "From the closing of the exhaust port to the top."};
-  Table SquishVelocity{Frame6,
-                       "SquishVelocity",
-                       "Squish Velocity",
-                       {{"Max. Squish Velocity", {&Text41}},
-                        {"Max. Squish Velocity Degrees", {&Text42}},
-                        {"Mean. Squish Velocity", {&Text49}}},
-                       {"", {"Gas"}}};
-  Command Command17{Frame6, "Command17", "Max. Squish Vel.",
+
+  FrameRow VelocitySteps{BelowPorts, "VelocitySteps", 1};
+
+  Frame Frame8{VelocitySteps, "Frame8", "Squish Velocity every .01 Degrees", 0};
+  Command Command17{Frame8, "Command17", "Max. Squish Vel.",
                     "Calculate Max Squish Velocity and at what Degrees by every .01 Degrees from "
                     "Bore, Stroke, Rod Length, Compression Ratio, RPM, Exhaust Crank Degrees ATDC "
                     "- Open, Squish Ratio, and Squish Clearance.",
                     &Form18::SolveSquishVelocityFine};
 
-  Frame Frame7{*this, "Frame7", "Squish Velocity by Degree", 1};
+  Frame Frame7{VelocitySteps, "Frame7", "Squish Velocity by Degree", 1};
   Command Command20{Frame7, "Command20", "Max. Squish Vel.",
                     "Calculate Max Squish Velocity and at what Degrees by Degree from Bore, "
                     "Stroke, Rod Length, Compression Ratio, RPM, Exhaust Crank Degrees ATDC - "
@@ -357,6 +329,19 @@ class Form18 : public Screen {
                     "Ratio, RPM, Exhaust Crank Degrees ATDC - Open, Squish Ratio, and Squish "
                     "Clearance.",
                     &Form18::GraphSquishFurther};
+
+  Frame Frame9{BelowPorts, "Frame9", "Target Time Areas", 1};
+  Field Text43{Frame9, "Text43", "Inlet TA", "0.1089", KeyRule::OutputOnly};
+  Field Text44{Frame9, "Text44", "Exhaust TA", "0.1089", KeyRule::OutputOnly};
+  Field Text45{Frame9, "Text45", "Blowdown TA", "0.1089", KeyRule::OutputOnly};
+  Field Text46{Frame9, "Text46", "Transfer TA", "0.1089", KeyRule::OutputOnly};
+  Command Command18{Frame9, "Command18", "TA's from BMEP",
+                    "Estimate Inlet TA, Exhaust TA, Transfer TA, and Blowdown TA from BMEP.",
+                    &Form18::EstimateTimeAreasOfPressure};
+  Command Command19{Frame9, "Command19", "TA's from HP",
+                    "Estimate Inlet TA, Exhaust TA, Transfer TA, and Blowdown TA from HP, number "
+                    "of cylinders, RPM, and Engine Size.",
+                    &Form18::EstimateTimeAreasOfPower};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   Label Label7{HelpFrame, "Label7", ""};

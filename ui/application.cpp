@@ -1,5 +1,6 @@
 #include "ui/application.h"
 
+#include <QIcon>
 #include <QMessageBox>
 #include <exception>
 
@@ -8,6 +9,9 @@ namespace veldox {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("veldox"));
   setApplicationDisplayName(QString());
+  // The desktop finds the program's entry, and its icon, by this name.
+  setWindowIcon(QIcon::fromTheme(QStringLiteral("veldox")));
+  setDesktopFileName(QStringLiteral("veldox"));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -10,6 +10,7 @@
 
 #include "core/results.h"
 #include "ui/face.h"
+#include "ui/file_drop.h"
 #include "ui/qt_text.h"
 
 namespace veldox {
@@ -168,6 +169,14 @@ void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
   menu->exec(event->globalPos());
 }
 
+void FieldEdit::dragEnterEvent(QDragEnterEvent* event) {
+  if (HoldsFiles(*event->mimeData())) {
+    event->ignore();  // the window takes it
+  } else {
+    QLineEdit::dragEnterEvent(event);
+  }
+}
+
 void FieldEdit::SetMouseDown(bool down) {
   field_.screen().block().FieldMouseDown = down ? 1 : 0;
 }
@@ -229,6 +238,14 @@ void LinesEdit::insertFromMimeData(const QMimeData* source) {
   text.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(),
                source->text());
   if (control_.CanHold(FromQtLines(text))) QPlainTextEdit::insertFromMimeData(source);
+}
+
+void LinesEdit::dragEnterEvent(QDragEnterEvent* event) {
+  if (HoldsFiles(*event->mimeData())) {
+    event->ignore();  // the window takes it
+  } else {
+    QPlainTextEdit::dragEnterEvent(event);
+  }
 }
 
 void LinesEdit::focusInEvent(QFocusEvent* event) {

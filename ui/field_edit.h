@@ -41,6 +41,7 @@ class FieldEdit : public QLineEdit {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
 
  private:
   void SetMouseDown(bool down);
@@ -65,6 +66,7 @@ class LinesEdit : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
 
  private:
   TextControl& control_;

@@ -1,9 +1,11 @@
 #include "ui/frame_panel.h"
 
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/caution_frame.h"
+#include "core/frame_row.h"
 #include "core/panel.h"
 #include "ui/control_faces.h"
 #include "ui/drawing_face.h"
@@ -33,7 +35,30 @@ int Widest(const std::vector<QWidget*>& widgets) {
   return widest;
 }
 
+/// The frames of a row, each column as high as it must be.
+QWidget* BuildFrameRow(FaceSet& faces, const FrameRow& row,
+                       const std::vector<const Control*>& placed, int gap, QWidget* parent) {
+  std::vector<Frame*> frames;
+  for (Control* control : row.controls()) AppendFrames(static_cast<Frame&>(*control), frames);
+  auto* built = new QWidget(parent);
+  auto* side = new QHBoxLayout(built);
+  side->setContentsMargins(0, 0, 0, 0);
+  side->setSpacing(gap);
+  for (QWidget* column : BuildFrameColumns(faces, frames, placed, gap, built)) {
+    side->addWidget(column, 1, Qt::AlignTop);
+  }
+  return built;
+}
+
 }  // namespace
+
+void AppendFrames(Frame& frame, std::vector<Frame*>& frames) {
+  frames.push_back(&frame);
+  if (dynamic_cast<const FrameRow*>(&frame) != nullptr) return;
+  for (Control* control : frame.controls()) {
+    if (control->kind() == ControlKind::Frame) AppendFrames(static_cast<Frame&>(*control), frames);
+  }
+}
 
 bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed) {
   return std::any_of(frame.controls().begin(), frame.controls().end(), [&](Control* control) {
@@ -57,7 +82,12 @@ std::vector<QWidget*> BuildFrameColumns(FaceSet& faces, const std::vector<Frame*
     int labelWidth = 0;
     int unitWidth = 0;
     for (Frame* frame : frames) {
-      if (frame->column() != i || !HasOwnControls(*frame, placed)) continue;
+      if (frame->column() != i) continue;
+      if (const auto* row = dynamic_cast<const FrameRow*>(frame)) {
+        pile->addWidget(BuildFrameRow(faces, *row, placed, gap, column));
+        continue;
+      }
+      if (!HasOwnControls(*frame, placed)) continue;
       panels.push_back(new FramePanel(faces, *frame, placed, column));
       if (frame == sheet) {
         panels.back()->setTitle({});

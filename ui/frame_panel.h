@@ -46,6 +46,10 @@ class FrameFace : public Face {
   void Follow() override;
 };
 
+/// Adds a frame and those inside it, in the order of declaration. What stands in a row of frames
+/// goes with the row.
+void AppendFrames(Frame& frame, std::vector<Frame*>& frames);
+
 /// True when a frame has something to show besides the controls placed elsewhere.
 bool HasOwnControls(const Frame& frame, const std::vector<const Control*>& placed);
 

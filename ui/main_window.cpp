@@ -10,6 +10,7 @@
 
 #include "ui/column_flow.h"
 #include "ui/control_faces.h"
+#include "ui/file_drop.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/launcher.h"
@@ -18,6 +19,7 @@
 #include "ui/screen_window.h"
 #include "ui/title_area.h"
 #include "ui/window_picture.h"
+#include "ui/window_place.h"
 
 namespace veldox {
 namespace {
@@ -69,7 +71,9 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new M
 
   AddPictureKeys(*this, shell);
   setMinimumWidth(kNarrowest);
+  AcceptFiles(*this, shell);
   resize(FittingSize(*this, kPreferredSize));
+  ownSize_ = size();
   const QRect room = screen()->availableGeometry();
   move(room.center() - rect().center());
   shell_.SetShellFace(this);
@@ -183,6 +187,11 @@ void MainWindow::UpdateAction(QAction& action, const MenuItem& item) {
   if (item.kind == MenuKind::Separator) return;
   action.setText(ToQt(shell_.MenuCaption(item)));
   action.setEnabled(shell_.MenuEnabled(item));
+  action.setVisible(shell_.MenuVisible(item));
+  if (const std::optional<bool> ticked = shell_.MenuTicked(item)) {
+    action.setCheckable(true);
+    action.setChecked(*ticked);
+  }
   action.setToolTip(action.isEnabled() ? QString() : QString::fromLatin1(kNotAvailable));
 }
 
@@ -220,7 +229,16 @@ void MainWindow::AppearanceChanged() {
   if (lookChanged_) lookChanged_();
 }
 
+void MainWindow::LookChanged() {
+  if (themeChanged_) themeChanged_();
+}
+
+void MainWindow::TitleChanged() {
+  setWindowTitle(ToQt(shell_.WindowTitle()));
+}
+
 void MainWindow::Ended() {
+  shell_.settings().places[shell_.name()] = PlaceOf(*this, size() != ownSize_);
   title_->Finish();
   close();
 }

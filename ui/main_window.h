@@ -31,11 +31,15 @@ class MainWindow : public QWidget, public ShellFace {
 
   /// What is done when the appearance of all screens has changed.
   void SetLookListener(std::function<void()> listener) { lookChanged_ = std::move(listener); }
+  /// What is done when windows are to be light or dark otherwise.
+  void SetThemeListener(std::function<void()> listener) { themeChanged_ = std::move(listener); }
   /// Fills the window below its menu anew where it is to look otherwise.
   void SetAppearance(const Appearance& appearance);
 
   void MenuChanged() override;
   void AppearanceChanged() override;
+  void LookChanged() override;
+  void TitleChanged() override;
   void Ended() override;
 
  protected:
@@ -61,6 +65,8 @@ class MainWindow : public QWidget, public ShellFace {
   QStackedWidget* pages_ = nullptr;
   std::vector<std::unique_ptr<PanelFace>> panels_;
   std::function<void()> lookChanged_;
+  std::function<void()> themeChanged_;
+  QSize ownSize_;  ///< what it takes itself
 };
 
 }  // namespace veldox

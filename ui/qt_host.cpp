@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "ui/handbook_window.h"
 #include "ui/qt_printer.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
@@ -213,6 +214,31 @@ std::filesystem::path QtHost::ProgramFolder() {
     QDir().mkpath(folder);
   }
   return std::filesystem::path(QFile::encodeName(folder).toStdString());
+}
+
+std::filesystem::path QtHost::SettingsFile() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+  if (folder.isEmpty()) return {};
+  return std::filesystem::path(
+      QFile::encodeName(folder + QStringLiteral("/settings.txt")).toStdString());
+}
+
+void QtHost::ShowHandbook() {
+  const QString file = FindHandbook(QCoreApplication::applicationDirPath());
+  if (file.isEmpty()) {
+    throw CommandError(ErrorKind::File,
+                       "The handbook is not there: handbook.md lies neither beside the installed "
+                       "program nor in the folder docs.");
+  }
+  if (handbook_ == nullptr) {
+    handbook_ = new HandbookWindow(file);
+    handbook_->setAttribute(Qt::WA_DeleteOnClose);
+    // The program ends with its main window.
+    handbook_->setAttribute(Qt::WA_QuitOnClose, false);
+  }
+  handbook_->show();
+  handbook_->raise();
+  handbook_->activateWindow();
 }
 
 ScreenSize QtHost::MeasureScreen() {

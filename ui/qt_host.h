@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
+
 #include "core/host.h"
 
 namespace veldox {
@@ -14,6 +17,8 @@ class QtHost : public Host {
   ClockTime Now() override;
   DecimalMark SystemDecimalMark() override;
   std::filesystem::path ProgramFolder() override;
+  std::filesystem::path SettingsFile() override;
+  void ShowHandbook() override;
   ScreenSize MeasureScreen() override;
   PlainColors OwnColors() override;
   std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override;
@@ -22,6 +27,9 @@ class QtHost : public Host {
   void PrintWindow(const std::string& screen) override;
   void SetUpPrinter() override;
   void SetBusy(bool busy) override;
+
+ private:
+  QPointer<QWidget> handbook_;  ///< while it is open
 };
 
 }  // namespace veldox

@@ -1,6 +1,7 @@
 #include "ui/screen_window.h"
 
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -9,7 +10,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/file_taker.h"
 #include "ui/control_faces.h"
+#include "ui/file_drop.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
 #include "ui/qt_text.h"
@@ -29,6 +32,14 @@ constexpr QSize kDecoration(10, 40);
 /// The width of the bar that scrolls the frames down.
 int BarWidth(const SheetStack& sheets) {
   return sheets.views().front().scroll->verticalScrollBar()->sizeHint().width();
+}
+
+/// A widget that frames stand on, and those on it.
+void AppendGrounds(QWidget& ground, std::vector<QWidget*>& grounds) {
+  grounds.push_back(&ground);
+  for (QWidget* child : ground.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (qobject_cast<QGroupBox*>(child) == nullptr) AppendGrounds(*child, grounds);
+  }
 }
 
 }  // namespace
@@ -56,6 +67,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appea
   faces_.SetLook(WindowLook(appearance));
   Fill();
   AddPictureKeys(*this, screen);
+  if (auto* taker = dynamic_cast<FileTaker*>(&screen)) AcceptFiles(*this, *taker);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
     connect(again, &QShortcut::activated, this, [this] { screen_.CalculateAgain(); });
@@ -140,14 +152,15 @@ void ScreenWindow::SizeByLargeScreen(const ScreenScaling& scaling) {
   resize(FittingSize(*this, wanted.boundedTo(QSize(scaling.widthLimit(), scaling.heightLimit()))));
 }
 
+bool ScreenWindow::sizedByUser() const {
+  const QSize now(width(), heightWithoutReport_ > 0 ? heightWithoutReport_ : height());
+  return mode_ == ScreenScaling::Mode::Off && now != ownSize_;
+}
+
 void ScreenWindow::FollowPointerOverBackgrounds() {
   std::vector<QWidget*> grounds{this};
   for (const SheetView& view : sheets_->views()) {
-    grounds.push_back(view.flow);
-    for (QWidget* column :
-         view.flow->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
-      grounds.push_back(column);
-    }
+    AppendGrounds(*view.flow, grounds);
   }
   for (QWidget* ground : grounds) {
     ground->setMouseTracking(true);

@@ -19,8 +19,8 @@ using OwnFaceMaker = QWidget* (*)(Screen& screen, QWidget* parent);
 class ScreenWindow : public QWidget {
  public:
   /// @param scaling  how it uses a large screen
-  ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appearance& appearance,
-               const ScreenScaling& scaling);
+  ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appearance& appearance = {},
+               const ScreenScaling& scaling = {});
 
   Screen& screen() const { return screen_; }
   FaceSet& faces() { return faces_; }
@@ -29,6 +29,8 @@ class ScreenWindow : public QWidget {
   /// Fills the window anew where it is to look otherwise. It keeps its place, and the size that
   /// the user or a large screen has given it.
   void SetAppearance(const Appearance& appearance);
+  /// It has another size than its contents or a large screen give it.
+  bool sizedByUser() const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -19,14 +19,6 @@ constexpr int kGap = 5;
 constexpr double kNameGrowth = 1.15;
 constexpr int kCloseDigits = 13;  ///< width of a closing command
 
-/// A frame and those inside it, in the order of declaration.
-void Flatten(Frame& frame, std::vector<Frame*>& frames) {
-  frames.push_back(&frame);
-  for (Control* control : frame.controls()) {
-    if (control->kind() == ControlKind::Frame) Flatten(static_cast<Frame&>(*control), frames);
-  }
-}
-
 QLabel* MakeName(const WindowLook& look, QWidget* parent) {
   auto* name = new QLabel(parent);
   look.DressLabel(*name);
@@ -44,7 +36,7 @@ QLabel* MakeName(const WindowLook& look, QWidget* parent) {
 SheetStack::SheetStack(FaceSet& faces, std::vector<const Control*> placed, QWidget* parent)
     : QStackedWidget(parent), faces_(faces), placed_(std::move(placed)) {
   std::vector<Frame*> frames;
-  for (Frame* frame : faces_.screen().frames()) Flatten(*frame, frames);
+  for (Frame* frame : faces_.screen().frames()) AppendFrames(*frame, frames);
   if (faces_.screen().pages().empty()) {
     main_ = AddSheet(nullptr, frames, this);
   } else {
@@ -72,7 +64,7 @@ QWidget* SheetStack::BuildPages(QWidget* page) {
   pile->setSpacing(0);
   auto* strip = new ColumnFlow(kMargin, kGap, page);
   std::vector<Frame*> frames;
-  for (Frame* frame : faces_.screen().frames()) Flatten(*frame, frames);
+  for (Frame* frame : faces_.screen().frames()) AppendFrames(*frame, frames);
   for (QWidget* column : BuildFrameColumns(faces_, frames, placed_, kGap, strip)) {
     strip->Add(column);
   }
@@ -89,7 +81,7 @@ QWidget* SheetStack::BuildPages(QWidget* page) {
     QLabel* name = MakeName(faces_.look(), sheet);
     inside->addWidget(name);
     std::vector<Frame*> own;
-    Flatten(*each, own);
+    AppendFrames(*each, own);
     inside->addWidget(AddSheet(each, own, sheet), 1);
     views_.back().page = sheet;
     pages_->addWidget(sheet);
@@ -108,7 +100,7 @@ void SheetStack::BuildPanel(veldox::Panel& panel) {
   Command* close = panel.closingCommand();
   if (close != nullptr) placed_.push_back(close);
   std::vector<Frame*> frames;
-  Flatten(panel, frames);
+  AppendFrames(panel, frames);
   pile->addWidget(AddSheet(&panel, frames, sheet), 1);
   views_.back().page = sheet;
   if (close != nullptr) {

@@ -397,10 +397,15 @@ void ApplyTheme(QApplication& app, Theme theme) {
   }
   switch (theme) {
     case Theme::System:
+    case Theme::SystemElseDark: {
       app.setPalette(QPalette());
+      const QPalette plain = PlainFusion();
       // A desktop that names no colours of its own hands on the plain grey ones.
-      if (SameColors(QApplication::palette(), PlainFusion())) app.setPalette(MakePalette(kLight));
+      if (!SameColors(QApplication::palette(), plain)) break;
+      const bool isDark = theme == Theme::SystemElseDark || ThemeColors(plain).dark;
+      app.setPalette(MakePalette(isDark ? kDark : kLight));
       break;
+    }
     case Theme::Light: app.setPalette(MakePalette(kLight)); break;
     case Theme::Dark: app.setPalette(MakePalette(kDark)); break;
   }

@@ -11,7 +11,12 @@ namespace veldox {
 
 /// Which colours the windows take. The program follows the desktop; tests and pictures
 /// ask for one of the others.
-enum class Theme { System, Light, Dark };
+enum class Theme {
+  System,          ///< the desktop's colours; light where it names none
+  SystemElseDark,  ///< the same, dark where it names none
+  Light,
+  Dark,
+};
 
 /// Gives the application its style and colours. May be called again to switch.
 void ApplyTheme(QApplication& app, Theme theme);

@@ -2,11 +2,13 @@
 
 #include "ui/own_faces.h"
 #include "ui/theme.h"
+#include "ui/window_place.h"
 
 namespace veldox {
 
 WindowManager::WindowManager(Shell& shell) : shell_(shell), pictures_(shell, *this), main_(shell) {
   shell_.context().host.SetPictureMaker(&pictures_);
+  main_.SetThemeListener([this] { theme_.Choose(shell_.settings().look); });
   main_.SetLookListener([this] {
     if (following_) return;
     following_ = true;
@@ -63,7 +65,12 @@ void WindowManager::FollowAppearance() {
 void WindowManager::ScreenVisibilityChanged(Screen& screen) {
   if (!screen.visible()) {
     QWidget* window = WindowOf(screen);
-    if (window != nullptr && window != &main_) window->hide();
+    if (window == nullptr || window == &main_) return;
+    if (window->isVisible()) {
+      const bool sizedByUser = static_cast<ScreenWindow*>(window)->sizedByUser();
+      shell_.settings().places[screen.name()] = PlaceOf(*window, sizedByUser);
+    }
+    window->hide();
     return;
   }
   const ScreenScaling::Mode mode = shell_.scaling().ModeOf(shell_.block());
@@ -72,6 +79,10 @@ void WindowManager::ScreenVisibilityChanged(Screen& screen) {
     return &each->screen() == &screen && !each->isVisible() && each->mode() != mode;
   });
   QWidget& window = Window(screen);
+  const auto& places = shell_.settings().places;
+  if (const auto place = places.find(screen.name()); !window.isVisible() && place != places.end()) {
+    PutInPlace(window, place->second);
+  }
   if (window.isMinimized()) {
     window.showNormal();
   } else {

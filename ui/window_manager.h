@@ -7,6 +7,7 @@
 #include "ui/main_window.h"
 #include "ui/qt_pictures.h"
 #include "ui/screen_window.h"
+#include "ui/theme_follower.h"
 
 namespace veldox {
 
@@ -18,6 +19,7 @@ class WindowManager : public ScreenFace {
   ~WindowManager() override;
 
   MainWindow& main() { return main_; }
+  ThemeFollower& theme() { return theme_; }
   QtPictures& pictures() { return pictures_; }
   /// The window of a screen, the main form among them; null while it was never opened.
   QWidget* WindowOf(const Screen& screen);
@@ -35,6 +37,7 @@ class WindowManager : public ScreenFace {
   void FollowAppearance();
 
   Shell& shell_;
+  ThemeFollower theme_;
   QtPictures pictures_;
   MainWindow main_;
   std::vector<std::unique_ptr<ScreenWindow>> windows_;

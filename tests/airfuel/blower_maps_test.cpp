@@ -155,6 +155,26 @@ TEST(PlotFlowMap, ReachesToTheLimitsOfTheUser) {
   }
 }
 
+TEST(PlotFlowMap, HoldsAllItsPoints) {
+  for (const FlowMapKind kind :
+       {FlowMapKind::PressureRatio, FlowMapKind::Boost, FlowMapKind::Intercooled}) {
+    for (const double ratio : {1.5, 3.3, 4.7}) {
+      const BlowerPlot plot =
+          PlotFlowMap(UsualMap(kind), {}, OperatingPoint{3000, ratio}, DecimalMark::Point);
+      for (const GraphCurve& curve : plot.curves) {
+        for (const GraphPoint& point : curve.points) {
+          EXPECT_LE(point.y, plot.frame.range.yHigh);
+          EXPECT_LE(point.x, plot.frame.range.xHigh);
+        }
+      }
+    }
+  }
+  // Steps of 2 psi at 29.92 inches of mercury: 3 is passed by 1 + 30 / (29.92 x 0.4911542).
+  const BlowerPlot boost = PlotFlowMap(UsualMap(FlowMapKind::Boost), {}, {}, DecimalMark::Point);
+  EXPECT_NEAR(boost.curves[0].points.back().y, 3.0414644, 1e-7);
+  EXPECT_EQ(boost.frame.range.yHigh, 3.5);
+}
+
 TEST(PlotFlowMap, DrawsNoMorePointsThanCanBeSeen) {
   for (const FlowMapKind kind : {FlowMapKind::PressureRatio, FlowMapKind::Boost}) {
     FlowMapInput input = UsualMap(kind);

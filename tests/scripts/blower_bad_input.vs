@@ -86,6 +86,10 @@ set Form14.Text8 0
 click Form14.Command11
 click Form14.Command10
 get Form14.Text13
+set Form14.Text13 9750
+click Form14.Command12
+get Form14.Text11
+set Form14.Text11 40
 set Form14.Text8 6500
 set Form14.Text13 0
 click Form14.Command12

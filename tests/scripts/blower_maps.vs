@@ -79,6 +79,13 @@ set Form14.Text32 0
 set Form14.Text33 1000
 click Form14.Command20
 plot
+pause boost that the last step takes beyond the pressure ratio of 3
+choose Form14.Option1(0)
+set Form14.Text25 1
+set Form14.Text33 3000
+click Form14.Command3
+plot
+set Form14.Text33 1000
 pause old and new power
 click Form14.Command1
 plot

@@ -281,4 +281,9 @@ get Form14.Text24
 click Form14.Command18
 get Form14.Text26
 uncheck Form14.Check2
+pause a cc is 0.061023744 cubic inches
+set Form14.Text7 5354
+uncheck Form14.Check1
+value Cubic Inches
+get Form14.Text7
 messages

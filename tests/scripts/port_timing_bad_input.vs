@@ -95,6 +95,14 @@ set Form18.Text50 99999
 click Form18.Command14
 messages
 set Form18.Text50 1
+pause the piston has its area whatever the ratio is
+set Form18.Text1 2
+set Form18.Text37 half
+click Form18.Command15
+get Form18.Text35
+get Form18.Text36
+messages
+set Form18.Text1 4
 pause no squish band, no closing
 set Form18.Text37 0
 click Form18.Command17

@@ -45,6 +45,8 @@ class TestHost : public Host {
   std::filesystem::path folder;
   ClockTime now{2024, 5, 17, 14, 3, 9};
   ScreenSize screen{1366, 768, 96};
+  std::filesystem::path settingsFile;  ///< empty: nothing is kept
+  int handbooks = 0;                   ///< how often the handbook was shown
   /// What a print job is drawn on; a job that nobody prepared fails the test.
   std::unique_ptr<PageSurface> printer;
   std::optional<PageJob> printJob;  ///< how the last job used the paper
@@ -71,6 +73,8 @@ class TestHost : public Host {
   DecimalMark SystemDecimalMark() override { return decimalMark; }
   std::filesystem::path ProgramFolder() override { return folder; }
   ScreenSize MeasureScreen() override { return screen; }
+  std::filesystem::path SettingsFile() override { return settingsFile; }
+  void ShowHandbook() override { ++handbooks; }
   std::unique_ptr<PageSurface> OpenPrinter(PageJob job) override {
     printJob = job;
     if (printer != nullptr) return std::move(printer);

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QScrollArea>
+#include <cctype>
+#include <map>
 
 #include "airfuel/blower_screen.h"
 #include "tests/ui/window_test.h"
@@ -28,6 +30,19 @@ TEST_F(BlowerWindowTest, FitsTheSmallestScreen) {
     if (!area->isVisible()) continue;
     EXPECT_GE(area->viewport()->width(), area->widget()->minimumSizeHint().width());
   }
+}
+
+TEST_F(BlowerWindowTest, NoTwoCommandsHaveTheSameKey) {
+  std::map<char, std::string> taken;
+  for (const Control* control : form.ReadingOrder()) {
+    if (control->kind() != ControlKind::Command) continue;
+    const std::size_t at = control->caption().find('&');
+    if (at == std::string::npos) continue;
+    const char key = static_cast<char>(std::toupper(control->caption().at(at + 1)));
+    const auto [other, isFree] = taken.emplace(key, control->caption());
+    EXPECT_TRUE(isFree) << control->caption() << " and " << other->second;
+  }
+  EXPECT_GE(taken.size(), 20U);
 }
 
 TEST_F(BlowerWindowTest, ATableTakesAColumnFromASpreadsheet) {

@@ -47,7 +47,8 @@ class SampleTest : public WindowTest {
   }
 
   S screen{program->context()};
-  ScreenWindow window{screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; }};
+  ScreenWindow window{screen, [](Screen&, QWidget*) -> QWidget* { return nullptr; },
+                      AppearanceOf(shell().block()), shell().scaling()};
 };
 
 class TableWindowTest : public SampleTest<FlowBench> {

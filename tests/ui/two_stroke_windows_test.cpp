@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 #include <QPdfWriter>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "graph/drawing.h"
 #include "tests/ui/window_test.h"
@@ -67,6 +69,54 @@ TEST_F(ExhaustWindowTest, DiametersHaveRoomForTheirCircumference) {
   auto& cell = Child<QLineEdit>(window, "D3");
   const int wide = cell.fontMetrics().horizontalAdvance(cell.text());
   EXPECT_LT(wide, cell.width() - cell.textMargins().right());
+}
+
+class PortTimingWindowTest : public WindowTest {
+ protected:
+  PortTimingWindowTest() : window(Open("SRKVAL")) {}
+
+  /// Where a frame stands in the window.
+  QRect Place(const char* frame) {
+    QWidget& panel = Child(window, frame);
+    return {panel.mapTo(&window, QPoint()), panel.size()};
+  }
+
+  QWidget& window;
+};
+
+TEST_F(PortTimingWindowTest, StandsOnTheSmallestScreenWithoutScrolling) {
+  EXPECT_LE(window.width(), kScreenWidth);
+  EXPECT_LE(window.height(), kScreenHeight);
+  for (const QScrollArea* area : window.findChildren<QScrollArea*>()) {
+    if (!area->isVisible()) continue;
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+  }
+}
+
+TEST_F(PortTimingWindowTest, BlowdownAndSquishStandSideBySideBelowThePorts) {
+  const QRect ports = Place("Frame2");
+  const QRect blowdown = Place("Frame3");
+  const QRect band = Place("Frame5");
+  const QRect velocity = Place("Frame6");
+  EXPECT_GT(blowdown.top(), ports.bottom());
+  EXPECT_EQ(blowdown.top(), velocity.top());
+  EXPECT_GT(band.top(), blowdown.bottom());
+  EXPECT_EQ(blowdown.left(), ports.left());
+  EXPECT_GT(velocity.left(), blowdown.right());
+  EXPECT_EQ(velocity.right(), ports.right());
+  EXPECT_EQ(FromQt(Child(window, "Text37").accessibleName()), "Squish Ratio");
+}
+
+TEST_F(PortTimingWindowTest, HelpGoesWithThePointerFromAFrameOfARow) {
+  auto& help = Model<Label>("Form18.Label7");
+  EnterWidget(Child(window, "Command7"));
+  Settle();
+  EXPECT_TRUE(help.caption().starts_with("Calculate Blowdown Degrees"));
+  QWidget* row = Child(window, "Frame3").parentWidget()->parentWidget();
+  Mouse(*row, QEvent::MouseMove);
+  Settle();
+  EXPECT_EQ(help.caption(), "");
 }
 
 }  // namespace
