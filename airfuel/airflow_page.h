@@ -132,7 +132,8 @@ class AirflowPage : public ScreenPart {
                Entry(KeyRule::UnsignedReal, Unit::CubicFeetPerMinute, Holds(&P::IntakeFlow),
                      LeaveCheck::HasDigits)};
   Field Text20{Frame6, "Text20", "Exhaust Flow", "210.0",
-               Entry(KeyRule::UnsignedReal, Unit::CubicFeetPerMinute, Holds(&P::ExhaustFlow))};
+               Entry(KeyRule::UnsignedReal, Unit::CubicFeetPerMinute, Holds(&P::ExhaustFlow),
+                     LeaveCheck::HasDigits)};
   Field Text21{Frame6, "Text21", "Intake Exhaust Ratio", ".7",
                Entry(KeyRule::UnsignedReal, Holds(&P::IntakeExhaustRatio), LeaveCheck::HasDigits)};
   Field Text27{Frame6, "Text27", "RPM Max HP", "6500",

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "airfuel/airflow_page.h"
+#include "airfuel/choke_panel.h"
+#include "airfuel/exhaust_panel.h"
 #include "airfuel/flow_panel.h"
 #include "airfuel/fuel_panel.h"
 #include "airfuel/injector_panel.h"
@@ -34,10 +36,12 @@ class Form4 : public Screen {
                     Opens(&Form4::Injectors)};
   Command Command39{PanelsFrame, "Command39", "Valve Mach Sizing",
                     "Show Valve / Mach - Sizing Data Form.", Opens(&Form4::Mach)};
-  Command Command43{PanelsFrame, "Command43", "Exhaust / Header", "Show Exhaust/Header Form."};
+  Command Command43{PanelsFrame, "Command43", "Exhaust / Header", "Show Exhaust/Header Form.",
+                    Opens(&Form4::Exhaust)};
   Command Command48{PanelsFrame, "Command48", "Port Time Area",
                     "Show Analyze Port Time Area Form."};
-  Command Command55{PanelsFrame, "Command55", "Port Flow / CSA", "Show Port Flow / CSA Form."};
+  Command Command55{PanelsFrame, "Command55", "Port Flow / CSA", "Show Port Flow / CSA Form.",
+                    Opens(&Form4::Choke)};
   Command Command50{PanelsFrame, "Command50(0)", "Valve Sizing",
                     "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
                     Opens(&Form4::Valves)};
@@ -52,6 +56,8 @@ class Form4 : public Screen {
   MachPanel Mach{*this, Page, grapher_};
   FlowPanel Flow{*this, Valves, Mach, grapher_};
   PortPanel Ports{*this};
+  ExhaustPanel Exhaust{*this, Page};
+  ChokePanel Choke{*this, Page, Valves, Mach, Flow, grapher_};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   ReportBox Text78{HelpFrame, "Text78"};

@@ -10,20 +10,6 @@ namespace veldox {
 
 namespace {
 
-/// The limit of an axis that holds a value, with round numbers at ten lines of a grid.
-double RoundedUp(double value) {
-  if (!(value > 0)) return 1;
-  constexpr std::array<double, 11> kLimits = {1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8, 10};
-  constexpr double kDigits = 1 - 1e-12;  // what a limit may be off by the last digits
-  const int exponent = static_cast<int>(std::floor(std::log10(value)));
-  // Whole powers are exact, their fractions are not.
-  const double power = std::pow(10, std::abs(exponent));
-  const auto scaled = [&](double limit) { return exponent < 0 ? limit / power : limit * power; };
-  const auto found =
-      std::ranges::find_if(kLimits, [&](double limit) { return scaled(limit) >= value * kDigits; });
-  return found == kLimits.end() ? scaled(kLimits.back()) : scaled(*found);
-}
-
 /// What a port's curve is called.
 struct CurveTitles {
   std::string_view added;  ///< without the pen, as a further curve has it
@@ -68,6 +54,19 @@ double ValueOf(FlowCurve curve, const FlowPort& port, const FlowPoint& point, do
 
 }  // namespace
 
+double AxisLimit(double value) {
+  if (!(value > 0)) return 1;
+  constexpr std::array<double, 11> kLimits = {1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8, 10};
+  constexpr double kDigits = 1 - 1e-12;  // what a limit may be off by the last digits
+  const int exponent = static_cast<int>(std::floor(std::log10(value)));
+  // Whole powers are exact, their fractions are not.
+  const double power = std::pow(10, std::abs(exponent));
+  const auto scaled = [&](double limit) { return exponent < 0 ? limit / power : limit * power; };
+  const auto found =
+      std::ranges::find_if(kLimits, [&](double limit) { return scaled(limit) >= value * kDigits; });
+  return found == kLimits.end() ? scaled(kLimits.back()) : scaled(*found);
+}
+
 FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values) {
   FlowPlot plot;
   double largestLift = 0, highest = 0;
@@ -89,7 +88,7 @@ FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values) {
   };
   if (graph.hasIntake) add(true, values.intake, values.intakeFlow);
   if (graph.hasExhaust) add(false, values.exhaust, values.exhaustFlow);
-  plot.frame.range = {0, RoundedUp(largestLift), 0, RoundedUp(highest)};
+  plot.frame.range = {0, AxisLimit(largestLift), 0, AxisLimit(highest)};
   plot.frame.xPointer = "<--- Lift";
   plot.frame.xName = "Lift";
   plot.frame.yPointer = PointerOf(graph.curve);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "airfuel/airflow.h"
+#include "airfuel/report_table.h"
 #include "core/report.h"
 #include "core/units.h"
 
@@ -26,37 +27,6 @@ constexpr std::string_view kIntakeStepHeads =
     " Lift      CFM  Increase   Throat    Valve  Curtain     MCSA  Ratio   mm    M^3/s    Area    "
     "fps     CFM";
 
-/// A row of a table: each number ends under the end of a head, and what is too long for its
-/// column moves only what follows it at once.
-class TableRow {
- public:
-  TableRow(std::string_view text, DecimalMark mark) : text_(text), mark_(mark) {}
-
-  void EndAt(std::size_t end, const std::string& cell) {
-    if (!text_.empty()) text_ += ' ';
-    if (text_.size() + cell.size() < end) text_.append(end - cell.size() - text_.size(), ' ');
-    text_ += cell;
-  }
-  template <PatternText Pattern>
-  void EndAt(std::size_t end, double value) {
-    EndAt(end, FormatValue<Pattern>(value, mark_));
-  }
-  const std::string& text() const { return text_; }
-
- private:
-  std::string text_;
-  DecimalMark mark_;
-};
-
-/// Where the heads of a line end.
-std::vector<std::size_t> EndsOf(std::string_view heads) {
-  std::vector<std::size_t> ends;
-  for (std::size_t i = 0; i < heads.size(); ++i) {
-    if (heads[i] != ' ' && (i + 1 == heads.size() || heads[i + 1] == ' ')) ends.push_back(i + 1);
-  }
-  return ends;
-}
-
 /// Sums of columns over the rows of a table.
 class Averages {
  public:
@@ -74,13 +44,6 @@ class Averages {
 };
 
 constexpr std::string_view kAverage = "Avg";
-
-void AddPair(ReportWriter& report, const std::string& left, const std::string& right) {
-  constexpr int kLeftWidth = 43;
-  report.LeftCellText = left;
-  report.PadTextCell(kLeftWidth);
-  report.Add(right).EndLine();
-}
 
 void AddHeader(ReportWriter& report, const FlowReportValues& values, DecimalMark mark) {
   const auto number = [mark](double value) { return FormatValue<"0.0#####">(value, mark); };

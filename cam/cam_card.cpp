@@ -42,11 +42,15 @@ class CardReader {
     card.exhaustValveLift = Value("The exhaust valve lift");
     Skip(2);
     ReadTiming(card);
+    card.complete = true;
     if (!hasOwn050) return;
     while (lines_.Next()) {
       if (!lines_.line().starts_with(kAt050)) continue;
-      card.caption = Trim(lines_.line());
-      ReadTiming(card);
+      // Events of two standards are no timing: those of a block that is cut short are left out.
+      CamCard at050 = card;
+      at050.caption = Trim(lines_.line());
+      ReadTiming(at050);
+      card = at050;
       return;
     }
     throw lines_.Refusal(

@@ -13,10 +13,12 @@ namespace veldox {
 inline constexpr const char* kNoCamInformation = "NO Cam Infomation Found!!!";
 
 /// A camshaft's specification card (*.cam, *.dyn, *.dym, *.cqu). Lifts are in the unit of the
-/// file, timing is in degrees. A card that is cut short has what stands before the cut.
+/// file, timing is in degrees. A card that is cut short has what stands before the cut; timing at
+/// 0.050 replaces the first timing as a whole or not at all.
 struct CamCard {
-  bool found = false;   ///< a lift standard was found
-  std::string caption;  ///< standard and type of the cam, "---" when nothing was found
+  bool found = false;     ///< a lift standard was found
+  bool complete = false;  ///< lifts and timing behind that standard are all there
+  std::string caption;    ///< standard and type of the cam, "---" when nothing was found
   std::optional<double> intakeValveLift;
   std::optional<double> exhaustValveLift;
   std::optional<double> intakeOpen;    ///< BTDC

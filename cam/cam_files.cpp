@@ -1,5 +1,8 @@
 #include "cam/cam_files.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "core/files.h"
 
 namespace veldox {
@@ -8,7 +11,6 @@ namespace {
 
 constexpr const char* kLiftFilter =
     "Cam Lift Files (*.cmm)|*.cmm|Cam Doctor (*.Cx)|*.c?|All Files (*.*)|*.*";
-constexpr double kMmPerInch = 25.4;
 
 }  // namespace
 
@@ -20,11 +22,11 @@ std::optional<LiftFile> CamFiles::ReadCamLiftFile(const Screen& asker) {
     Tell(kNoIntakeLift, Icon::Warning);
     return std::nullopt;
   }
-  StoreLifts(*file, title, block());
+  StoreTables(*file, title, asker.metric());
   block().CurrentFileName = PathText(path);
   // A file for a screen that shows millimetres is in millimetres.
   const auto inInches = [&](std::optional<double> lash) {
-    if (lash && asker.metric()) *lash /= kMmPerInch;
+    if (lash && asker.metric()) *lash /= kMillimetresPerInch;
     return lash;
   };
   for (LashTaker* taker : takers_) {
@@ -33,6 +35,25 @@ std::optional<LiftFile> CamFiles::ReadCamLiftFile(const Screen& asker) {
   if (file->hasBadRow) Tell(kInvalidRow, Icon::Warning);
   TellCount(file->linesRead, kRecordsRead);
   return file;
+}
+
+void CamFiles::StoreTables(const LiftFile& file, const std::string& title, bool areMillimetres) {
+  StoreLifts(file, title, block());
+  tablesAreMillimetres_ = areMillimetres;
+}
+
+void CamFiles::ConvertTables(bool toMillimetres) {
+  if (tablesAreMillimetres_ == toMillimetres) return;
+  ParameterBlock& b = block();
+  for (LiftColumn* table :
+       {&b.IntakeCamLift, &b.IntakeValveLift, &b.ExhaustCamLift, &b.ExhaustValveLift}) {
+    for (double& lift : *table) {
+      // A lift beyond all cams must not become an infinity, which nothing can show.
+      constexpr double kLargest = std::numeric_limits<double>::max();
+      lift = std::clamp(kLengthRule.Convert(lift, toMillimetres), -kLargest, kLargest);
+    }
+  }
+  tablesAreMillimetres_ = toMillimetres;
 }
 
 }  // namespace veldox

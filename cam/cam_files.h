@@ -37,8 +37,14 @@ class CamFiles : public FileDialogs {
   ///         were
   /// @throws CommandError (Cancelled, File)
   std::optional<LiftFile> ReadCamLiftFile(const Screen& asker);
+  /// Puts lifts into the shared tables, by StoreLifts.
+  /// @throws CommandError (IndexOutOfRange, Overflow) with the tables as they were
+  void StoreTables(const LiftFile& file, const std::string& title, bool areMillimetres);
+  /// Converts the lifts in the shared tables, unless they are in these units already.
+  void ConvertTables(bool toMillimetres);
 
  private:
+  bool tablesAreMillimetres_ = false;
   std::vector<LashTaker*> takers_;
 };
 

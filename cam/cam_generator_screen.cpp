@@ -58,8 +58,8 @@ bool IsBlank(const std::string& text) {
 
 }  // namespace
 
-Form33::Form33(ProgramContext& context)
-    : Screen(context, "Form33", "Cam File Generator", "Gen_Cam_File") {
+Form33::Form33(ProgramContext& context, CamFiles& files)
+    : Screen(context, "Form33", "Cam File Generator", "Gen_Cam_File"), files_(files) {
   std::vector<std::string> degrees;
   for (int degree = kLowestDegree; degree <= kHighestDegree; ++degree) {
     degrees.push_back(std::to_string(degree));
@@ -253,21 +253,25 @@ void Form33::GenerateRamp(const std::string& kind, const RampMaker& makeRamp) {
 
 // ---------------------------------------------------------------- cam reports
 
-double Form33::ReadEvent(Field& field) {
-  if (!IsBlank(field.text())) Read(field);
-  return ReadCell(field);
+std::optional<ValveEvents> Form33::ReadEvents(Field& open, Field& close) {
+  const ValveEvents events{ReadCell(open), ReadCell(close)};
+  const bool areBlank = IsBlank(open.text()) && IsBlank(close.text());
+  if (areBlank || (NumberIn(open) && NumberIn(close))) return events;
+  return std::nullopt;
 }
 
 std::vector<DurationRow> Form33::ReadRows(FlankSource source) {
   std::vector<DurationRow> rows;
   for (int i = 0; i < kReportRows; ++i) {
     DurationRow row{ReadCell(Text58[i]), ReadCell(Text59[i]), {}, {}};
-    if (source != FlankSource::Duration) {
-      row.events = {ReadEvent(Text60[i]), ReadEvent(Text61[i])};
-    }
-    if (source == FlankSource::TwoEvents) {
-      row.closing = {ReadEvent(Text62[i]), ReadEvent(Text63[i])};
-    }
+    const auto read = [&](ValveEvents& events, Field& open, Field& close) {
+      const std::optional<ValveEvents> cells = ReadEvents(open, close);
+      events = cells.value_or(ValveEvents{});
+      // A row with half of its events does not count.
+      if (!cells) row.lift = kNoNumber;
+    };
+    if (source != FlankSource::Duration) read(row.events, Text60[i], Text61[i]);
+    if (source == FlankSource::TwoEvents) read(row.closing, Text62[i], Text63[i]);
     rows.push_back(row);
   }
   return rows;
@@ -306,8 +310,9 @@ std::string Form33::CommentsOf(const FittedCurve& curve) const {
   std::string comments;
   for (std::size_t power = 0; power < curve.coefficients.size(); ++power) {
     if (!std::isfinite(curve.coefficients[power])) continue;
-    comments += CommentLine(";  (X ^ " + std::to_string(power) + " * " +
-                            FormatShortest(curve.coefficients[power]) + ')');
+    std::string value = FormatShortest(curve.coefficients[power]);
+    if (mark() == DecimalMark::Comma) std::ranges::replace(value, '.', ',');
+    comments += CommentLine(";  (X ^ " + std::to_string(power) + " * " + value + ')');
   }
   return comments;
 }
@@ -433,13 +438,16 @@ void Form33::ClearDurations() {
 
 void Form33::SolveDurations() {
   std::array<std::optional<double>, kReportRows> durations;
+  std::vector<int> ignored;
   for (int i = 0; i < kReportRows; ++i) {
-    const ValveEvents events{ReadEvent(Text60[i]), ReadEvent(Text61[i])};
-    if (!events.given()) continue;
-    Require(events.duration() > 0, Text61[i],
+    const std::optional<ValveEvents> events = ReadEvents(Text60[i], Text61[i]);
+    if (!events) ignored.push_back(i);
+    if (!events || !events->given()) continue;
+    Require(events->duration() > 0, Text61[i],
             "comes before the valve opens: Open and Close leave no Duration.");
-    durations[static_cast<std::size_t>(i)] = events.duration();
+    durations[static_cast<std::size_t>(i)] = events->duration();
   }
+  TellIgnoredRows(ignored);
   for (int i = 0; i < kReportRows; ++i) {
     const std::optional<double>& duration = durations[static_cast<std::size_t>(i)];
     if (duration) Store(Text59[i], *duration);
@@ -576,7 +584,9 @@ void Form33::Edited(const Control& control) {
 
 void Form33::StoreTable(bool exhaust) {
   if (lobe_.lifts.empty()) Stop("There is no lobe yet. Please generate one first.");
-  ParameterBlock& b = block();
+  // The other side stays, in the inches of the new one.
+  files_.ConvertTables(false);
+  const ParameterBlock& b = block();
   const auto side = [](const LiftColumn& column, std::int16_t count, double step) {
     LiftSide held;
     if (count > 0) held.lifts.assign(column.begin(), column.begin() + count + 1);
@@ -595,7 +605,7 @@ void Form33::StoreTable(bool exhaust) {
   taken.lifts.push_back(0);
   taken.step = lobeStep_;
   if (!exhaust) file.step = lobeStep_;
-  StoreLifts(file, "Cam Lift Curve Generator", b);
+  files_.StoreTables(file, "Cam Lift Curve Generator", false);
 }
 
 void Form33::StoreIntakeTable() {

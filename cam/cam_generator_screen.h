@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "cam/cam_files.h"
 #include "cam/curve_fit.h"
 #include "cam/duration_table.h"
 #include "cam/lift_curve.h"
@@ -19,7 +20,8 @@ namespace veldox {
 /// a duration and a lift, or by a curve through the durations of a cam report.
 class Form33 : public Screen {
  public:
-  explicit Form33(ProgramContext& context);
+  /// @param files  what keeps the lift tables
+  Form33(ProgramContext& context, CamFiles& files);
 
   CheckBox* MetricBox() override { return &Check1; }
   Control* HelpPlace() override { return &Text38; }
@@ -95,8 +97,9 @@ class Form33 : public Screen {
   void GenerateRamp(const std::string& kind, const RampMaker& makeRamp);
 
   void GenerateFromTable(FlankSource source);
-  /// The same for degrees that may be negative. @throws CommandError (NotANumber)
-  double ReadEvent(Field& field);
+  /// The events of a row, both 0 where both cells are blank. Nothing where only one of them is, or
+  /// where one is no number.
+  std::optional<ValveEvents> ReadEvents(Field& open, Field& close);
   std::vector<DurationRow> ReadRows(FlankSource source);
   void TellIgnoredRows(const std::vector<int>& rows);
   FittedCurve Fit(const std::vector<CurvePoint>& points);
@@ -124,6 +127,7 @@ class Form33 : public Screen {
   void JudgeVelocity();
   void StoreTable(bool exhaust);
 
+  CamFiles& files_;
   LiftCurve lobe_;       ///< the last one generated; empty for none
   double lobeStep_ = 0;  ///< degrees
   bool lobeIsMetric_ = false;

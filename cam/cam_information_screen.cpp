@@ -45,6 +45,10 @@ void Form2::CopyFromBlock() {
   ShowFigures();
 }
 
+void Form2::Closed() {
+  MatchTables();
+}
+
 void Form2::Edited(const Control& control) {
   if (&control == &Text18) Text27.SetText(Text18.text());
 }
@@ -197,13 +201,16 @@ void Form2::ReadCamCard() {
   show(Text2, card.intakeClose);
   show(Text3, card.exhaustOpen);
   show(Text4, card.exhaustClose);
-  if (card.fault) throw CommandError(*card.fault);
-  if (!card.found) {
+  if (!card.found && !card.fault) {
     files_.Tell(kNoCamInformation, Icon::Warning);
     return;
   }
-  SolveLobes();
-  SolveCamLift();
+  if (card.complete) {
+    SolveLobes();
+    SolveCamLift();
+  }
+  // A card without the timing at 0.050 that was asked for still is a card.
+  if (card.fault) throw CommandError(*card.fault);
 }
 
 // ---------------------------------------------------------------- lift files
@@ -230,6 +237,7 @@ bool Form2::ReadLiftFile() {
 
 LiftAnalysis Form2::ReadAnalysis() {
   ReadFields({&Text14, &Text23, &Text22, &Text24, &Text17});
+  MatchTables();
   const ParameterBlock& b = block();
   const Side side = ChosenSide();
   const bool isIntake = side == Side::Intake;
@@ -310,6 +318,7 @@ void Form2::ReportLift(bool ofValve) {
 // ---------------------------------------------------------------- lobes in figures
 
 void Form2::ShowFigures() {
+  MatchTables();
   std::string text;
   if (!block().CamFileTitle.empty()) text = block().CamFileTitle + "\r\n";
   for (const Side side : {Side::Intake, Side::Exhaust}) {

@@ -26,6 +26,7 @@ class Form2 : public Screen, public LashTaker {
   Control* HelpPlace() override { return &Text38; }
   ReportBox* ReportPane() override { return &Text38; }
   void CopyFromBlock() override;
+  void Closed() override;
   void Edited(const Control& control) override;
   void TakeLashes(std::optional<double> intake, std::optional<double> exhaust) override;
 
@@ -70,6 +71,8 @@ class Form2 : public Screen, public LashTaker {
   void AddToGraph(const LiftGraphInput& input);
   LiftGraph ChosenGraph() const { return static_cast<LiftGraph>(Option2.chosen()); }
   void ReportLift(bool ofValve);
+  /// Brings the lift tables into the units of the screen, before anything is made of them.
+  void MatchTables() { files_.ConvertTables(metric()); }
   void ShowFigures();
   std::string FiguresText(Side side) const;
 

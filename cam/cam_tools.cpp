@@ -135,6 +135,8 @@ void CamTools::ConvertCxFile() {
   context().HandOver(nullptr);
   const std::optional<LiftFile> file = files_.ReadCamLiftFile(shell_);
   if (!file) return;
+  // A screen that shows millimetres has been told of the file, which is written as it was read.
+  files_.ConvertTables(false);
   const std::int16_t count = block().IntakeLiftCount;
   const std::string text =
       CmmText({CommentsOf(*file), FormatInt(kConvertedStep, mark()),
@@ -176,7 +178,7 @@ void CamTools::ConvertS96File() {
     file.exhaust = std::move(exhaust.side);
     linesRead += exhaust.linesRead;
   }
-  StoreLifts(file, PathText(intakePath.filename()), block());
+  files_.StoreTables(file, PathText(intakePath.filename()), false);
   block().CurrentFileName = PathText(intakePath);
   SaveConverted(CmmText({"", FormatInt(kConvertedStep, mark()),
                          UpTo(block().IntakeCamLift, block().IntakeLiftCount),

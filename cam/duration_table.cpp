@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <limits>
 #include <optional>
-#include <utility>
 
 namespace veldox {
 
@@ -39,8 +38,8 @@ class DurationParter {
   DurationParter(FlankSource source, double closingDuration)
       : source_(source), closingDuration_(closingDuration) {}
 
-  RowHalves Part(const DurationRow& row) {
-    const bool isFirst = std::exchange(isFirst_, false);
+  /// @param isFirst  the row has the duration at no lift
+  RowHalves Part(const DurationRow& row, bool isFirst) {
     const double half = row.duration / 2;
     if (source_ == FlankSource::Duration) return {half, half};
     const double shift = shift_.Of(row.events) / 2;
@@ -54,7 +53,6 @@ class DurationParter {
  private:
   FlankSource source_;
   double closingDuration_;
-  bool isFirst_ = true;
   MiddleShift shift_;
   MiddleShift closingShift_;
 };
@@ -70,7 +68,7 @@ LobePoints PointsOfLobe(std::span<const DurationRow> rows, double top, FlankSour
     const DurationRow& row = rows[i];
     if (row.duration == 0) continue;
     const bool rises = row.lift > previous;
-    const RowHalves halves = rises ? parter.Part(row) : RowHalves{};
+    const RowHalves halves = rises ? parter.Part(row, i == 0) : RowHalves{};
     if (!halves.areThere()) {
       points.ignored.push_back(static_cast<int>(i));
       continue;

@@ -43,6 +43,15 @@ std::optional<std::vector<double>> RowOf(const std::vector<std::string_view>& fi
   return row;
 }
 
+/// A heading has texts in all of the columns; where one holds a number, a row was meant.
+bool HoldsANumber(const std::vector<std::string_view>& fields, std::span<const int> columns,
+                  DecimalMark mark) {
+  return std::ranges::any_of(columns, [&](int column) {
+    return column >= 1 && static_cast<std::size_t>(column) <= fields.size() &&
+           IsNumber(fields[static_cast<std::size_t>(column) - 1], mark);
+  });
+}
+
 std::string ListOf(std::span<const int> columns) {
   std::string list;
   for (const int column : columns) {
@@ -63,7 +72,11 @@ DelimitedRows ParseDelimited(std::string_view text, const std::string& fileName,
   while (lines.Next()) {
     if (lines.line().starts_with(';')) continue;
     Split(lines.line(), delimiter, fields);
-    if (auto row = RowOf(fields, columns, mark)) file.rows.push_back(*std::move(row));
+    if (auto row = RowOf(fields, columns, mark)) {
+      file.rows.push_back(*std::move(row));
+    } else if (HoldsANumber(fields, columns, mark)) {
+      ++file.incomplete;
+    }
   }
   file.linesRead = lines.number();
   if (file.rows.empty()) {

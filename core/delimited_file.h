@@ -13,6 +13,7 @@ namespace veldox {
 struct DelimitedRows {
   std::vector<std::vector<double>> rows;  ///< in the order of the columns asked for
   int linesRead = 0;
+  int incomplete = 0;  ///< lines with a number in some of the columns, but not in all
 };
 
 /// Takes the lines in which all of the columns hold numbers; headings, comments and blank lines

@@ -158,7 +158,11 @@ ReversedScript ReverseAxes(std::string_view text, const std::string& fileName) {
   AxisReverser reverser(YNameOf(text, fileName));
   LineReader lines(text, fileName);
   while (lines.Next()) reverser.Take(lines);
-  return {std::move(reverser).text(), lines.number()};
+  ReversedScript script{std::move(reverser).text(), lines.number()};
+  if (script.text.empty()) {
+    throw CommandError(ErrorKind::File, "The file holds no line of a graph.\r\n" + lines.File());
+  }
+  return script;
 }
 
 }  // namespace veldox

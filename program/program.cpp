@@ -54,7 +54,7 @@ Program::Program(Host& host)
   AddScreen<Form4>(static_cast<Grapher&>(*grapher_));
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
-  AddScreen<Form33>();
+  AddScreen<Form33>(*camFiles_);
   auto& elapsedTime = AddScreen<Form3>();
   auto& gear = AddScreen<Form5>();
   auto& gearboxFinder = AddScreen<Form19>();

@@ -45,6 +45,8 @@ Form11::Basis Form11::ReadChamberFields() {
     ReadFields({&Text15});
   }
   ReadFields({&Text26, &Text28, &Text29});
+  Require(b.ExhaustPortWidth * b.ExhaustPortHeight >= 0, b.ExhaustPortWidth < 0 ? Text3 : Text4,
+          "must not be negative: a pipe on this port has no diameter.");
   const double header = HeaderDiameter(b.ExhaustPortWidth, b.ExhaustPortHeight);
   if (Check3.on()) {
     Require(b.ExhaustGasTemp >= kAbsoluteZero, Text15, "must not be below -273.15.");

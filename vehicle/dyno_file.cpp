@@ -93,6 +93,10 @@ PowerLines PowerLinesOf(std::span<const std::vector<double>> rows, PowerRecord r
     }
     result.text += "\r\n";
   }
+  if (result.lines == 0) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "No row of the file has an RPM above 0. Check the field numbers.");
+  }
   return result;
 }
 

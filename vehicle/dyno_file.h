@@ -41,7 +41,8 @@ struct PowerLines {
 
 /// Writes rows as the torque table of a parameter file has them. The table rises with the RPM:
 /// rows that do not are left out.
-/// @throws CommandError (InvalidArgument) for more rows than the table takes
+/// @throws CommandError (InvalidArgument) for more rows than the table takes, and where no row is
+///         left
 PowerLines PowerLinesOf(std::span<const std::vector<double>> rows, PowerRecord record,
                         DecimalMark mark);
 

@@ -46,25 +46,25 @@ DelimitedRows FileTools::ReadDelimited(std::span<const int> columns) const {
 void FileTools::CheckT() {
   const auto& c = panel_.columns();
   const DelimitedRows file = ReadDelimited(std::array{c.x, c.y});
-  SavePower(file.rows, PowerRecord::Torque, file.linesRead);
+  SavePower(file, PowerRecord::Torque);
 }
 
 void FileTools::CheckT_All() {
   const auto& c = panel_.columns();
   const DelimitedRows file = ReadDelimited(std::array{c.x, c.y, c.fuel, c.bsfc, c.airFuel});
-  SavePower(file.rows, PowerRecord::Torque, file.linesRead);
+  SavePower(file, PowerRecord::Torque);
 }
 
 void FileTools::CheckH() {
   const auto& c = panel_.columns();
   const DelimitedRows file = ReadDelimited(std::array{c.x, c.y});
-  SavePower(file.rows, PowerRecord::Horsepower, file.linesRead);
+  SavePower(file, PowerRecord::Horsepower);
 }
 
 void FileTools::CheckVELDOX() {
   const auto& c = panel_.columns();
   const DelimitedRows file = ReadDelimited(std::array{c.x, c.y});
-  Save(GraphScriptOf(file.rows, mark()), file.linesRead);
+  Save(GraphScriptOf(file.rows, mark()), file.linesRead, IncompleteNote(file));
 }
 
 void FileTools::CheckAxis() {
@@ -78,16 +78,22 @@ void FileTools::ReadDynoPowerFile() {
   const std::filesystem::path path = AskFile(FileDialog::Kind::Open, kDynoFilter);
   const auto file = ParseDynoPower(TextOf(path), PathText(path.filename()), mark());
   if (!file) return Tell(kNoHorsePower, Icon::Warning);
-  SavePower(file->rows, PowerRecord::Horsepower, file->linesRead);
+  SavePower({file->rows, file->linesRead}, PowerRecord::Horsepower);
 }
 
-void FileTools::SavePower(std::span<const std::vector<double>> rows, PowerRecord record,
-                          int linesRead) const {
-  const PowerLines power = PowerLinesOf(rows, record, mark());
-  Save(power.text, linesRead,
-       power.left == 0
-           ? ""
-           : "\r\nRows left out, since their RPM does not rise: " + FormatInt(power.left, mark()));
+std::string FileTools::IncompleteNote(const DelimitedRows& file) const {
+  if (file.incomplete == 0) return {};
+  return "\r\nLines passed over, since not all of their fields hold numbers: " +
+         FormatInt(file.incomplete, mark());
+}
+
+void FileTools::SavePower(const DelimitedRows& file, PowerRecord record) const {
+  const PowerLines power = PowerLinesOf(file.rows, record, mark());
+  std::string note = IncompleteNote(file);
+  if (power.left > 0) {
+    note += "\r\nRows left out, since their RPM does not rise: " + FormatInt(power.left, mark());
+  }
+  Save(power.text, file.linesRead, note);
 }
 
 void FileTools::Save(const std::string& text, int linesRead, const std::string& note) const {

@@ -32,8 +32,9 @@ class FileTools : public FileDialogs {
   void ReadDynoPowerFile();
 
   /// Saves rows as lines of a parameter file.
-  void SavePower(std::span<const std::vector<double>> rows, PowerRecord record,
-                 int linesRead) const;
+  void SavePower(const DelimitedRows& file, PowerRecord record) const;
+  /// What is told of rows that could not be taken.
+  std::string IncompleteNote(const DelimitedRows& file) const;
   void Save(const std::string& text, int linesRead, const std::string& note = {}) const;
 
   DelimitedColumnsPanel& panel_;

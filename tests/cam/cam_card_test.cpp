@@ -61,8 +61,28 @@ TEST(CamCard, TimingAt050ReplacesTheFirst) {
   EXPECT_EQ(seat.intakeOpen, 31);
   // Other cards have one block.
   EXPECT_EQ(ParseCamCard(Card(3), "a.cam", true, kPoint).intakeOpen, 31);
-  EXPECT_THAT(ParseCamCard(Card(5), "a.dym", true, kPoint).fault->message(),
-              HasSubstr("no timing at 0.050"));
+}
+
+TEST(CamCard, WithoutTimingAt050KeepsTheFirst) {
+  const std::string first = Card(5, "Seat-To-Seat");
+  const std::string block = "more\n0.050-Inch timing\n";
+  const auto reason = [](const CamCard& card) { return card.fault ? card.fault->message() : ""; };
+  const CamCard none = ParseCamCard(first, "a.dym", true, kPoint);
+  EXPECT_THAT(reason(none), HasSubstr("no timing at 0.050"));
+  const CamCard cut = ParseCamCard(first + block + " 5\n 45\n 50\n", "a.cqu", true, kPoint);
+  EXPECT_THAT(reason(cut), HasSubstr("The exhaust closing is missing"));
+  const CamCard word = ParseCamCard(first + block + " 5\n 45\n late\n -2\n", "a.cqu", true, kPoint);
+  EXPECT_THAT(reason(word), HasSubstr("The exhaust opening holds"));
+  for (const CamCard& card : {none, cut, word}) {
+    EXPECT_TRUE(card.complete);
+    EXPECT_EQ(card.caption, "Seat-To - Roller Street");
+    EXPECT_EQ(card.intakeOpen, 31);
+    EXPECT_EQ(card.intakeClose, 71.5);
+    EXPECT_EQ(card.exhaustOpen, 76);
+    EXPECT_EQ(card.exhaustClose, 30);
+  }
+  // A first timing that is cut short is none to calculate with.
+  EXPECT_FALSE(ParseCamCard(first.substr(0, first.find(" 76")), "a.cqu", true, kPoint).complete);
 }
 
 TEST(CamCard, OneCutShortKeepsWhatWasRead) {

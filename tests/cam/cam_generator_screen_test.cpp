@@ -17,6 +17,7 @@ namespace {
 using testing::Each;
 using testing::Eq;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 class Form33Test : public testing::Test {
@@ -180,6 +181,60 @@ TEST_F(Form33Test, ADecimalCommaIsWrittenAndRead) {
   ASSERT_TRUE(file.has_value());
   EXPECT_EQ(file->step, 2);
   EXPECT_EQ(file->intake.lifts[76], 0.36);
+  // The straight line from the nose to 150 degrees falls by .36 / 150 = .0024 a degree.
+  s.Combo1.Choose(0);
+  host.AnswerFile(folder_ / "poly.cmm");
+  ASSERT_TRUE(s.Generate.Click());
+  const std::string start = ";  (X ^ 1 * ";
+  const std::string text = s.Text38.text();
+  ASSERT_THAT(text, HasSubstr(start));
+  const std::size_t from = text.find(start) + start.size();
+  const std::string slope = text.substr(from, text.find(')', from) - from);
+  EXPECT_THAT(slope, Not(HasSubstr(".")));
+  EXPECT_NEAR(ParseNumber(slope, DecimalMark::Comma), -0.0024, 1e-12);
+}
+
+TEST_F(Form33Test, ARowWithHalfOfItsEventsIsTold) {
+  Form33& s = screen();
+  for (int row = 1; row < 24; ++row) s.Text58[row].SetText("");
+  const auto setRow = [&s](int row, const char* lift, const char* open, const char* close) {
+    s.Text58[row].SetText(lift);
+    s.Text60[row].SetText(open);
+    s.Text61[row].SetText(close);
+  };
+  setRow(0, ".000", "44", "76");
+  setRow(1, ".05", "20", "");
+  setRow(2, ".1", "-1", "33");
+  setRow(3, ".2", "soon", "3");
+  setRow(4, ".25", "", "");
+  for (int row = 5; row < 24; ++row) setRow(row, "", "", "");
+  s.Text59[1].SetText("150");
+  s.Text59[4].SetText("100");
+  host_.Answer(Button::OK);
+  EXPECT_TRUE(s.Command26.Click());
+  ASSERT_EQ(host_.messages.size(), 1U);
+  EXPECT_EQ(host_.messages[0].text,
+            "Invalid Data -->.05 - 150 -- Data Ignored\r\nInvalid Data -->.2 - 0 -- Data Ignored");
+  EXPECT_EQ(s.Text59[0].text(), "300.0");
+  EXPECT_EQ(s.Text59[1].text(), "150");
+  EXPECT_EQ(s.Text59[2].text(), "212.0");
+  EXPECT_EQ(s.Text59[3].text(), "0");
+  EXPECT_EQ(s.Text59[4].text(), "100");
+  // Row 3 has no duration, so that there is nothing to leave out of the lobe.
+  host_.Answer(Button::OK);
+  FileOf(s.Generate_OC);
+  ASSERT_EQ(host_.messages.size(), 2U);
+  EXPECT_EQ(host_.messages[1].text, "Invalid Data -->.05 - 150 -- Data Ignored");
+  EXPECT_THAT(s.Text38.text(),
+              StartsWith(";  0.0 - 300.0\r\n;  0.1 - 212.0\r\n;  0.25 - 100.0\r\n"));
+  // The second pair counts only for a flank of its own.
+  s.Check2.Click();
+  s.Text62[2].SetText("x");
+  s.Text59[1].SetText("0");
+  host_.Answer(Button::OK);
+  FileOf(s.Generate_OC);
+  EXPECT_THAT(host_.messages.back().text, HasSubstr("Invalid Data -->.1 - 212.0 -- Data Ignored"));
+  EXPECT_THAT(s.Text38.text(), StartsWith(";  0.0 - 300.0\r\n;  0.25 - 100.0\r\n"));
 }
 
 }  // namespace

@@ -213,5 +213,37 @@ TEST_F(FileToolsTest, AFailedReadLeavesTheTables) {
   }
 }
 
+TEST_F(FileToolsTest, RowsWithoutRisingRpmAreRefusedBeforeAFileIsAskedFor) {
+  Write("torque.prm", "Acceleration = 1000.0 100.0\r\n");
+  Choose("CheckT");
+  Set("Main.Text11", ",");
+  Set("Main.Text13", "1");
+  Set("Main.Text12", "2");
+  Write("rows.csv", "-1,-2\n-3,-4.5\n0,0\n");
+  host_.AnswerFile(folder_ / "rows.csv");
+  host_.Answer(Button::OK);
+  Click("Main.Command14");
+  EXPECT_THAT(host_.messages.back().text, HasSubstr("No row of the file has an RPM above 0"));
+  EXPECT_EQ(Load("torque.prm"), "Acceleration = 1000.0 100.0\r\n");
+}
+
+TEST_F(FileToolsTest, RowsThatLackANumberAreCounted) {
+  Choose("CheckT");
+  Set("Main.Text11", ",");
+  Set("Main.Text13", "1");
+  Set("Main.Text12", "2");
+  EXPECT_EQ(ConvertedFields("CheckT", "RPM,Torque\n4000,210\n4500,,200\n5000,abc\n5500,190\n"),
+            "Acceleration = 4000.0 210.0\r\nAcceleration = 5500.0 190.0\r\n");
+  EXPECT_THAT(host_.messages.back().text, HasSubstr("not all of their fields hold numbers: 2"));
+}
+
+TEST_F(FileToolsTest, AnEmptyFileHasNoAxesToTurn) {
+  Write("empty.prm", "");
+  host_.AnswerFile(folder_ / "empty.prm");
+  host_.Answer(Button::OK);
+  Choose("CheckAxis");
+  EXPECT_THAT(host_.messages.back().text, HasSubstr("holds no line of a graph"));
+}
+
 }  // namespace
 }  // namespace veldox

@@ -15,12 +15,16 @@ set Form4.Text1 3.2.7
 click Form4.Command8
 messages
 get Form4.Text1
-pause an empty field that a command does not read does not stop it
+pause so does one that only commands of a panel read
 set Form4.Text1 327
 set Form4.Text20 
 click Form4.Command99
 get Form4.Text10
 get Form4.Text20
+messages
+set Form4.Text20 210.0
+click Form4.Command99
+get Form4.Text10
 messages
 pause no cylinders: nothing is shown
 set Form4.Text29 0

@@ -164,9 +164,39 @@ set Form33.Text60(2) -100
 set Form33.Text61(2) -80
 click Form33.Command26
 messages
+pause a row with half of its events is told and left out, one without events is not given
 set Form33.Text60(2) 1-2
+set Form33.Text61(3) 
+set Form33.Text60(4) 
+set Form33.Text61(4) 
+set Form33.Text59(4) 200
+set Form33.Text60(5) -1
 click Form33.Command26
 messages
+get Form33.Text59(1)
+get Form33.Text59(2)
+get Form33.Text59(3)
+get Form33.Text59(4)
+get Form33.Text59(5)
+set Form33.Text59(3) 250
+file events.cmm
+click Form33.Generate_OC
+messages
+show Form33.Text38
+check Form33.Check2
+set Form33.Text62(4) 
+file events.cmm
+click Form33.Generate_OC
+messages
+uncheck Form33.Check2
+set Form33.Text59(3) 0
+set Form33.Text59(4) 0
+set Form33.Text59(5) 0
+set Form33.Text61(3) 0
+set Form33.Text60(4) 0
+set Form33.Text61(4) 0
+set Form33.Text62(4) 0
+set Form33.Text60(5) 0
 set Form33.Text60(2) 20
 set Form33.Text61(2) 60
 click Form33.Command26

@@ -8,6 +8,10 @@ set Form33.Text5 .9
 set Form33.Text1 .0081
 set Form33.Text62(1) -3.25
 set Form33.Text63(23) 4
+check Form33.Check2
+check Form33.Check3
+choose Form33.Option1(4)
+choose Form33.Option2(2)
 file cam.prm
 menu Write
 messages
@@ -21,6 +25,10 @@ set Form33.Text20 1
 set Form33.Text5 2
 set Form33.Text1 3
 set Form33.Text58(1) 
+uncheck Form33.Check2
+uncheck Form33.Check3
+choose Form33.Option1(1)
+choose Form33.Option2(1)
 file cam.prm
 answer No
 menu Read
@@ -40,6 +48,14 @@ get Form33.Text20
 get Form33.Text21
 get Form33.Text5
 get Form33.Text1
+get Form33.Check2
+get Form33.Check3
+get Form33.Option1
+get Form33.Option2
+value Asymmetrical
+value Output S96
+value Lash Ramp Option
+value Generation Method Option
 value Tappet Bucket Diameter
 value M E Ratio
 value Asymmetrical Zero Durat

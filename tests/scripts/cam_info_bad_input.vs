@@ -153,6 +153,17 @@ click Form2.Read
 get Form2.Label1(15)
 get Form2.Text1
 get Form2.Text4
+pause the first timing of such a card is calculated with, 30 + 66 + 180 = 276 degrees
+get Form2.Text6
+file cam_info/card_short050.cqu
+click Form2.Read
+get Form2.Label1(15)
+get Form2.Text1
+get Form2.Text2
+get Form2.Text3
+get Form2.Text4
+get Form2.Text6
+get Form2.Text12
 set Form2.Text14 
 uncheck Form2.Check2
 file cam_info/card.cam
