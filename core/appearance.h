@@ -16,7 +16,7 @@ inline constexpr ColorCode kLargestColor = 0xFFFFFF;
 inline constexpr ColorCode kBlack = 1;
 /// The sizes of letters that can be shown, in points. 0 says that none was chosen.
 inline constexpr int kSmallestFontSize = 6;
-inline constexpr int kLargestFontSize = 36;
+inline constexpr int kLargestFontSize = 32;
 /// Below this contrast a text is hard to read (WCAG 2.1, success criterion 1.4.3).
 inline constexpr double kReadableContrast = 4.5;
 

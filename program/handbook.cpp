@@ -210,8 +210,8 @@ void WriteMenu(Shell& shell, std::string_view parent, int depth, std::string& te
         item.kind == MenuKind::PrintScreen || (!shell.MenuEnabled(item) && item.name != "Recent")) {
       continue;
     }
-    text += std::string(static_cast<std::size_t>(depth) * 2, ' ') + "- " +
-            Plain(Caption(item.caption)) + "\n";
+    text += std::string(static_cast<std::size_t>(depth) * 2, ' ') + "- \"" +
+            Plain(Caption(item.caption)) + "\"\n";
     if (item.kind == MenuKind::Submenu) WriteMenu(shell, item.name, depth + 1, text);
   }
 }

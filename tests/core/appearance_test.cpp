@@ -48,7 +48,7 @@ TEST(Appearance, ShowsTheNearestOfWhatCannotBe) {
   block.OptionCheckBoxStyle = 3;
   block.EntryBoxFontBold = -1;
   const Appearance look = AppearanceOf(block);
-  EXPECT_EQ(look.entry.size, 36);
+  EXPECT_EQ(look.entry.size, 32);
   EXPECT_EQ(look.label.size, 6);
   EXPECT_EQ(look.command.size, 0);
   EXPECT_EQ(look.help.size, 6);

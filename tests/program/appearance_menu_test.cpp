@@ -98,8 +98,8 @@ TEST_F(AppearanceTest, ACancelledDialogChangesNothing) {
 TEST_F(AppearanceTest, AFontOfNoPossibleSizeIsTheNearestAndIsTold) {
   host_.AnswerFont(FontChoice{"Sans", 500, false, false});
   Choose("EntryFont");
-  EXPECT_EQ(block().EntryBoxFontSize, 36);
-  EXPECT_EQ(Help(), "Letters can be from 6 to 36 points high: these now have 36.");
+  EXPECT_EQ(block().EntryBoxFontSize, 32);
+  EXPECT_EQ(Help(), "Letters can be from 6 to 32 points high: these now have 32.");
   host_.AnswerFont(FontChoice{"Sans", 12, false, false});
   Choose("EntryFont");
   EXPECT_EQ(Help(), "");
@@ -245,7 +245,7 @@ TEST_F(AppearanceTest, WhatAFileCannotMeanIsToldAndTheNearestTaken) {
     std::int64_t held;
     std::function<std::int64_t()> value;
   } cases[] = {
-      {"Entry Box Font Size = 500", 36, [&] { return block().EntryBoxFontSize; }},
+      {"Entry Box Font Size = 500", 32, [&] { return block().EntryBoxFontSize; }},
       {"Label Box Font Size = 2", 6, [&] { return block().LabelBoxFontSize; }},
       {"Help Box Font Size = -1", 6, [&] { return block().HelpBoxFontSize; }},
       {"Label Box Color = 99999999999", 16777215, [&] { return block().LabelBoxColor; }},

@@ -197,7 +197,7 @@ TEST_F(AppearanceWindowTest, AReportTakesTheHelpLettersAndStaysInColumns) {
 }
 
 TEST_F(AppearanceWindowTest, TheLargestLettersLeaveEveryWindowOnTheScreen) {
-  for (const char* item : {"EntryFont", "LabelFont", "CommandFont", "Fonts"}) ChooseFont(item, 36);
+  for (const char* item : {"EntryFont", "LabelFont", "CommandFont", "Fonts"}) ChooseFont(item, 32);
   for (const MenuItem& item : Shell::Menu()) {
     if (item.kind != MenuKind::Screen || !shell().MenuEnabled(item)) continue;
     QWidget& window = Open(std::string(item.name).c_str());
