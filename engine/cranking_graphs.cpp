@@ -7,8 +7,8 @@
 #include <functional>
 #include <string_view>
 
-#include "engine/displacement.h"
 #include "core/step_bound.h"
+#include "engine/displacement.h"
 
 namespace veldox {
 

@@ -5,9 +5,9 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
+#include "core/step_bound.h"
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "core/step_bound.h"
 #include "reference/weather.h"
 
 namespace veldox {

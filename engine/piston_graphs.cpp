@@ -6,9 +6,9 @@
 #include <cstddef>
 #include <functional>
 
+#include "core/step_bound.h"
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "core/step_bound.h"
 
 namespace veldox {
 

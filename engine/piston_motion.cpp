@@ -4,8 +4,8 @@
 
 #include "core/error.h"
 #include "core/numbers.h"
-#include "core/units.h"
 #include "core/step_bound.h"
+#include "core/units.h"
 
 namespace veldox {
 

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "core/report.h"
+#include "core/step_bound.h"
 #include "core/units.h"
 #include "engine/displacement.h"
-#include "core/step_bound.h"
 
 namespace veldox {
 

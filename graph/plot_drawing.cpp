@@ -179,6 +179,14 @@ void YLabels(const Drawing& d, const AxisRange& range, DecimalMark mark) {
   }
 }
 
+/// The letters of a title, smaller where it would not find room over the middle of the graph.
+double TitleFontFor(const Drawing& d, const std::string& title, double middle) {
+  const double font = TitleFont(d.font);
+  const double room = 2 * std::min(middle, d.surface.Width() - middle);
+  const double width = d.surface.TextWidth(title, font);
+  return width <= room ? font : font * room / width;
+}
+
 void Captions(const Drawing& d) {
   const PlotEngine& engine = d.engine;
   const double under = d.frame.bottom() + 2 * kLabelLine * d.lineHeight;
@@ -198,7 +206,8 @@ void Captions(const Drawing& d) {
   if (d.block.GraphHeads != 0) {
     double top = (kLabelLine - 1) * d.lineHeight;
     for (const std::string& title : engine.Titles()) {
-      d.surface.DrawText({middle, top}, title, TitleFont(d.font), d.colors.text, TextAlign::Center);
+      d.surface.DrawText({middle, top}, title, TitleFontFor(d, title, middle), d.colors.text,
+                         TextAlign::Center);
       top += kLabelLine * d.surface.TextHeight(TitleFont(d.font));
     }
     d.surface.DrawText({d.surface.Width(), d.frame.top - kLabelLine * d.lineHeight}, " ->", d.font,

@@ -47,3 +47,14 @@ rows Form21.Combo1
 picture Form21 veldox-engine-finder.png
 select Form21.Combo1 350 | 4.00 3.48 5.7 8
 get Form1.Text6
+pause
+pause Two camshafts: the lift of their valves on one graph
+menu CAM_INFO
+choose Form2.Option2(1)
+file street_hydraulic.cmm
+click Form2.Command11
+file drag_solid_roller.cmm
+click Form2.Command15
+messages
+picture Form2 veldox-camshaft.png
+picture Form8 veldox-valve-lifts.png

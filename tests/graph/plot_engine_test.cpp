@@ -384,6 +384,21 @@ TEST_F(PlotEngineTest, TitlesShowWhileGraphHeadsAreOn) {
   EXPECT_NE(with.Find(" ->"), nullptr);
 }
 
+TEST_F(PlotEngineTest, ALongTitleIsWrittenSmallerAndNeverCutOff) {
+  plot_.SetScale({0, 1, 0, 1});
+  plot_.DrawAxes();
+  const std::string title(120, 'x');
+  plot_.SetCaption(kTitleCaption, title);
+  block_.GraphHeads = 1;
+  RecordingSurface surface(600, 600);
+  plot_.DrawOn(surface, {});
+  const auto* text = surface.Find(title);
+  ASSERT_NE(text, nullptr);
+  const double half = surface.TextWidth(title, text->size) / 2;
+  EXPECT_GE(text->at.x - half, -1e-9);
+  EXPECT_LE(text->at.x + half, 600 + 1e-9);
+}
+
 TEST_F(PlotEngineTest, ARedrawAtAnotherSizeIsTheSameGraph) {
   plot_.SetScale({0, 10, 0, 10});
   plot_.DrawGrid();

@@ -26,6 +26,7 @@ class RecordingSurface : public Surface {
     SurfacePoint at;
     std::string text;
     TextAlign align;
+    double size;
   };
   std::vector<Line> lines;
   std::vector<Polyline> polylines;
@@ -48,8 +49,9 @@ class RecordingSurface : public Surface {
   void DrawPolyline(std::span<const SurfacePoint> points, const Pen& pen) override {
     polylines.push_back({{points.begin(), points.end()}, pen});
   }
-  void DrawText(SurfacePoint at, std::string_view text, double, Color, TextAlign align) override {
-    texts.push_back({at, std::string(text), align});
+  void DrawText(SurfacePoint at, std::string_view text, double size, Color,
+                TextAlign align) override {
+    texts.push_back({at, std::string(text), align, size});
   }
   double TextWidth(std::string_view text, double size) const override {
     return 0.5 * size * static_cast<double>(text.size());
