@@ -127,7 +127,7 @@ TEST_F(PortalTest, ADarkDesktopMakesWindowsDarkAndChangesWithIt) {
   const PortalThread desktop(bus, 1);
   ThemeFollower theme;
   theme.FollowDesktop(bus.Connect("program"));
-  EXPECT_TRUE(WindowsAreDark());
+  EXPECT_TRUE(WaitFor([] { return WindowsAreDark(); }));
   Settle();  // the program runs
   desktop.Announce("org.freedesktop.appearance", "color-scheme", 2);
   EXPECT_TRUE(WaitFor([] { return !WindowsAreDark(); }));
@@ -152,7 +152,7 @@ TEST_F(PortalTest, AChoiceOverridesTheDesktop) {
   theme.Choose(LookChoice::Dark);
   EXPECT_TRUE(WindowsAreDark());
   theme.Choose(LookChoice::Desktop);
-  EXPECT_TRUE(WindowsAreDark());
+  EXPECT_TRUE(WaitFor([] { return WindowsAreDark(); }));
 }
 
 TEST_F(PortalTest, ADesktopWithoutAPortalIsLight) {
