@@ -199,13 +199,10 @@ class GridWriter : public ReportWriter {
     });
   }
 
-  /// The empty line behind a block; behind the last one the report ends with it.
-  void EndBlock(bool isLast) {
-    if (!isLast) EndLine(LineMark::Bold);
-  }
+  /// The empty line behind a block.
+  void EndBlock() { EndLine(LineMark::Bold); }
 
-  /// The report. Its last line is the empty one behind the line break, so that every line above
-  /// keeps its mark.
+  /// The report. It ends in a line break, so that every line keeps its mark.
   std::string Whole() { return std::move(ReportLine); }
 
  private:
@@ -249,13 +246,13 @@ std::string AirFuelReport(const MassAirValues& values, const MassAirLayout& layo
       DivisorsOf(values.airFuelRatio, grid.airFuel, ReportAxis::AirFuel);
   GridWriter report(values, layout);
   report.Add("BSFC = ").Add<"0.00000">(values.bsfc).EndLine(LineMark::Bold);
-  for (const double& rpm : speeds) {
+  for (const double rpm : speeds) {
     report.BlockOfSpeed(rpm);
     report.AirFuelColumnHeader(ratios);
     report.Rows(rpm, [&](double air) {
       for (const double ratio : ratios) report.Add<".000">(air / ratio, 9);
     });
-    report.EndBlock(&rpm == &speeds.back());
+    report.EndBlock();
   }
   return report.Whole();
 }
@@ -268,11 +265,11 @@ std::string BsfcReport(const MassAirValues& values, const MassAirLayout& layout)
   const std::vector<double> bsfcs = DivisorsOf(values.bsfc, grid.bsfc, ReportAxis::Bsfc);
   GridWriter report(values, layout);
   report.Add("Air / Fuel Ratio = ").Add<"0.00000">(values.lambdaOrRatio).EndLine(LineMark::Bold);
-  for (const double& rpm : speeds) {
+  for (const double rpm : speeds) {
     report.BlockOfSpeed(rpm);
     report.BsfcColumnHeader(bsfcs);
     report.HorsepowerRows(rpm, values.airFuelRatio, bsfcs);
-    report.EndBlock(&rpm == &speeds.back());
+    report.EndBlock();
   }
   return report.Whole();
 }
@@ -286,11 +283,11 @@ std::string SpeedReport(const MassAirValues& values, const MassAirLayout& layout
   const std::vector<double> bsfcs = DivisorsOf(values.bsfc, grid.bsfc, ReportAxis::Bsfc);
   GridWriter report(values, layout);
   report.Add("RPM = ").Add<"0">(values.rpm).EndLine(LineMark::Bold);
-  for (const double& ratio : ratios) {
+  for (const double ratio : ratios) {
     report.Add<".000">(ratio, 5).Add(" - Air / Fuel Ratio").EndLine(LineMark::Bold);
     report.BsfcColumnHeader(bsfcs);
     report.HorsepowerRows(values.rpm, ratio, bsfcs);
-    report.EndBlock(&ratio == &ratios.back());
+    report.EndBlock();
   }
   return report.Whole();
 }

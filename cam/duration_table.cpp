@@ -16,12 +16,14 @@ class MiddleShift {
   double Of(const ValveEvents& events) {
     if (!events.given()) return 0;
     const double difference = events.close - events.open;
-    if (!first_) first_ = difference;
-    return difference - *first_;
+    if (!hasFirst_) first_ = difference;
+    hasFirst_ = true;
+    return difference - first_;
   }
 
  private:
-  std::optional<double> first_;
+  bool hasFirst_ = false;
+  double first_ = 0;  ///< degrees
 };
 
 /// How far from the nose the flanks have a row's lift.

@@ -66,8 +66,10 @@ TEST(ReportGrids, HaveAsManyRowsAndColumnsAsTheirHeads) {
     EXPECT_EQ(Numbers(fuel.at(kFirstRow)).size(), large ? 10U : 8U) << option;
     EXPECT_EQ(Numbers(power.at(kFirstRow)).size(), large ? 13U : 9U) << option;
     const std::size_t rows = option == 2 || option == 3 || option == 5 ? 11 : 21;
-    EXPECT_EQ(fuel.size(), kFirstRow + rows + 1) << option;
-    EXPECT_EQ(power.size(), kFirstRow + rows + 1) << option;
+    // Behind the rows an empty line, and what stands behind its line break.
+    EXPECT_EQ(fuel.size(), kFirstRow + rows + 2) << option;
+    EXPECT_EQ(power.size(), kFirstRow + rows + 2) << option;
+    EXPECT_EQ(fuel.at(kFirstRow + rows), "");
     // The rows and columns go as far below the value as above it.
     EXPECT_NEAR(Numbers(fuel.at(kFirstRow + rows / 2)).front(), 0.9, 1e-9);
     EXPECT_EQ(fuel.at(6).find("\\|/"), large ? 57U : 48U);
