@@ -124,10 +124,11 @@ std::vector<std::string> FormulaNotes::Of(const std::string& form,
     if (calls == calls_.end()) continue;
     for (const std::string& name : calls->second) {
       const auto note = notes_.find(name);
+      std::string routine = form;
+      routine.append("::").append(name);
       if (note != notes_.end() && seen.insert(name).second) notes.push_back(note->second);
-      if (note == notes_.end() && calls_.contains(form + "::" + name) &&
-          calls->second.size() <= 2) {
-        routines.push_back(form + "::" + name);
+      if (note == notes_.end() && calls_.contains(routine) && calls->second.size() <= 2) {
+        routines.push_back(std::move(routine));
       }
     }
   }

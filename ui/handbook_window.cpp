@@ -29,7 +29,7 @@ QString FindHandbook(const QString& programFolder) {
   const QDir folder(programFolder);
   for (const char* place : {"../share/veldox/handbook/handbook.md", "../docs/handbook.md",
                             "../../docs/handbook.md", "../../../docs/handbook.md"}) {
-    const QString file = QDir::cleanPath(folder.filePath(QLatin1String(place)));
+    QString file = QDir::cleanPath(folder.filePath(QLatin1String(place)));
     if (QFileInfo::exists(file)) return file;
   }
   return {};
