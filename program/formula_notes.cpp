@@ -69,15 +69,20 @@ std::string Words(const std::string& comment) {
 void FormulaNotes::AddHeader(std::string_view text) {
   std::istringstream stream{std::string(text)};
   std::string comment;
+  bool isOpen = false;  // the last line was one of the comment
   static const std::regex kFunction(R"(^[A-Za-z_][\w:<>,&* ]*[&* ]([A-Z]\w*)\()");
   for (std::string line; std::getline(stream, line);) {
     if (line.starts_with("/// ")) {
+      if (!isOpen) comment.clear();
+      isOpen = true;
       if (!comment.empty()) comment += ' ';
       comment += line.substr(4);
       continue;
     }
+    isOpen = false;
     std::smatch found;
-    // Functions that follow each other without a blank line share what stands over them.
+    // Functions that follow each other without a blank line share what stands over the first,
+    // where they have no words of their own.
     if (line.empty()) comment.clear();
     if (comment.empty() || !std::regex_search(line, found, kFunction)) continue;
     const std::string words = Words(comment);

@@ -42,6 +42,7 @@ std::string Caption(std::string_view caption) {
 std::string Units(const Field& field) {
   const std::string us(UnitSign(field.unit(), false));
   const std::string metric(UnitSign(field.unit(), true));
+  if (field.screen().metric()) return metric;  // a screen that knows no inches
   return us == metric || metric.empty() ? us : us + " / " + metric;
 }
 
@@ -126,7 +127,7 @@ class ScreenPages {
     }
     others += ", " + std::to_string(table.rows()) + " rows:";
     for (int column = 0; column < table.columns(); ++column) {
-      const std::string unit(UnitSign(table.column(column).unit, false));
+      const std::string unit(UnitSign(table.column(column).unit, table.screen().metric()));
       others += (column == 0 ? " " : ", ") + Plain(Caption(table.Head(column)));
       if (!unit.empty()) others += " (" + Plain(unit) + ")";
     }

@@ -90,6 +90,21 @@ TEST_F(HandbookTest, TellsFieldsCommandsAndFormulas) {
   EXPECT_THAT(book, HasSubstr("- **Stroke**: Calculate Stroke needed from"));
 }
 
+TEST(FormulaNotesTest, AFunctionWithWordsOfItsOwnTakesNoneOfTheOneAboveIt) {
+  FormulaNotes notes;
+  notes.AddHeader(
+      "/// The rate.\ndouble Rate(double d);\n/// The wire.\ndouble Wire(double k);\n"
+      "double Coils(double k);\n");
+  notes.AddRoutines("\nvoid Form1::Solve() {\n  Show(Rate(1), Wire(2), Coils(3));\n}\n");
+  notes.AddDeclarations("Command Command1{Frame1, \"Command1\", \"&X\", \"help\", &Form1::Solve};");
+  EXPECT_THAT(notes.Of("Form1", "Command1"), ElementsAre("The rate.", "The wire.", "The wire."));
+}
+
+TEST_F(HandbookTest, AScreenThatKnowsNoInchesTellsMetricUnitsAlone) {
+  const std::string book = ComposeHandbook(program_.shell(), {}, FormulaNotes());
+  EXPECT_THAT(book, HasSubstr("| Bore | mm | number | 39.5 |\n"));
+}
+
 TEST(Introductions, StandUnderTheNamesOfTheirForms) {
   const Introductions written = ParseIntroductions(
       "Of this file.\n\n## Form1\n\nOne.\n\nTwo.\r\n\n## Form2\n\n## Form3\nThree.\n");
