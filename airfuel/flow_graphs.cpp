@@ -56,6 +56,7 @@ double ValueOf(FlowCurve curve, const FlowPort& port, const FlowPoint& point, do
 
 double AxisLimit(double value) {
   if (!(value > 0)) return 1;
+  if (!std::isfinite(value)) return value;  // the plot refuses it
   constexpr std::array<double, 11> kLimits = {1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8, 10};
   constexpr double kDigits = 1 - 1e-12;  // what a limit may be off by the last digits
   const int exponent = static_cast<int>(std::floor(std::log10(value)));
