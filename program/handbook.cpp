@@ -40,10 +40,11 @@ std::string Caption(std::string_view caption) {
 }
 
 std::string Units(const Field& field) {
-  const std::string us(UnitSign(field.unit(), false));
-  const std::string metric(UnitSign(field.unit(), true));
-  if (field.screen().metric()) return metric;  // a screen that knows no inches
-  return us == metric || metric.empty() ? us : us + " / " + metric;
+  const std::string_view us = UnitSign(field.unit(), false);
+  const std::string_view metric = UnitSign(field.unit(), true);
+  if (field.screen().metric()) return std::string(metric);  // a screen that knows no inches
+  if (us == metric || metric.empty()) return std::string(us);
+  return std::string(us) + " / " + std::string(metric);
 }
 
 /// What may be entered.
