@@ -701,11 +701,22 @@ Control& WithinReach(Control& control) {
   return control;
 }
 
-/// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
-/// could type there.
+/// Shows the page that a control stands on.
+void OpenPageOf(const Control& control) {
+  for (ScreenPage* page : control.screen().pages()) {
+    if (page->visible()) continue;
+    for (const Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {
+      if (frame == page) page->Open();
+    }
+  }
+}
+
+/// Marks what is at fault and gives it the keyboard, on whatever page it stands; not where a panel
+/// lies over it, for nobody could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
   Control& place = WithinReach(control);
+  if (!place.Reachable()) OpenPageOf(place);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }
 

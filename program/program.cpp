@@ -6,6 +6,7 @@
 #include "cam/cam_files.h"
 #include "cam/cam_generator_screen.h"
 #include "cam/cam_information_screen.h"
+#include "chassis/corner_weights_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
@@ -45,6 +46,7 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form6>();
   AddScreen<Form11>();
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
