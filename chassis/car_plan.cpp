@@ -6,16 +6,18 @@ namespace veldox {
 
 namespace {
 
-constexpr double kLength = 100;
+constexpr double kLength = 150;
 constexpr double kWidth = 40;
 // Of the wheels: where their centers stand, and how long and wide they are.
-constexpr double kFrontAxle = 19;
-constexpr double kRearAxle = 79;
+constexpr double kFrontAxle = 29;
+constexpr double kRearAxle = 119;
 constexpr double kWheelLength = 15;
 constexpr double kWheelWidth = 7;
 constexpr double kBodyInset = 3;
 constexpr double kNose = 6;
+constexpr double kCenterMark = 3;
 // Below the car, in lines of text.
+constexpr double kHalfLine = 0.5;
 constexpr double kNameBelow = 0.25;
 constexpr double kNameAbove = -1.3;
 constexpr double kBarTop = 1.9;
@@ -24,7 +26,7 @@ constexpr double kBarStroke = 0.1;
 constexpr double kHalfMark = 0.25;
 constexpr double kBarName = 2.95;
 constexpr double kLinesBelow = 4.2;
-constexpr double kHalf = 50;
+constexpr double kHalf = kLength / 2;
 
 class Plan {
  public:
@@ -70,7 +72,7 @@ void DrawBody(Plan& plan) {
 void DrawBar(Plan& plan, double percent) {
   plan.Box({0, kWidth, kBarTop}, {kLength, kWidth, kBarBottom}, SketchStroke::Seam);
   for (double line = kBarTop; line <= kBarBottom; line += kBarStroke) {
-    plan.Line({0, kWidth, line}, {percent, kWidth, line}, SketchStroke::Outline);
+    plan.Line({0, kWidth, line}, {percent / 100 * kLength, kWidth, line}, SketchStroke::Outline);
   }
   plan.Line({kHalf, kWidth, kBarTop - kHalfMark}, {kHalf, kWidth, kBarBottom + kHalfMark},
             SketchStroke::Outline);
@@ -105,10 +107,10 @@ Sketch SketchOf(const Corners& weights, DecimalMark mark) {
   plan.Line({kFrontAxle, left}, {kRearAxle, right}, SketchStroke::Axis);
   const double x = kFrontAxle + (kRearAxle - kFrontAxle) * (weights.Rear() / sum);
   const double y = right + (left - right) * (weights.Left() / sum);
-  plan.Line({x - 3, y}, {x + 3, y}, SketchStroke::Outline);
-  plan.Line({x, y - 3}, {x, y + 3}, SketchStroke::Outline);
-  plan.Name({x + 6, y, -0.5}, "CG");
-  plan.Name({kNose + 1, kWidth / 2, -0.5}, "Front");
+  plan.Line({x - kCenterMark, y}, {x + kCenterMark, y}, SketchStroke::Outline);
+  plan.Line({x, y - kCenterMark}, {x, y + kCenterMark}, SketchStroke::Outline);
+  plan.Name({x, y + kCenterMark, kNameBelow}, "CG");
+  plan.Name({2 * kNose, kWidth / 2, -kHalfLine}, "Front");
   const double cross = weights.Cross() / sum * 100;
   DrawBar(plan, cross);
   plan.Name({kHalf, kWidth, kBarName},

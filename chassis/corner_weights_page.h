@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chassis/corner_fields.h"
+#include "core/frame_row.h"
 #include "core/panel.h"
 #include "graph/drawing.h"
 
@@ -34,7 +35,7 @@ class CornerWeightsPage : public ChassisPart {
   ScreenPage& page_;
 
  public:
-  Frame WeightFrame{page_, "WeightFrame", "Weights and Percentages", 0};
+  Frame WeightFrame{page_, "WeightFrame", "Corners", 0};
   Field Text9{WeightFrame,
               "Text9",
               "Car Weight",
@@ -60,88 +61,11 @@ class CornerWeightsPage : public ChassisPart {
       {Holds(&P::PercentWeightLeftFront), Holds(&P::PercentWeightRightFront),
        Holds(&P::PercentWeightLeftRear), Holds(&P::PercentWeightRightRear)},
       "Share of the Car Weight: the button Weight works with it. The four add up to 100."};
-  Field Text10{WeightFrame,
-               "Text10",
-               "Weight Front",
-               "1245.5",
-               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightFront)),
-               "Both front tires, the car level."};
-  Field Text11{WeightFrame,
-               "Text11",
-               "Weight Rear",
-               "1104.5",
-               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightRear)),
-               "Both rear tires, the car level."};
-  Field Text12{WeightFrame,
-               "Text12",
-               "Weight Left",
-               "1198.5",
-               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightLeft)),
-               "Both left tires."};
-  Field Text13{WeightFrame,
-               "Text13",
-               "Weight Right",
-               "1151.5",
-               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightRight)),
-               "Both right tires."};
-  Field Text18{WeightFrame,
-               "Text18",
-               "Cross Weight",
-               "1175",
-               Entry(KeyRule::OutputOnly, Unit::Weight, Holds(&P::CrossWeight)),
-               "Right front and left rear tires together."};
-  Field Text14{WeightFrame,
-               "Text14",
-               "Percent Front",
-               "53",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightFront)),
-               "Share of the Car Weight on the front tires."};
-  Field Text15{WeightFrame,
-               "Text15",
-               "Percent Rear",
-               "47",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightRear)),
-               "Share of the Car Weight on the rear tires, as it is or as the buttons Weight and "
-               "Place Ballast are to have it."};
-  Field Text16{WeightFrame,
-               "Text16",
-               "Percent Left",
-               "51",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightLeft)),
-               "Share of the Car Weight on the left tires, as it is or as it is to be."};
-  Field Text17{WeightFrame,
-               "Text17",
-               "Percent Right",
-               "49",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightRight)),
-               "Share of the Car Weight on the right tires, as it is or as Place Ballast is to "
-               "have it."};
-  Field Text19{WeightFrame,
-               "Text19",
-               "Percent Cross Weight",
-               "50",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentCrossWeight)),
-               "Share of the Car Weight on the right front and left rear tires, as it is or as it "
-               "is to be."};
-  Field Text128{WeightFrame,
-                "Text128",
-                "Percent Opposite",
-                "50",
-                Entry(KeyRule::OutputOnly, Unit::Percent),
-                "What the other diagonal has: left front and right rear tires."};
-  Table WeightTable{
-      WeightFrame,
-      "WeightTable",
-      "Weights and Percentages",
-      {{"Weight",
-        {&Weights.leftFront, &Weights.rightFront, &Weights.leftRear, &Weights.rightRear, &Text10,
-         &Text11, &Text12, &Text13, &Text18, nullptr}},
-       {"Percent",
-        {&Percents.leftFront, &Percents.rightFront, &Percents.leftRear, &Percents.rightRear,
-         &Text14, &Text15, &Text16, &Text17, &Text19, &Text128}}},
-      {"On",
-       {"Left Front", "Right Front", "Left Rear", "Right Rear", "Front", "Rear", "Left", "Right",
-        "Cross (RF + LR)", "Opposite (LF + RR)"}}};
+  Table WeightTable{WeightFrame,
+                    "WeightTable",
+                    "Corners",
+                    {Weights.Column("Weight"), Percents.Column("Percent")},
+                    CornerRows()};
   Command Command6{
       WeightFrame, "Command6", "&Weight",
       "From corner percentages and vehicle weight -- Calculate all other percentages and weights.",
@@ -149,7 +73,85 @@ class CornerWeightsPage : public ChassisPart {
   Command Command7{WeightFrame, "Command7", "&Percent",
                    "From Weight on Each Corner -- Calculate all other percentages and weights.",
                    Runs(&CornerWeightsPage::FindPercents)};
-  Command Command9{WeightFrame, "Command9", "W&eight",
+
+  Frame SideFrame{page_, "SideFrame", "Ends, Sides and Diagonals", 0};
+  Field Text10{SideFrame,
+               "Text10",
+               "Weight Front",
+               "1245.5",
+               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightFront)),
+               "Both front tires, the car level."};
+  Field Text11{SideFrame,
+               "Text11",
+               "Weight Rear",
+               "1104.5",
+               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightRear)),
+               "Both rear tires, the car level."};
+  Field Text12{SideFrame,
+               "Text12",
+               "Weight Left",
+               "1198.5",
+               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightLeft)),
+               "Both left tires."};
+  Field Text13{SideFrame,
+               "Text13",
+               "Weight Right",
+               "1151.5",
+               Entry(KeyRule::UnsignedReal, Unit::Weight, Holds(&P::WeightRight)),
+               "Both right tires."};
+  Field Text18{SideFrame,
+               "Text18",
+               "Cross Weight",
+               "1175",
+               Entry(KeyRule::OutputOnly, Unit::Weight, Holds(&P::CrossWeight)),
+               "Right front and left rear tires together."};
+  Field Text14{SideFrame,
+               "Text14",
+               "Percent Front",
+               "53",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightFront)),
+               "Share of the Car Weight on the front tires."};
+  Field Text15{SideFrame,
+               "Text15",
+               "Percent Rear",
+               "47",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightRear)),
+               "Share of the Car Weight on the rear tires, as it is or as the buttons Weight and "
+               "Place Ballast are to have it."};
+  Field Text16{SideFrame,
+               "Text16",
+               "Percent Left",
+               "51",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightLeft)),
+               "Share of the Car Weight on the left tires, as it is or as it is to be."};
+  Field Text17{SideFrame,
+               "Text17",
+               "Percent Right",
+               "49",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentWeightRight)),
+               "Share of the Car Weight on the right tires, as it is or as Place Ballast is to "
+               "have it."};
+  Field Text19{SideFrame,
+               "Text19",
+               "Percent Cross Weight",
+               "50",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::PercentCrossWeight)),
+               "Share of the Car Weight on the right front and left rear tires, as it is or as it "
+               "is to be."};
+  Field Text128{SideFrame,
+                "Text128",
+                "Percent Opposite",
+                "50",
+                Entry(KeyRule::OutputOnly, Unit::Percent),
+                "What the other diagonal has: left front and right rear tires."};
+  Table SideTable{
+      SideFrame,
+      "SideTable",
+      "Ends, Sides and Diagonals",
+      {{"Weight", {&Text10, &Text11, &Text12, &Text13, &Text18, nullptr}},
+       {"Percent", {&Text14, &Text15, &Text16, &Text17, &Text19, &Text128}}},
+      {"On", {"Front", "Rear", "Left", "Right", "Cross (RF + LR)", "Opposite (LF + RR)"}}};
+  Command Command9{SideFrame, "Command9", "W&eight",
                    "From Desired Left, Rear, and Cross Percentages and Total Vehicle Weight -- "
                    "Calculate all other percentages and weights.",
                    Runs(&CornerWeightsPage::WeighByTargets)};
@@ -157,19 +159,21 @@ class CornerWeightsPage : public ChassisPart {
   Frame CarFrame{page_, "CarFrame", "The Car from Above", 1};
   Drawing Car{CarFrame, "Car", "The weights of the four corners draw the car here."};
 
-  Frame BallastFrame{page_, "BallastFrame", "Ballast", 1};
-  Field Text20{BallastFrame,
+  FrameRow BallastRow{page_, "BallastRow", 1};
+  Frame ChassisFrame{BallastRow, "ChassisFrame", "Chassis", 0};
+  Field Text20{ChassisFrame,
                "Text20",
                "Wheel Base",
                "108",
                Entry(KeyRule::UnsignedReal, Unit::Inches, Holds(&P::WheelBase).ZeroKeepsText()),
                "From the center of the front wheels to that of the rear wheels."};
-  Field Text21{BallastFrame,
+  Field Text21{ChassisFrame,
                "Text21",
                "Track Width",
                "60",
                Entry(KeyRule::UnsignedReal, Unit::Inches, Holds(&P::TrackWidth).ZeroKeepsText()),
                "From the center of the left tires to that of the right tires."};
+  Frame BallastFrame{BallastRow, "BallastFrame", "Ballast", 1};
   Field Text39{BallastFrame,
                "Text39",
                "Ballast",

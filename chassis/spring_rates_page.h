@@ -5,7 +5,6 @@
 
 #include "chassis/corner_weights_page.h"
 #include "chassis/weight_transfer.h"
-#include "core/frame_row.h"
 
 namespace veldox {
 

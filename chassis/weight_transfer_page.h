@@ -26,7 +26,7 @@ class WeightTransferPage : public ChassisPart {
   SpringRatesPage& springs_;
 
  public:
-  Frame LiftFrame{page_, "LiftFrame", "Center of Gravity: the Rear is Raised on the Scales", 0};
+  Frame LiftFrame{page_, "LiftFrame", "Rear Raised on the Scales", 0};
   FieldTwin CarWeight{LiftFrame, corners_.Text9};
   FieldTwin WeightFront{LiftFrame, corners_.Text10, "Weight Front"};
   FieldTwin WeightRight{LiftFrame, corners_.Text13, "Weight Right"};
@@ -67,7 +67,7 @@ class WeightTransferPage : public ChassisPart {
       "raised, and Height Front Hub / Weight Right, Track Width.",
       Runs(&WeightTransferPage::FindCenterByHub)};
 
-  Frame CenterFrame{page_, "CenterFrame", "Center of Gravity and Roll Over Angles", 1};
+  Frame CenterFrame{page_, "CenterFrame", "CG and Roll Over Angles", 1};
   Field Text25{CenterFrame,
                "Text25",
                "Horizontal CG",
@@ -132,16 +132,16 @@ class WeightTransferPage : public ChassisPart {
   Frame LateralFrame{page_, "LateralFrame", "Weight Transfer", 2};
   Field Text31{LateralFrame,
                "Text31",
-               "Lateral Acceleration, G's",
+               "Lateral G's",
                "1.54321",
                Entry(KeyRule::SignedReal, Holds(&P::SkidPadGs)),
-               "+ left - Right: the side that the weight is moved to changes with the sign."};
+               "Lateral acceleration: + left - right."};
   Field Text32{LateralFrame,
                "Text32",
-               "Longitudinal Acceleration, G's",
+               "Longitudinal G's",
                "0.5",
                Entry(KeyRule::SignedReal, Holds(&P::LongAcelGs).ShownAtOpening().ZeroKeepsText()),
-               "Positive for acceleration, negative for braking."};
+               "Longitudinal acceleration: + acceleration - braking."};
   Field Text33{LateralFrame,
                "Text33",
                "Front Roll Center Height",
@@ -182,8 +182,12 @@ class WeightTransferPage : public ChassisPart {
                  "",
                  Entry(KeyRule::OutputOnly, Unit::Inches),
                  "The arm by which the car rolls."};
-  Field Text35_10{RollFrame, "Text35(10)",        "Roll Moment, foot pounds",
-                  "",        KeyRule::OutputOnly, "What rolls the car."};
+  Field Text35_10{RollFrame,
+                  "Text35(10)",
+                  "Roll Moment",
+                  "",
+                  Entry(KeyRule::OutputOnly, Unit::Torque),
+                  "What rolls the car."};
   Field Text35_11{RollFrame,
                   "Text35(11)",
                   "Roll Angle",
