@@ -86,11 +86,10 @@ void SpringRatesPage::Calculate() {
                                       bars.leftFront, bars.rightFront),
                         RollStiffness(tracks.rear, wheelRates.leftRear, wheelRates.rightRear,
                                       bars.leftRear, bars.rightRear)};
-  Show(Text124, stiffness.front);
-  Show(Text125, stiffness.rear);
+  Store(Text124, stiffness.front);
+  Store(Text125, stiffness.rear);
   Show(Text126, stiffness.front / stiffness.Sum() * 100, {&Text113, &Text114});
   Show(Text127, stiffness.rear / stiffness.Sum() * 100);
-  rollStiffness_ = stiffness;
   calculatedFrom_ = StiffnessTexts();
 }
 

@@ -44,8 +44,6 @@ class SpringRatesPage : public ChassisPart {
 
   /// Calculates all results unless they stand for the springs that are shown.
   void Bring();
-  /// Foot pounds a degree, as calculated last.
-  const Axles& rollStiffness() const { return rollStiffness_; }
   /// Of spring and sway bar together, pounds an inch: as shown of the springs.
   Corners ReadWheelRates();
   Axles ReadTrackWidths();
@@ -65,7 +63,6 @@ class SpringRatesPage : public ChassisPart {
   ScreenPage& page_;
   CornerWeightsPage& corners_;
   UnsprungWeights& unsprung_;
-  Axles rollStiffness_;
   Corners barWheelRates_;
   std::vector<std::string> calculatedFrom_;
 
@@ -192,7 +189,7 @@ class SpringRatesPage : public ChassisPart {
                 "Text124",
                 "Front",
                 "",
-                KeyRule::OutputOnly,
+                Entry(KeyRule::OutputOnly, Holds(&P::FrontRollStiffness)),
                 "What springs and sway bar of the front hold against roll."};
   Field Text126{StiffnessFrame,
                 "Text126",
@@ -204,7 +201,7 @@ class SpringRatesPage : public ChassisPart {
                 "Text125",
                 "Rear",
                 "",
-                KeyRule::OutputOnly,
+                Entry(KeyRule::OutputOnly, Holds(&P::RearRollStiffness)),
                 "What springs and sway bar of the rear hold against roll."};
   Field Text127{StiffnessFrame,
                 "Text127",

@@ -30,13 +30,13 @@ void WeightTransferPage::FindCenter(LiftRule rule) {
   Require(height > 0, Text22, kNoCenter);
   Store(Text25, HorizontalCenter(b.CarWeight, b.WeightFront, b.WheelBase), {&c.Text9});
   Store(Text26, height);
-  Show(Text35_0, LateralCenter(b.CarWeight, b.WeightRight, b.TrackWidth), {&c.Text9});
+  Store(Text35_0, LateralCenter(b.CarWeight, b.WeightRight, b.TrackWidth), {&c.Text9});
   const SprungMass sprung =
       SprungMassOf(b.CarWeight, b.WeightFront, b.WeightRight, unsprung, b.WheelBase, b.TrackWidth);
   Require(sprung.weight > 0, unsprung_.Weights.leftFront, kNothingSprung);
-  Show(Text35_1, sprung.weight);
-  Show(Text35_2, sprung.horizontalCenter);
-  Show(Text35_3, sprung.lateralCenter);
+  Store(Text35_1, sprung.weight);
+  Store(Text35_2, sprung.horizontalCenter);
+  Store(Text35_3, sprung.lateralCenter);
   const double across = RollOverAngle(b.TrackWidth, b.VerticalCG);
   const double along = RollOverAngle(b.WheelBase, b.VerticalCG);
   Show(Text35_4, across);
@@ -68,12 +68,12 @@ void WeightTransferPage::TransferLaterally(const Corners& unsprung) {
                       {b.WeightFront - unsprung.Front(), b.WeightRear - unsprung.Rear()},
                       {b.FrontRollCenterHeight, b.RearRollCenterHeight},
                       tracks,
-                      springs_.rollStiffness()});
-  Show(Text35_8, roll.rollAxisHeight, {&c.Text21, &springs_.Text113, &springs_.Text114});
-  Show(Text35_9, roll.rollAxisToCenter);
+                      {b.FrontRollStiffness, b.RearRollStiffness}});
+  Store(Text35_8, roll.rollAxisHeight, {&c.Text21, &springs_.Text113, &springs_.Text114});
+  Store(Text35_9, roll.rollAxisToCenter);
   Store(Text37, roll.weightTransfer);
-  Show(Text35_10, roll.rollMoment);
-  Show(Text35_11, roll.rollAngle);
+  Store(Text35_10, roll.rollMoment);
+  Store(Text35_11, roll.rollAngle);
   Show(Text35_12, roll.rolling.front);
   Show(Text35_13, roll.rolling.rear);
   Show(Text35_14, roll.nonRolling.front);
@@ -99,7 +99,7 @@ void WeightTransferPage::TransferLengthwise(const Corners& unsprung) {
   Require(sprungWeight > 0, unsprung_.Weights.leftFront, kNothingSprung);
   const LengthwiseTransfer sprung = LengthwiseTransferOf(
       b.LongAcelGs, sprungWeight, b.WeightFront - unsprung.Front(), b.VerticalCG, b.WheelBase);
-  Show(Text35_1, sprungWeight);
+  Store(Text35_1, sprungWeight);
   Show(Text35_31, sprung.shift);
   Show(Text35_32, sprung.front);
   Show(Text35_33, sprung.frontPercent);

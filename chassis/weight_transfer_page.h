@@ -84,25 +84,25 @@ class WeightTransferPage : public ChassisPart {
                  "Text35(0)",
                  "Lateral CG",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Inches),
+                 Entry(KeyRule::OutputOnly, Unit::Inches, Holds(&P::LateralCG)),
                  "To the left of the right tires' centers."};
   Field Text35_1{CenterFrame,
                  "Text35(1)",
                  "Sprung Weight",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Weight),
+                 Entry(KeyRule::OutputOnly, Unit::Weight, Holds(&P::SprungWeight)),
                  "Car Weight less all Unsprung Weight."};
   Field Text35_2{CenterFrame,
                  "Text35(2)",
                  "Sprung Horizontal CG",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Inches),
+                 Entry(KeyRule::OutputOnly, Unit::Inches, Holds(&P::SprungHorizontalCG)),
                  "Of what rests on the springs, behind the center of the front wheels."};
   Field Text35_3{CenterFrame,
                  "Text35(3)",
                  "Sprung Lateral CG",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Inches),
+                 Entry(KeyRule::OutputOnly, Unit::Inches, Holds(&P::SprungLateralCG)),
                  "Of what rests on the springs, to the left of the right tires' centers."};
   Field Text35_4{CenterFrame,
                  "Text35(4)",
@@ -174,25 +174,25 @@ class WeightTransferPage : public ChassisPart {
                  "Text35(8)",
                  "Roll Axis Height",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Inches),
+                 Entry(KeyRule::OutputOnly, Unit::Inches, Holds(&P::RollAxisHeight)),
                  "At the center of gravity, above the ground."};
   Field Text35_9{RollFrame,
                  "Text35(9)",
                  "Roll Axis to CG",
                  "",
-                 Entry(KeyRule::OutputOnly, Unit::Inches),
+                 Entry(KeyRule::OutputOnly, Unit::Inches, Holds(&P::RollAxisToCG)),
                  "The arm by which the car rolls."};
   Field Text35_10{RollFrame,
                   "Text35(10)",
                   "Roll Moment",
                   "",
-                  Entry(KeyRule::OutputOnly, Unit::Torque),
+                  Entry(KeyRule::OutputOnly, Unit::Torque, Holds(&P::RollMoment)),
                   "What rolls the car."};
   Field Text35_11{RollFrame,
                   "Text35(11)",
                   "Roll Angle",
                   "",
-                  Entry(KeyRule::OutputOnly, Unit::Degrees),
+                  Entry(KeyRule::OutputOnly, Unit::Degrees, Holds(&P::RollAngle)),
                   "What roll moment and roll stiffness make."};
 
   Frame EndFrame{page_, "TransferFrame", "Lateral: Transfer of Each End", 3};

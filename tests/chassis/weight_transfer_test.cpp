@@ -36,7 +36,7 @@ TEST(CenterOfGravity, IsFoundByLifting) {
 TEST(CenterOfGravity, ByLiftingIsOffTheExactTriangleBySlope) {
   for (const auto& [rearHeight, off] : {std::pair{6.0, 0.0006}, {24.0, 0.01}}) {
     const double found = VerticalCenter(Lifted(20, rearHeight), LiftRule::Ground);
-    EXPECT_NEAR(20 / found - 1, off, 0.1 * off) << rearHeight;
+    EXPECT_NEAR(found / 20 - 1, off, 0.1 * off) << rearHeight;
   }
   // A slope of nothing is exact.
   EXPECT_NEAR(VerticalCenter(Lifted(20, 0.01), LiftRule::Ground), 20, 1e-5);
