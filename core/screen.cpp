@@ -190,8 +190,8 @@ bool TextControl::Enter() {
   return screen().context().rules.FieldGotFocus(text_);
 }
 
-bool TextControl::Leave() {
-  return screen().context().rules.Check(leaveCheck_, *this);
+bool TextControl::Leave(std::string_view consequence) {
+  return screen().context().rules.Check(leaveCheck_, *this, consequence);
 }
 
 Field::Field(Frame& frame, std::string name, std::string label, std::string defaultText,
@@ -750,10 +750,19 @@ void Screen::TakeFocus(Control* control) {
 
 namespace {
 
-/// False where a field keeps the keyboard. One that a panel lies over cannot.
-bool MayLeave(Control* focus) {
+/// True for what a click does something with.
+bool IsClicked(const Control& control) {
+  return control.kind() == ControlKind::Command || control.kind() == ControlKind::CheckBox ||
+         control.kind() == ControlKind::OptionButton;
+}
+
+/// False where a field keeps the keyboard, which `to` would have got. One that a panel lies over
+/// cannot. Where a click goes nowhere because of it, the box says so.
+bool MayLeave(Control* focus, const Control* to) {
   auto* field = dynamic_cast<TextControl*>(focus);
-  return field == nullptr || !field->Reachable() || field->Leave();
+  if (field == nullptr || !field->Reachable()) return true;
+  if (to == nullptr || !IsClicked(*to)) return field->Leave();
+  return field->Leave("Nothing has been done for \"" + to->PlainCaption() + "\".");
 }
 
 }  // namespace
@@ -764,7 +773,7 @@ bool Screen::MoveFocus(Control* control) {
   const auto* command = dynamic_cast<const Command*>(control);
   const bool closes =
       command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
-  if (!closes && !MayLeave(focus_)) return false;
+  if (!closes && !MayLeave(focus_, control)) return false;
   TakeFocus(control);
   return true;
 }
@@ -813,10 +822,8 @@ Control* Screen::NextByEnter(const Control& from) const {
 Control* Screen::AccessKeyTarget(char key) const {
   Control* first = nullptr;
   for (Control* control : ReadingOrder()) {
-    const bool clicks = control->kind() == ControlKind::Command ||
-                        control->kind() == ControlKind::CheckBox ||
-                        control->kind() == ControlKind::OptionButton;
-    if (!clicks || control->accessKey() != key || !control->enabled() || !control->Reachable()) {
+    if (!IsClicked(*control) || control->accessKey() != key || !control->enabled() ||
+        !control->Reachable()) {
       continue;
     }
     if (focus_ != nullptr && control->frame() == focus_->frame()) return control;
@@ -842,7 +849,7 @@ Command* Screen::NextCalculation() {
 bool Screen::CalculateAgain() {
   Command* command = NextCalculation();
   if (command == nullptr) return false;
-  return MayLeave(focus_) && command->Click();
+  return MayLeave(focus_, command) && command->Click();
 }
 
 void Screen::PutAwayPanel() {
