@@ -691,7 +691,8 @@ std::string NameInMessages(const Control& control) {
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
 }
 
-/// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
+}  // namespace
+
 Control& WithinReach(Control& control) {
   if (control.Reachable()) return control;
   for (Control* other : control.screen().controls()) {
@@ -700,6 +701,8 @@ Control& WithinReach(Control& control) {
   }
   return control;
 }
+
+namespace {
 
 /// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
 /// could type there.
@@ -903,15 +906,31 @@ void Screen::ReadChoice(const ComboList& list) {
   *std::get<double*>(slot) = ParseNumber(list.chosenText(), DecimalMark::Point);
 }
 
+namespace {
+
+/// How a divisor is 0: as it was typed, or as the whole number that it counts as. Empty when it
+/// is not.
+std::string_view ZeroOf(Field& divisor, ParameterBlock& block, DecimalMark mark) {
+  if (!IsNumber(divisor.text(), mark)) return {};
+  if (ParseNumber(divisor.text(), mark) == 0) return "is 0";
+  const Holds::Slot slot = divisor.holds().In(block);
+  const auto* const* count = std::get_if<std::int16_t*>(&slot);
+  return count != nullptr && **count == 0 ? "counts as 0" : std::string_view();
+}
+
+}  // namespace
+
 void Screen::RequireResult(Field& field, double value, DividesBy divisors) const {
   const int flags = std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID);
   if (flags == 0 && std::isfinite(value)) return;
   const std::string result = '"' + field.PlainCaption() + "\" cannot be computed";
   for (Field* divisor : divisors) {
-    if (IsNumber(divisor->text(), mark()) && ParseNumber(divisor->text(), mark()) == 0) {
-      throw CommandError(ErrorKind::DivisionByZero,
-                         "is 0, and " + result + " by dividing by 0. Please enter another value.",
-                         divisor);
+    const std::string_view zero = ZeroOf(*divisor, block(), mark());
+    if (!zero.empty()) {
+      throw CommandError(
+          ErrorKind::DivisionByZero,
+          std::string(zero) + ", and " + result + " by dividing by 0. Please enter another value.",
+          divisor);
     }
   }
   if ((flags & FE_DIVBYZERO) != 0) {
