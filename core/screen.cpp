@@ -923,7 +923,8 @@ std::string_view ZeroOf(Field& divisor, ParameterBlock& block, DecimalMark mark)
 void Screen::RequireResult(Field& field, double value, DividesBy divisors) const {
   const int flags = std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID);
   if (flags == 0 && std::isfinite(value)) return;
-  const std::string result = '"' + field.PlainCaption() + "\" cannot be computed";
+  // Named as it is called where the user sees it.
+  const std::string result = '"' + WithinReach(field).PlainCaption() + "\" cannot be computed";
   for (Field* divisor : divisors) {
     const std::string_view zero = ZeroOf(*divisor, block(), mark());
     if (!zero.empty()) {
