@@ -22,7 +22,7 @@ constexpr double kNameBelow = 0.25;
 constexpr double kNameAbove = -1.3;
 constexpr double kBarTop = 1.9;
 constexpr double kBarBottom = 2.6;
-constexpr double kBarStroke = 0.1;
+constexpr int kBarStrokes = 7;  ///< that fill it
 constexpr double kHalfMark = 0.25;
 constexpr double kBarName = 2.95;
 constexpr double kLinesBelow = 4.2;
@@ -71,7 +71,8 @@ void DrawBody(Plan& plan) {
 /// The bar of the cross diagonal. @param percent  of the car's weight
 void DrawBar(Plan& plan, double percent) {
   plan.Box({0, kWidth, kBarTop}, {kLength, kWidth, kBarBottom}, SketchStroke::Seam);
-  for (double line = kBarTop; line <= kBarBottom; line += kBarStroke) {
+  for (int i = 0; i <= kBarStrokes; ++i) {
+    const double line = kBarTop + (kBarBottom - kBarTop) * i / kBarStrokes;
     plan.Line({0, kWidth, line}, {percent / 100 * kLength, kWidth, line}, SketchStroke::Outline);
   }
   plan.Line({kHalf, kWidth, kBarTop - kHalfMark}, {kHalf, kWidth, kBarBottom + kHalfMark},

@@ -22,6 +22,9 @@ constexpr int kColumnWidth = 12;
 /// targets alone.
 constexpr double kRounding = 1e-9;
 
+/// Pounds; nothing on four tires weighs more.
+constexpr double kHeaviest = 1e7;
+
 constexpr const char* kNoWeight =
     "The four corner weights add up to 0. Please enter what the scales read.";
 
@@ -50,7 +53,7 @@ bool CornerWeightsPage::TakeWeights(Corners& weights) const {
     if (!(*slots[i] >= 0)) return false;
   }
   const double sum = weights.Sum();
-  return sum > 0 && std::isfinite(sum);
+  return sum > 0 && sum < kHeaviest;
 }
 
 void CornerWeightsPage::DrawCar() {
@@ -59,6 +62,10 @@ void CornerWeightsPage::DrawCar() {
 }
 
 // ---------------------------------------------------------------- weights
+
+void CornerWeightsPage::RequireShares(const Corners& weights) {
+  RequireResult(Percents.leftFront, weights.leftFront / block().CarWeight * 100, {&Text9});
+}
 
 void CornerWeightsPage::StoreSides(const Corners& weights) {
   const double car = block().CarWeight;
@@ -103,6 +110,7 @@ void CornerWeightsPage::WeighByPercents() {
   ReadCorners(Percents);
   ReadFields({&Text9});
   const Corners weights = WeightsOfPercents(percents, block().CarWeight);
+  RequireShares(weights);
   StoreCorners(Weights, weights);
   StoreSides(weights);
 }
@@ -131,6 +139,7 @@ void CornerWeightsPage::WeighByTargets() {
                        " would weigh " + FormatField(weight, mark()) + '.');
   }
   ReadFields({&Text16, &Text15, &Text19, &Text9});
+  RequireShares(weights);
   StoreCorners(Weights, weights);
   StorePercents(weights);
 }
@@ -140,14 +149,14 @@ void CornerWeightsPage::WeighByTargets() {
 BallastShare CornerWeightsPage::ReadBallast() {
   ReadFields({&Text39, &Text40, &Text41, &Text20, &Text21});
   const ParameterBlock& b = block();
-  return ShareOfBallast({b.BallastX, b.BallastY}, b.WheelBase, b.TrackWidth);
+  const BallastShare share = ShareOfBallast({b.BallastX, b.BallastY}, b.WheelBase, b.TrackWidth);
+  RequireResult(Text40, share.front, {&Text20, &Text21});
+  RequireResult(Text41, share.left);
+  return share;
 }
 
 void CornerWeightsPage::ReportBallast() {
   const BallastShare share = ReadBallast();
-  // The report shows what these hold, and nothing of it is a number where they are none.
-  RequireResult(Text40, share.front, {&Text20});
-  RequireResult(Text41, share.left, {&Text21});
   const double ballast = block().Ballast;
   const Corners parts = share.OnCorners();
   ReportWriter report(mark());
@@ -214,8 +223,6 @@ void CornerWeightsPage::PlaceBallast() {
 
 void CornerWeightsPage::PutBallastOnCorners() {
   const BallastShare share = ReadBallast();
-  RequireResult(Text40, share.front, {&Text20});
-  RequireResult(Text41, share.left, {&Text21});
   const double ballast = block().Ballast;
   const Corners weights = ReadCorners(Weights).Each(
       share.OnCorners(), [&](double weight, double part) { return weight + ballast * part; });

@@ -20,6 +20,8 @@ class CornerWeightsPage : public ChassisPart {
   void PlaceBallast();
   void PutBallastOnCorners();
 
+  /// Refuses weights of which no percentages can be computed, before anything is changed.
+  void RequireShares(const Corners& weights);
   static void RequireNoneNegative(CornerFields& fields, const Corners& values);
   /// Stores the corners' percentages and what follows from the corners.
   void StorePercents(const Corners& weights);

@@ -48,6 +48,7 @@ click Form6.Command6
 messages
 click Form6.Command9
 messages
+get Form6.Text1
 set Form6.Text9 2350
 set Form6.Text1 0
 set Form6.Text2 0
@@ -141,9 +142,10 @@ messages
 click Form6.Command4
 messages
 set Form6.Text24 20
-set Form6.Text22 1200
+set Form6.Text22 1190
 click Form6.Command2
 messages
+get Form6.Text26
 set Form6.Text22 
 click Form6.Command2
 messages

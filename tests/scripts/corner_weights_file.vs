@@ -91,7 +91,6 @@ get Form6.Text124
 messages
 pause a sample
 file samples/road_race_four.prm
-answer No
 menu Read
 messages
 get Form6.Text1
