@@ -153,10 +153,9 @@ class ScreenPages {
 
   void AddCommand(const Command& command, std::string& commands) const {
     if (!command.isBuilt()) return;
-    const std::string array = command.name().substr(0, command.name().find('('));
     commands += "- **" + Plain(Caption(command.caption())) + "**" + Help(command) + "\n";
-    for (const std::string& note : notes_.Of(screen_.name(), array)) {
-      commands += "  - *Formula:* " + Plain(note) + "\n";
+    for (const std::string& note : notes_.Of(screen_.name(), command.name())) {
+      commands += "  - *In words:* " + Plain(note) + "\n";
     }
   }
 
