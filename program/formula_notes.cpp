@@ -164,7 +164,8 @@ std::vector<std::string> FormulaNotes::Of(const std::string& form,
       const std::string* words = WordsFor(name, where);
       std::string routine = *owner;
       routine.append("::").append(name);
-      if (words != nullptr && !words->empty() && seen.insert(name).second) {
+      // Formulas that share their words are told once.
+      if (words != nullptr && !words->empty() && seen.insert(*words).second) {
         notes.push_back(*words);
       }
       if (words == nullptr && calls_.contains(routine) && calls->second.size() <= 2) {

@@ -97,7 +97,7 @@ TEST(FormulaNotesTest, AFunctionWithWordsOfItsOwnTakesNoneOfTheOneAboveIt) {
       "double Coils(double k);\n");
   notes.AddRoutines("\nvoid Form1::Solve() {\n  Show(Rate(1), Wire(2), Coils(3));\n}\n");
   notes.AddDeclarations("Command Command1{Frame1, \"Command1\", \"&X\", \"help\", &Form1::Solve};");
-  EXPECT_THAT(notes.Of("Form1", "Command1"), ElementsAre("The rate.", "The wire.", "The wire."));
+  EXPECT_THAT(notes.Of("Form1", "Command1"), ElementsAre("The rate.", "The wire."));
 }
 
 TEST(FormulaNotesTest, APanelsCommandHasTheFormulasOfItsFolder) {
