@@ -16,6 +16,7 @@
 #include "reference/weather_screen.h"
 #include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
+#include "vehicle/drag_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
 #include "vehicle/gearbox_finder_screen.h"
@@ -61,6 +62,7 @@ Program::Program(Host& host)
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
+  AddScreen<Form20>();
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
