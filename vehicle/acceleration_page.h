@@ -1,9 +1,10 @@
 #pragma once
 
-#include <functional>
+#include <vector>
 
 #include "core/panel.h"
 #include "core/screen_part.h"
+#include "vehicle/torque_table.h"
 
 namespace veldox {
 
@@ -33,6 +34,10 @@ class AccelerationPage : public ScreenPart {
     double rolling;
   };
   RoadLoad ReadRoadLoad();
+  /// Torque, and fuel where it was measured.
+  static void ScaleTorque(TorquePoint& point, double factor);
+  /// Puts changed points into use. @param field  what a number that is too large is told by
+  void TakeTorqueCurve(const std::vector<TorquePoint>& points, Field& field);
 
  public:
   ScreenPage Frame1{screen(), "Frame1", "Acceleration / Top Speed"};

@@ -29,6 +29,10 @@ class Form13 : public Screen, public GearboxTaker {
 
  private:
   void SolveWheelTorque();
+  void RunCar();
+  void RunCvt();
+  /// Shows the chart of a run and keeps what it came to.
+  void ShowRun(AccelerationChart chart);
 
  public:
   AccelerationPage Page{*this};
@@ -54,11 +58,13 @@ class Form13 : public Screen, public GearboxTaker {
       "ET using RPM and Torque from Parameter File also Coefficient of Drag, Frontal Area, Tire "
       "Rolling Resistance, Tire Diameter, Tire Rolling Radius, Launch RPM, % Rear End Power Loss, "
       "% Power Loss, Vehicle Weight with Driver, Dyno Correction Factor, Shift RPMs, Tire Growth "
-      "Percentages, Shift Times, Rollout, Coefficient of Mu, Track - BP or Air Density and Wind."};
+      "Percentages, Shift Times, Rollout, Coefficient of Mu, Track - BP or Air Density and Wind.",
+      &Form13::RunCar};
   Command Command13{
       RunFrame, "Command13", "CVT",
       "Acceleration and Top Speed Prediction Chart of a Continuously Variable Transmission, which "
-      "keeps the engine at the CVT RPM, using CVT Power Loss in place of gears and shifts."};
+      "keeps the engine at the CVT RPM, using CVT Power Loss in place of gears and shifts.",
+      &Form13::RunCvt};
   Command Command21{RunFrame, "Command21", "Trans/Shift RPM",
                     "Trans Gear Ratios, Tire Growth, Power Loss, Shift RPM and Shift Times.",
                     Opens(&Form13::Shifts)};

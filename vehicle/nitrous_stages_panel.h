@@ -4,18 +4,17 @@
 #include "core/panel.h"
 #include "core/screen_part.h"
 #include "core/table.h"
+#include "vehicle/acceleration.h"
 
 namespace veldox {
 
-/// Stages of nitrous that start by gear, and those that run by time, which follow them in the
-/// table of the shared values.
-inline constexpr int kGearStages = 7;
-inline constexpr int kTimedStages = 7;
+inline constexpr int kGearStageRows = static_cast<int>(kGearStages);
+inline constexpr int kTimedStageRows = static_cast<int>(kNitrousStages - kGearStages);
 
 /// A number of a timed stage. @param row  the stage, the first timed one being 0
 /// @throws std::out_of_range beyond the bounds
 inline double& TimedStageNumber(ParameterBlock& block, int row, int column) {
-  return TableNumber<&ParameterBlock::NitrousMS>(block, kGearStages + row, column);
+  return TableNumber<&ParameterBlock::NitrousMS>(block, kGearStageRows + row, column);
 }
 
 /// The stages of nitrous of a run: seven by gear and engine speed, seven by time.
@@ -23,13 +22,14 @@ class NitrousStagesPanel : public ScreenPart {
  public:
   explicit NitrousStagesPanel(Screen& screen);
 
-  void Open() { NitrousFrame.Open(); }
+  void Open();
   /// Parses all stages into the shared values. @throws CommandError that names the field
   void ReadStages();
+  /// A field of a stage, both counted from 0. @throws CommandError (IndexOutOfRange)
+  Field& Cell(std::size_t stage, std::size_t column);
 
  private:
   void TakeStages();
-  bool IsUnused(const Field& power) const;
 
  public:
   ScreenPage NitrousFrame{screen(), "NitrousFrame", "Nitrous"};
@@ -37,7 +37,7 @@ class NitrousStagesPanel : public ScreenPart {
   Frame GearStageFrame{NitrousFrame, "GearStageFrame", "Stages by Trans Gear", 0};
   FieldArray Text90{GearStageFrame,
                     "Text90",
-                    kGearStages,
+                    kGearStageRows,
                     "Trans Gear",
                     {"1", "9"},
                     Entry(KeyRule::Digits, HoldsColumn<&P::NitrousMS>(0)),
@@ -48,7 +48,7 @@ class NitrousStagesPanel : public ScreenPart {
                     {"110", "0"},   Entry(KeyRule::UnsignedReal, HoldsColumn<&P::NitrousMS>(1))};
   FieldArray Text92{GearStageFrame,
                     "Text92",
-                    kGearStages,
+                    kGearStageRows,
                     "Nitrous RPM Start",
                     "1",
                     Entry(KeyRule::UnsignedReal, HoldsColumn<&P::NitrousMS>(2)),
@@ -56,7 +56,7 @@ class NitrousStagesPanel : public ScreenPart {
                     "gear."};
   FieldArray Text93{GearStageFrame,
                     "Text93",
-                    kGearStages,
+                    kGearStageRows,
                     "Nitrous HP Starting %",
                     "100",
                     Entry(KeyRule::UnsignedReal, HoldsColumn<&P::NitrousMS>(3)),
@@ -64,7 +64,7 @@ class NitrousStagesPanel : public ScreenPart {
                     "it."};
   FieldArray Text94{GearStageFrame,
                     "Text94",
-                    kGearStages,
+                    kGearStageRows,
                     "Nitrous RPM Full",
                     "1",
                     Entry(KeyRule::UnsignedReal, HoldsColumn<&P::NitrousMS>(4)),
@@ -78,45 +78,45 @@ class NitrousStagesPanel : public ScreenPart {
   Frame TimedStageFrame{NitrousFrame, "TimedStageFrame", "Stages by Time", 0};
   FieldArray TimedText90{TimedStageFrame,
                          "Text90",
-                         kTimedStages,
+                         kTimedStageRows,
                          "Nitrous HP",
                          "0",
                          Entry(KeyRule::UnsignedReal, Holds(&TimedStageNumber, 0, 0)),
                          {},
-                         kGearStages};
+                         kGearStageRows};
   FieldArray TimedText91{TimedStageFrame,
                          "Text91",
-                         kTimedStages,
+                         kTimedStageRows,
                          "Nitrous Start Time",
                          "0",
                          Entry(KeyRule::UnsignedReal, Holds(&TimedStageNumber, 0, 1)),
                          "Seconds of the elapsed time at which the stage starts.",
-                         kGearStages};
+                         kGearStageRows};
   FieldArray TimedText92{TimedStageFrame,
                          "Text92",
-                         kTimedStages,
+                         kTimedStageRows,
                          "Nitrous HP Starting %",
                          "100",
                          Entry(KeyRule::UnsignedReal, Holds(&TimedStageNumber, 0, 2)),
                          "The part of the power that the stage starts with; it rises evenly to all "
                          "of it.",
-                         kGearStages};
+                         kGearStageRows};
   FieldArray TimedText93{TimedStageFrame,
                          "Text93",
-                         kTimedStages,
+                         kTimedStageRows,
                          "Nitrous Full Time",
                          "0",
                          Entry(KeyRule::UnsignedReal, Holds(&TimedStageNumber, 0, 3)),
                          "Seconds of the elapsed time from which the stage gives all its power.",
-                         kGearStages};
+                         kGearStageRows};
   FieldArray TimedText94{TimedStageFrame,
                          "Text94",
-                         kTimedStages,
+                         kTimedStageRows,
                          "N Stop Time",
                          "0",
                          Entry(KeyRule::UnsignedReal, Holds(&TimedStageNumber, 0, 4)),
                          "Seconds of the elapsed time from which the stage is off again.",
-                         kGearStages};
+                         kGearStageRows};
   Table TimedStages{TimedStageFrame,
                     "TimedStages",
                     "Stages by Time",

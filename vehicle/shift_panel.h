@@ -4,11 +4,11 @@
 #include "core/panel.h"
 #include "core/screen_part.h"
 #include "core/table.h"
+#include "vehicle/acceleration.h"
 
 namespace veldox {
 
-/// The most gears of a car that runs down the strip.
-inline constexpr int kRunGears = 18;
+inline constexpr int kRunGears = static_cast<int>(kGears);
 
 /// A number of a shift, which files count from the gear that is left, the first being 1.
 /// @param row  the shift, counted from 0. @throws std::out_of_range beyond the bounds
@@ -22,7 +22,7 @@ class ShiftPanel : public ScreenPart {
  public:
   explicit ShiftPanel(Screen& screen);
 
-  void Open() { Frame4.Open(); }
+  void Open();
   /// Parses all gears and shifts into the shared values.
   /// @throws CommandError that names the field, for a gear that is shorter than the one below it
   ///         among the rest
