@@ -701,10 +701,19 @@ Control& WithinReach(Control& control) {
   return control;
 }
 
+/// Turns to the page that a control stands on, where another one is shown.
+void TurnTo(const Control& control) {
+  for (Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {
+    auto* page = dynamic_cast<ScreenPage*>(frame);
+    if (page != nullptr && !page->visible()) page->Open();
+  }
+}
+
 /// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
 /// could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
+  TurnTo(control);
   Control& place = WithinReach(control);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }

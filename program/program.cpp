@@ -16,6 +16,7 @@
 #include "reference/weather_screen.h"
 #include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
+#include "vehicle/acceleration_screen.h"
 #include "vehicle/drag_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
@@ -61,6 +62,7 @@ Program::Program(Host& host)
   auto& gearboxFinder = AddScreen<Form19>();
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
+  gearboxFinder.AddTaker(AddScreen<Form13>(static_cast<Grapher&>(*grapher_)));
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
   AddScreen<Form20>();
   about_ = &AddScreen<Form15>();

@@ -127,7 +127,7 @@ enum class RunField {
   ThrottleStopTime,
   CvtRpm,
   CvtLoss,
-  NitrousStage,
+  Stage,
 };
 
 /// An input that no run can be made from. Its message names the field by its caption; a screen that
