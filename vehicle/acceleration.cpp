@@ -123,9 +123,11 @@ class Run {
   void Step(double rpm, double torque);
   double AddNitrous();
   void Move(double dV, double thrust);
+  void TakeTopSpeed(double feetASecond);
   void EndRollout(bool late);
   void TakeMarks();
   void ChartRows();
+  void WriteDueRows();
   void WriteChartRow();
   void ForceRow();
   void ThrottleStop();
@@ -214,7 +216,7 @@ class Run {
   bool stopDone_ = false;
   bool rowAfterShift_ = false;
   std::size_t mark_ = 0;      ///< the next one: those of the strip, then the further ones
-  double nextMark_ = kNever;  ///< feet; none before the clock runs
+  double nextMark_ = 0;       ///< feet; before the clock runs the end of the rollout
   double nextChartSpeed_ = 5;
   double nextChartMile_ = kFeetInMile;
   double lastRowAt_ = 0;
@@ -224,12 +226,7 @@ class Run {
 
   // What is told of the run
   RunResult result_;
-  double topMph_ = 0;
-  double topRpm_ = 0;
-  double topElapsed_ = 0;
-  double topDistance_ = 0;
-  int topGear_ = 0;
-  bool limited_ = false;
+  bool gains_ = false;  ///< the last step gained speed
   double limitedFeet_ = 0;
 };
 
@@ -330,12 +327,8 @@ void Run::TakeMarks() {
 }
 
 inline void Run::Move(double dV, double thrust) {
-  if (thrust > tractionLimit_) {
-    thrust = tractionLimit_;
-    limited_ = true;
-  } else {
-    limited_ = false;
-  }
+  const bool limited = thrust > tractionLimit_;
+  if (limited) thrust = tractionLimit_;
   acceleration_ = thrust * perMass_;
   // A car that gains no speed stands still in time and distance: what is left of the table goes by
   // without it.
@@ -349,15 +342,24 @@ inline void Run::Move(double dV, double thrust) {
         lastRpmStep_ = rpmStep_;
       }
     }
-    topMph_ = mph_;
-    topRpm_ = rpm_;
-    topElapsed_ = elapsed_;
-    topDistance_ = distance_;
-    topGear_ = static_cast<int>(gear_) + 1;
-    if (limited_) limitedFeet_ = distance_;
+    gains_ = true;
+    if (limited) limitedFeet_ = distance_;
+  } else if (gains_) {
+    TakeTopSpeed(2 * meanSpeedFps_ - speedFps_);
   }
-  if (!clockRuns_ && distance_ >= 0) EndRollout(!launching_ && !varies_);
-  if (distance_ >= nextMark_) TakeMarks();
+  if (distance_ >= nextMark_) {
+    if (!clockRuns_) EndRollout(!launching_ && !varies_);
+    TakeMarks();
+  }
+}
+
+void Run::TakeTopSpeed(double feetASecond) {
+  gains_ = false;
+  result_.topSpeed = feetASecond / kFeetASecondPerMph;
+  result_.topSpeedRpm = varies_ ? rpm_ : result_.topSpeed / speedFactor_;
+  result_.topSpeedGear = static_cast<int>(gear_) + 1;
+  result_.topSpeedTime = elapsed_;
+  result_.topSpeedFeet = distance_;
 }
 
 inline void Run::Step(double rpm, double torque) {
@@ -443,16 +445,17 @@ void Run::ThrottleStop() {
   sink_.ThrottleStopEnds();
 }
 
-void Run::ChartRows() {
+inline void Run::ChartRows() {
+  if (mph_ >= nextChartSpeed_ || distance_ >= nextChartMile_) WriteDueRows();
+}
+
+void Run::WriteDueRows() {
+  WriteChartRow();
   if (mph_ >= nextChartSpeed_) {
-    WriteChartRow();
     const bool coarse = launching_ || (elapsed_ < kFineChartSeconds && distance_ < kFineChartFeet);
     nextChartSpeed_ = Floor(mph_) + (coarse ? 5 : 1);
   }
-  if (distance_ >= nextChartMile_) {
-    WriteChartRow();
-    nextChartMile_ = Floor(distance_) + kFeetInMile;
-  }
+  if (distance_ >= nextChartMile_) nextChartMile_ = Floor(distance_) + kFeetInMile;
 }
 
 void Run::Sample() {
@@ -522,25 +525,30 @@ void Run::LaunchPhase() {
 
 void Run::RunGear(bool shifts) {
   const double shiftRpm = shifts ? shiftRpm_ : kNever;
-  const double stopRpm = shifts && in_.throttleStop ? in_.throttleStopRpm : kNever;
+  double stopRpm = shifts && in_.throttleStop && !stopDone_ ? in_.throttleStopRpm : kNever;
+  double rpm = currentRpm_, torque = torqueNow_;
   for (; index_ < LastPoint(); ++index_) {
     const double next = TableRpm(index_ + 1);
-    rpmStep_ = (next - TableRpm(index_)) / kSubSteps;
+    const double rpmStep = (next - TableRpm(index_)) / kSubSteps;
     const double rise = TableTorque(index_ + 1) - TableTorque(index_);
     const double torqueStep = rise / kSubSteps;
-    const double tolerance = rpmStep_ * kStepTolerance;
+    const double tolerance = rpmStep * kStepTolerance;
+    rpmStep_ = rpmStep;
     // An interval that the last one's step has passed over gives its rise all the same.
-    if (currentRpm_ > next + tolerance) torqueNow_ += rise;
-    while (currentRpm_ <= next + tolerance) {
-      if (currentRpm_ > shiftRpm + tolerance) {
+    if (rpm > next + tolerance) torque += rise;
+    while (rpm <= next + tolerance) {
+      if (rpm > shiftRpm + tolerance) {
         WriteChartRow();
         Sample();
         return;
       }
-      if (currentRpm_ >= stopRpm && !stopDone_) ThrottleStop();
-      Step(currentRpm_, torqueNow_);
-      currentRpm_ += rpmStep_;
-      torqueNow_ += torqueStep;
+      if (rpm >= stopRpm) {
+        stopRpm = kNever;
+        ThrottleStop();
+      }
+      Step(rpm, torque);
+      rpm += rpmStep;
+      torque += torqueStep;
       if (rowAfterShift_) {
         WriteChartRow();
         rowAfterShift_ = false;
@@ -556,6 +564,7 @@ void Run::RunGear(bool shifts) {
 
 bool Run::ShiftGear(std::size_t to) {
   const double time = in_.shiftTime[to - 1];
+  if (gains_) TakeTopSpeed(speedFps_);
   elapsed_ += time;
   const double air = mph_ + headWind_;
   aeroHp_ = air * air * mph_ * aeroFactor_;
@@ -605,7 +614,7 @@ RunResult Run::EachGear() {
     ReadGearTables(gear);
     elapsed_ = 0;
     distance_ = 0;
-    clockRuns_ = true;
+    nextMark_ = kNever;
     index_ = 0;
     currentRpm_ = TableRpm(0);
     torqueNow_ = TableTorque(0);
@@ -709,9 +718,11 @@ bool Run::RollOut() {
     acceleration_ = -deceleration;
     elapsed_ += dV / deceleration;
     distance_ += dV / deceleration * meanSpeedFps_;
-    if (!clockRuns_ && distance_ >= 0) EndRollout(true);
     lastRowElapsed_ = -1;
-    if (distance_ >= nextMark_) TakeMarks();
+    if (distance_ >= nextMark_) {
+      if (!clockRuns_) EndRollout(true);
+      TakeMarks();
+    }
     if (mph_ <= nextRow) {
       WriteChartRow();
       nextRow = Floor(mph_) - 5;
@@ -729,19 +740,15 @@ RunResult Run::Finish(RunEnd end) {
   result_.steps = steps_;
   result_.last = Row();
   result_.end = end;
-  result_.topSpeed = topMph_;
-  result_.topSpeedRpm = topRpm_;
-  result_.topSpeedGear = topGear_;
-  result_.topSpeedTime = topElapsed_;
-  result_.topSpeedFeet = topDistance_;
   if (limitedFeet_ > 0) result_.tractionLimitedFeet = limitedFeet_;
-  if (!(topMph_ > 0)) {
+  if (gains_) TakeTopSpeed(speedFps_);
+  if (!(result_.topSpeed > 0)) {
     result_.end = RunEnd::NoThrust;
     return result_;
   }
   // A car whose power has ended keeps its top speed, whatever the table goes on to.
   const bool powerEnded = end == RunEnd::Power;
-  const double lastFps = powerEnded ? topMph_ * kFeetASecondPerMph : speedFps_;
+  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : speedFps_;
   const double rpm = rpm_;
   const double left = kQuarterMile - distance_;
   if (distance_ < kOutOfGearFeet && !varies_) {
