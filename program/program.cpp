@@ -62,9 +62,10 @@ Program::Program(Host& host)
   auto& gearboxFinder = AddScreen<Form19>();
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
-  gearboxFinder.AddTaker(AddScreen<Form13>(static_cast<Grapher&>(*grapher_)));
+  auto& acceleration = AddScreen<Form13>(static_cast<Grapher&>(*grapher_));
+  gearboxFinder.AddTaker(acceleration);
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
-  AddScreen<Form20>();
+  AddScreen<Form20>().AddTaker(acceleration);
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });

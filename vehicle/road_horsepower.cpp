@@ -6,24 +6,14 @@
 #include "core/report.h"
 #include "core/units.h"
 #include "vehicle/gearing.h"
+#include "vehicle/road_load.h"
 
 namespace veldox {
 namespace {
 
 constexpr double kFeetASecondPerMph = 1.4666666666666666;
 constexpr double kFootPoundsASecond = 550;  // of one horsepower
-/// Barometer and density of standard air. What is no more than kLargestDensity is a density.
-constexpr double kStandardPressure = 29.92126;
-constexpr double kStandardDensity = 0.076501;
-constexpr double kLargestDensity = 0.1;
-/// Of drag in standard air and of rolling resistance, from MPH to horsepower.
-constexpr double kAeroFactor = 146625;
-constexpr double kRollFactor = 375;
-
-double DensityFactor(double trackPressure) {
-  return trackPressure > kLargestDensity ? trackPressure / kStandardPressure
-                                         : trackPressure / kStandardDensity;
-}
+constexpr double kLargestDensity = 0.1;     // of the track's air; what is above it is a pressure
 
 [[noreturn]] void FailAtRow(std::size_t row, const std::string& what) {
   throw CommandError(
@@ -120,7 +110,6 @@ std::vector<RoadPower> RoadPowerOf(const RoadCar& car, std::span<const double> m
                              "in speed to the next.");
   }
   const double mass = car.weight / kFeetASecondSquared;
-  const double drag = car.dragCoefficient * car.frontalArea * DensityFactor(car.trackPressure);
   std::vector<RoadPower> powers;
   powers.reserve(points - 1);
   for (std::size_t i = 1; i < points; ++i) {
@@ -132,9 +121,9 @@ std::vector<RoadPower> RoadPowerOf(const RoadCar& car, std::span<const double> m
     const double feetASecond = power.mph * kFeetASecondPerMph;
     const double rise = (mph[i] - mph[i - 1]) * kFeetASecondPerMph;
     power.accelerationHp = mass * feetASecond * rise / power.seconds / kFootPoundsASecond;
-    const double airSpeed = power.mph + car.headWind;
-    power.aeroHp = airSpeed * airSpeed * drag * power.mph / kAeroFactor;
-    power.rollHp = car.weight * car.rollingResistance * power.mph / kRollFactor;
+    power.aeroHp = AeroHorsepower(power.mph, car.dragCoefficient, car.frontalArea,
+                                  car.trackPressure, car.headWind);
+    power.rollHp = RollingHorsepower(car.weight, car.rollingResistance, power.mph);
     powers.push_back(power);
   }
   return powers;
