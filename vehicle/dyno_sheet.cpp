@@ -163,6 +163,8 @@ std::string DynoSheetReport(const DynoColumns& columns, const DynoSheetLayout& l
   }
   report.EndLine();
   WritePeaks(report, highestTorque, highestPower, layout);
+  // The mark of the last line needs a line break behind it.
+  report.EndLine();
   return report.Finish();
 }
 
