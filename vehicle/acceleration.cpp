@@ -90,7 +90,7 @@ struct StageRamp {
 
   /// @param at  RPM or seconds
   double At(double at) const {
-    if (at < start || at >= stop) return 0;
+    if (at < start || (at >= stop && stop < kNever)) return 0;
     if (at >= full || startPercent >= 100) return horsepower;
     return horsepower * ((at - start) / slope + startPercent) / 100;
   }
@@ -102,6 +102,49 @@ StageRamp RampOf(double horsepower, double start, double startPercent, double fu
   return ramp;
 }
 
+/// The stages that act in one gear.
+class ActiveStages {
+ public:
+  ActiveStages() = default;
+  ActiveStages(const AccelerationInputs& inputs, double gear) {
+    if (!inputs.nitrous) return;
+    for (std::size_t i = 0; i < kNitrousStages; ++i) {
+      const auto& stage = inputs.nitrousStages[i];
+      if (i >= kGearStages) {
+        if (stage[0] != 0) Add(RampOf(stage[0], stage[1], stage[2], stage[3], stage[4]), true);
+      } else if (stage[0] == gear && stage[0] != kUnusedStageGear) {
+        Add(RampOf(stage[1], stage[2], stage[3], stage[4], kNever), false);
+      }
+    }
+  }
+
+  /// Horsepower of all of them.
+  double At(double rpm, double elapsed) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) sum += ramps_[i].At(i < byRpm_ ? rpm : elapsed);
+    return sum;
+  }
+  /// Horsepower with the timed stages in full.
+  double AtFullTime(double rpm) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) {
+      sum += i < byRpm_ ? ramps_[i].At(rpm) : ramps_[i].horsepower;
+    }
+    return sum;
+  }
+  double Shot() const { return AtFullTime(kNever); }
+
+ private:
+  void Add(const StageRamp& ramp, bool byTime) {
+    ramps_[count_++] = ramp;
+    if (!byTime) byRpm_ = count_;
+  }
+
+  std::array<StageRamp, kNitrousStages> ramps_;
+  std::size_t count_ = 0;
+  std::size_t byRpm_ = 0;  ///< of them, which come first
+};
+
 /// The run itself. Whatever happens in a step is in plain numbers of this object.
 class Run {
  public:
@@ -112,8 +155,6 @@ class Run {
   RunResult Cvt();
 
  private:
-  using Stages = std::array<StageRamp, kNitrousStages>;
-
   void ReadGearTables(std::size_t gear);
   void ReadNitrous(double gear);
   void FindLaunch();
@@ -132,7 +173,7 @@ class Run {
   void ForceRow();
   void ThrottleStop();
   RunRow Row() const;
-  void SampleEvery(int steps);
+  void SampleDue();
   void Sample();
   void BeginClock();
   void Restart();
@@ -182,11 +223,8 @@ class Run {
   double torqueNow_ = 0;
   double rpmStep_ = 0;
 
-  // Nitrous stages that act in the present gear, by RPM, then by time
-  Stages byRpm_;
-  Stages byTime_;
-  std::size_t byRpmCount_ = 0;
-  std::size_t byTimeCount_ = 0;
+  // Nitrous of the present gear
+  ActiveStages stages_;
   double nitrousFactor_ = 1;
 
   // The moment
@@ -215,8 +253,8 @@ class Run {
   bool clockRuns_ = false;
   bool stopDone_ = false;
   bool rowAfterShift_ = false;
-  std::size_t mark_ = 0;      ///< the next one: those of the strip, then the further ones
-  double nextMark_ = 0;       ///< feet; before the clock runs the end of the rollout
+  std::size_t mark_ = 0;  ///< the next one: those of the strip, then the further ones
+  double nextMark_ = 0;   ///< feet; before the clock runs the end of the rollout
   double nextChartSpeed_ = 5;
   double nextChartMile_ = kFeetInMile;
   double lastRowAt_ = 0;
@@ -255,17 +293,7 @@ Run::Run(const AccelerationInputs& inputs, RunSink& sink)
 }
 
 void Run::ReadNitrous(double gear) {
-  byRpmCount_ = byTimeCount_ = 0;
-  if (!in_.nitrous) return;
-  for (std::size_t i = 0; i < kNitrousStages; ++i) {
-    const auto& stage = in_.nitrousStages[i];
-    if (i < kGearStages) {
-      if (stage[0] != gear || stage[0] == kUnusedStageGear) continue;
-      byRpm_[byRpmCount_++] = RampOf(stage[1], stage[2], stage[3], stage[4], kNever);
-    } else if (stage[0] != 0) {
-      byTime_[byTimeCount_++] = RampOf(stage[0], stage[1], stage[2], stage[3], stage[4]);
-    }
-  }
+  stages_ = ActiveStages(in_, gear);
 }
 
 void Run::ReadGearTables(std::size_t gear) {
@@ -289,9 +317,7 @@ void Run::ReadGearTables(std::size_t gear) {
 }
 
 double Run::AddNitrous() {
-  double sum = 0;
-  for (std::size_t i = 0; i < byRpmCount_; ++i) sum += byRpm_[i].At(rpm_);
-  for (std::size_t i = 0; i < byTimeCount_; ++i) sum += byTime_[i].At(elapsed_);
+  const double sum = stages_.At(rpm_, elapsed_);
   nitrousHp_ = sum;
   return sum * nitrousFactor_;
 }
@@ -459,13 +485,13 @@ void Run::WriteDueRows() {
 }
 
 void Run::Sample() {
-  if (sampled_ && mph_ > 0) sink_.Sample(Row());
+  if (!sampled_) return;
+  untilSample_ = sampleSteps_;
+  if (mph_ > 0) sink_.Sample(Row());
 }
 
-inline void Run::SampleEvery(int steps) {
-  if (--untilSample_ > 0) return;
-  untilSample_ = steps;
-  Sample();
+inline void Run::SampleDue() {
+  if (--untilSample_ <= 0) Sample();
 }
 
 void Run::Restart() {
@@ -473,7 +499,7 @@ void Run::Restart() {
   untilSample_ = sampled_ ? 0 : std::numeric_limits<int>::max();
   const int perInterval =
       std::clamp(kGearSamples / static_cast<int>(LastPoint()), 1, kMostIntervalSamples);
-  sampleSteps_ = sampled_ ? kSubSteps / perInterval : std::numeric_limits<int>::max();
+  sampleSteps_ = kSubSteps / perInterval;
 }
 
 void Run::WalkTo(double rpm, double step, double torqueStep) {
@@ -514,12 +540,14 @@ void Run::FindLaunch() {
 
 void Run::LaunchPhase() {
   rpmStep_ = kLaunchStep;
-  const int every = sampled_ ? kLaunchSampleSteps : sampleSteps_;
+  const int everyStep = sampleSteps_;
+  sampleSteps_ = kLaunchSampleSteps;
   for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
     Step(wheelRpm, torqueNow_);
     ChartRows();
-    SampleEvery(every);
+    SampleDue();
   }
+  sampleSteps_ = everyStep;
   launching_ = false;
 }
 
@@ -554,12 +582,12 @@ void Run::RunGear(bool shifts) {
         rowAfterShift_ = false;
       }
       ChartRows();
-      SampleEvery(sampleSteps_);
+      SampleDue();
     }
     WriteChartRow();
+    Sample();
     if (std::abs(rpm_ - shiftRpm) <= tolerance) break;
   }
-  Sample();
 }
 
 bool Run::ShiftGear(std::size_t to) {
@@ -637,6 +665,7 @@ RunResult Run::Cvt() {
   efficiency_ = efficiencyRaw_ / in_.dynoCorrection;
   nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
   varies_ = true;
+  sampleSteps_ = kCvtSampleSteps;
   std::size_t above = 1;
   while (above < LastPoint() && TableRpm(above) < in_.cvtRpm) ++above;
   const double low = TableRpm(above - 1);
@@ -669,7 +698,7 @@ RunResult Run::Cvt() {
     Move(dV, netHp_ * kPoundMphOfHp / meanMph);
     if (!(acceleration_ > 0)) break;
     ChartRows();
-    SampleEvery(kCvtSampleSteps);
+    SampleDue();
   }
   WriteChartRow();
   Sample();
@@ -856,7 +885,7 @@ void RequireCar(const AccelerationInputs& in) {
   for (std::size_t i = 0; i < kNitrousStages; ++i) {
     for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
       if (!Usable(in.nitrousStages[i][k])) {
-        throw RunInputError(RunField::Stage, i, kMustBeNumber).InColumn(k);
+        throw RunInputError(RunField::Nitrous, i, kMustBeNumber).InColumn(k);
       }
     }
   }
@@ -925,7 +954,7 @@ std::string CaptionOf(RunField field, std::size_t index) {
     case RunField::ThrottleStopTime: return "Throttle S Time";
     case RunField::CvtRpm: return "CVT RPM";
     case RunField::CvtLoss: return "CVT Power Loss";
-    case RunField::Stage: return "Nitrous stage " + std::to_string(index + 1);
+    case RunField::Nitrous: return "Nitrous stage " + std::to_string(index + 1);
   }
   return {};
 }
@@ -948,6 +977,19 @@ double RunResult::EighthMileMph() const {
 
 double RunResult::QuarterMileMph() const {
   return (at(StripMark::Feet1320).mph + at(StripMark::Feet1290).mph) / 2;
+}
+
+double NitrousShot(const AccelerationInputs& inputs, int gear) {
+  return ActiveStages(inputs, gear).Shot();
+}
+
+double EngineNitrous(const AccelerationInputs& inputs, int gear, double rpm) {
+  const double horsepower = ActiveStages(inputs, gear).AtFullTime(rpm);
+  if (!inputs.nitrousAtWheels) return horsepower;
+  const auto index = static_cast<std::size_t>(std::clamp(gear, 1, static_cast<int>(kGears)) - 1);
+  RequireLoss(inputs.gearLoss[index], RunField::GearLoss, index);
+  RequireLoss(inputs.rearEndLoss, RunField::RearEndLoss);
+  return horsepower / (Kept(inputs.gearLoss[index]) * Kept(inputs.rearEndLoss));
 }
 
 double TractionLimit(double carWeight, double mu) {
