@@ -178,8 +178,7 @@ struct RunRow {
   double acceleration = 0;  ///< feet a second squared
   double nitrousHp = 0;
   double hoodPressure = 0;  ///< psi
-  /// Revolutions a second that the engine gains in a second; none while no time goes by.
-  std::optional<double> rpsRate;
+  double rpsRate = 0;       ///< RPM that the engine gains in a second
 };
 
 /// Where a run's rows, lines and messages go. What a sink has no use for it leaves as it is.
