@@ -849,7 +849,7 @@ void RequireCar(const AccelerationInputs& in) {
   for (std::size_t i = 0; i < kNitrousStages; ++i) {
     for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
       if (!Usable(in.nitrousStages[i][k])) {
-        throw RunInputError(RunField::NitrousStage, i, kMustBeNumber).InColumn(k);
+        throw RunInputError(RunField::Stage, i, kMustBeNumber).InColumn(k);
       }
     }
   }
@@ -918,7 +918,7 @@ std::string CaptionOf(RunField field, std::size_t index) {
     case RunField::ThrottleStopTime: return "Throttle S Time";
     case RunField::CvtRpm: return "CVT RPM";
     case RunField::CvtLoss: return "CVT Power Loss";
-    case RunField::NitrousStage: return "Nitrous stage " + std::to_string(index + 1);
+    case RunField::Stage: return "Nitrous stage " + std::to_string(index + 1);
   }
   return {};
 }

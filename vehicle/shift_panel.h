@@ -91,7 +91,7 @@ class ShiftPanel : public ScreenPart {
                {"Shift",
                 {"1 - 2", "2 - 3", "3 - 4", "4 - 5", "5 - 6", "6 - 7", "7 - 8", "8 - 9", "9 -10",
                  "10 -11", "11 -12", "12 -13", "13 -14", "14 -15", "15 -16", "16 -17", "17 -18"}}};
-  Command Command33{Frame4, "Command33", "Done", "Back to the car.",
+  Command Command33{ShiftFrame, "Command33", "Done", "Back to the car.",
                     Runs(&ShiftPanel::Close, CommandRole::Closes)};
 };
 
