@@ -54,6 +54,12 @@ class AccelerationPage : public ScreenPart {
                Entry(KeyRule::UnsignedReal, Unit::Inches,
                      Holds(&P::TireRollingRadius).ShownAtOpening().ZeroKeepsText().NotConverted()),
                "From the ground to the middle of the wheel, with the car standing on it."};
+  Field Text12{DriveFrame,
+               "Text12",
+               "Trans Gear",
+               "1",
+               Entry(KeyRule::Digits, Holds(&P::TransGear).ZeroKeepsText()),
+               "The gear, counted from 1, that the car was in for the road horsepower charts."};
   CheckBox Check2{
       DriveFrame, "Check2", "Primary Drive",
       "NOTE: The Primary Drive can also be used for Gear Vendors and other Overdrive Unit."};
@@ -83,7 +89,7 @@ class AccelerationPage : public ScreenPart {
   Field Text31{ConverterFrame, "Text31", "Torque Multiplier", "1.6",
                Entry(KeyRule::UnsignedReal, Holds(&P::TorqueMultiplier))};
 
-  Frame LaunchFrame{Frame1, "LaunchFrame", "Launch", 0};
+  Frame LaunchFrame{Frame1, "LaunchFrame", "Launch and CVT", 0};
   Field Text69{
       LaunchFrame, "Text69", "Launch RPM", "5200",
       Entry(KeyRule::Digits, Unit::RevolutionsPerMinute, Holds(&P::LaunchRPM).ZeroKeepsText())};
@@ -106,6 +112,11 @@ class AccelerationPage : public ScreenPart {
                Entry(KeyRule::UnsignedReal, Holds(&P::DynoCorrection).ZeroKeepsText()),
                "What the torque of the table was corrected by; the engine's own is the table "
                "divided by it."};
+  Field Text77{
+      LaunchFrame, "Text77", "CVT RPM", "9500",
+      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::CVTRPM).ZeroKeepsText())};
+  Field Text78{LaunchFrame, "Text78", "CVT Power Loss", "20.0",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::CVTPowerLoss))};
 
   Frame VehicleFrame{Frame1, "VehicleFrame", "Vehicle", 1};
   Field Text51{VehicleFrame, "Text51", "Vehicle Weight plus driver", "2350",
@@ -175,13 +186,6 @@ class AccelerationPage : public ScreenPart {
       "When Checked, the RPS (Revolutions Per Second) rate of acceleration will be shown on the "
       "Report"};
 
-  Frame CvtFrame{Frame1, "CvtFrame", "CVT", 1};
-  Field Text77{
-      CvtFrame, "Text77", "CVT RPM", "9500",
-      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::CVTRPM).ZeroKeepsText())};
-  Field Text78{CvtFrame, "Text78", "CVT Power Loss", "20.0",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::CVTPowerLoss))};
-
   Frame WheelFrame{Frame1, "WheelFrame", "Wheel Torque", 2};
   Field Text45{WheelFrame, "Text45", "Torque", "555.0",
                Entry(KeyRule::UnsignedReal, Unit::Torque, Holds(&P::Torque).NotConverted())};
@@ -236,12 +240,6 @@ class AccelerationPage : public ScreenPart {
   Field Text70{RoadFrame, "Text70",
                "ROad HP RPM Rate per Sec. If other than 0 used in place of Parameter File Times",
                "0", KeyRule::UnsignedReal};
-  Field Text12{RoadFrame,
-               "Text12",
-               "Trans Gear",
-               "1",
-               Entry(KeyRule::Digits, Holds(&P::TransGear).ZeroKeepsText()),
-               "The gear, counted from 1, that the car was in for the road horsepower charts."};
 };
 
 }  // namespace veldox
