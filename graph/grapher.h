@@ -32,6 +32,8 @@ struct GraphCurve {
   /// A line across the graph that the curve is read against, such as the lift a cam is rated at.
   /// It is drawn once, however many curves bring it, and is no curve itself.
   std::optional<double> standardLine = std::nullopt;
+  /// A colour of its own; the pens do not move on.
+  std::optional<CurveColorEntry> color = std::nullopt;
 };
 
 /// The grapher as other screens see it: a graph command computes its curves and hands

@@ -123,7 +123,7 @@ void Form8::KeepFirstLimits() {
 void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
   if (curves.empty()) PlotEngine::RequireSeries({});
   for (const GraphCurve& curve : curves) {
-    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints);
+    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints, curve.color);
     if (!curve.note.empty()) next.SetCurveNote(curve.note + "  " + next.series().back().name);
     if (curve.boxes) {
       const Color color = next.ShownColor(next.series().back());

@@ -331,9 +331,14 @@ void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_v
 }
 
 void PlotEngine::PlotSeries(std::span<const GraphPoint> points, std::string note,
-                            std::span<const std::size_t> moves, std::size_t fewest) {
+                            std::span<const std::size_t> moves, std::size_t fewest,
+                            const std::optional<CurveColorEntry>& color) {
   RequireSeries(points, note.empty() ? Caption(kTitleCaption) : note, fewest);
-  CurveColor();
+  if (color) {
+    CurveInColor(*color);
+  } else {
+    CurveColor();
+  }
   PlotSeriesRecord& series = series_.back();
   series.note = std::move(note);
   series.points.assign(points.begin(), points.end());

@@ -90,7 +90,7 @@ struct StageRamp {
 
   /// @param at  RPM or seconds
   double At(double at) const {
-    if (at < start || at >= stop) return 0;
+    if (at < start || (at >= stop && stop < kNever)) return 0;
     if (at >= full || startPercent >= 100) return horsepower;
     return horsepower * ((at - start) / slope + startPercent) / 100;
   }
@@ -102,6 +102,49 @@ StageRamp RampOf(double horsepower, double start, double startPercent, double fu
   return ramp;
 }
 
+/// The stages that act in one gear.
+class ActiveStages {
+ public:
+  ActiveStages() = default;
+  ActiveStages(const AccelerationInputs& inputs, double gear) {
+    if (!inputs.nitrous) return;
+    for (std::size_t i = 0; i < kNitrousStages; ++i) {
+      const auto& stage = inputs.nitrousStages[i];
+      if (i >= kGearStages) {
+        if (stage[0] != 0) Add(RampOf(stage[0], stage[1], stage[2], stage[3], stage[4]), true);
+      } else if (stage[0] == gear && stage[0] != kUnusedStageGear) {
+        Add(RampOf(stage[1], stage[2], stage[3], stage[4], kNever), false);
+      }
+    }
+  }
+
+  /// Horsepower of all of them.
+  double At(double rpm, double elapsed) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) sum += ramps_[i].At(i < byRpm_ ? rpm : elapsed);
+    return sum;
+  }
+  /// Horsepower with the timed stages in full.
+  double AtFullTime(double rpm) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) {
+      sum += i < byRpm_ ? ramps_[i].At(rpm) : ramps_[i].horsepower;
+    }
+    return sum;
+  }
+  double Shot() const { return AtFullTime(kNever); }
+
+ private:
+  void Add(const StageRamp& ramp, bool byTime) {
+    ramps_[count_++] = ramp;
+    if (!byTime) byRpm_ = count_;
+  }
+
+  std::array<StageRamp, kNitrousStages> ramps_;
+  std::size_t count_ = 0;
+  std::size_t byRpm_ = 0;  ///< of them, which come first
+};
+
 /// The run itself. Whatever happens in a step is in plain numbers of this object.
 class Run {
  public:
@@ -112,8 +155,6 @@ class Run {
   RunResult Cvt();
 
  private:
-  using Stages = std::array<StageRamp, kNitrousStages>;
-
   void ReadGearTables(std::size_t gear);
   void ReadNitrous(double gear);
   void FindLaunch();
@@ -123,14 +164,16 @@ class Run {
   void Step(double rpm, double torque);
   double AddNitrous();
   void Move(double dV, double thrust);
+  void TakeTopSpeed(double feetASecond);
   void EndRollout(bool late);
   void TakeMarks();
   void ChartRows();
+  void WriteDueRows();
   void WriteChartRow();
   void ForceRow();
   void ThrottleStop();
   RunRow Row() const;
-  void SampleEvery(int steps);
+  void SampleDue();
   void Sample();
   void BeginClock();
   void Restart();
@@ -180,11 +223,8 @@ class Run {
   double torqueNow_ = 0;
   double rpmStep_ = 0;
 
-  // Nitrous stages that act in the present gear, by RPM, then by time
-  Stages byRpm_;
-  Stages byTime_;
-  std::size_t byRpmCount_ = 0;
-  std::size_t byTimeCount_ = 0;
+  // Nitrous of the present gear
+  ActiveStages stages_;
   double nitrousFactor_ = 1;
 
   // The moment
@@ -213,8 +253,8 @@ class Run {
   bool clockRuns_ = false;
   bool stopDone_ = false;
   bool rowAfterShift_ = false;
-  std::size_t mark_ = 0;      ///< the next one: those of the strip, then the further ones
-  double nextMark_ = kNever;  ///< feet; none before the clock runs
+  std::size_t mark_ = 0;  ///< the next one: those of the strip, then the further ones
+  double nextMark_ = 0;   ///< feet; before the clock runs the end of the rollout
   double nextChartSpeed_ = 5;
   double nextChartMile_ = kFeetInMile;
   double lastRowAt_ = 0;
@@ -224,12 +264,7 @@ class Run {
 
   // What is told of the run
   RunResult result_;
-  double topMph_ = 0;
-  double topRpm_ = 0;
-  double topElapsed_ = 0;
-  double topDistance_ = 0;
-  int topGear_ = 0;
-  bool limited_ = false;
+  bool gains_ = false;  ///< the last step gained speed
   double limitedFeet_ = 0;
 };
 
@@ -258,17 +293,7 @@ Run::Run(const AccelerationInputs& inputs, RunSink& sink)
 }
 
 void Run::ReadNitrous(double gear) {
-  byRpmCount_ = byTimeCount_ = 0;
-  if (!in_.nitrous) return;
-  for (std::size_t i = 0; i < kNitrousStages; ++i) {
-    const auto& stage = in_.nitrousStages[i];
-    if (i < kGearStages) {
-      if (stage[0] != gear || stage[0] == kUnusedStageGear) continue;
-      byRpm_[byRpmCount_++] = RampOf(stage[1], stage[2], stage[3], stage[4], kNever);
-    } else if (stage[0] != 0) {
-      byTime_[byTimeCount_++] = RampOf(stage[0], stage[1], stage[2], stage[3], stage[4]);
-    }
-  }
+  stages_ = ActiveStages(in_, gear);
 }
 
 void Run::ReadGearTables(std::size_t gear) {
@@ -292,9 +317,7 @@ void Run::ReadGearTables(std::size_t gear) {
 }
 
 double Run::AddNitrous() {
-  double sum = 0;
-  for (std::size_t i = 0; i < byRpmCount_; ++i) sum += byRpm_[i].At(rpm_);
-  for (std::size_t i = 0; i < byTimeCount_; ++i) sum += byTime_[i].At(elapsed_);
+  const double sum = stages_.At(rpm_, elapsed_);
   nitrousHp_ = sum;
   return sum * nitrousFactor_;
 }
@@ -330,12 +353,8 @@ void Run::TakeMarks() {
 }
 
 inline void Run::Move(double dV, double thrust) {
-  if (thrust > tractionLimit_) {
-    thrust = tractionLimit_;
-    limited_ = true;
-  } else {
-    limited_ = false;
-  }
+  const bool limited = thrust > tractionLimit_;
+  if (limited) thrust = tractionLimit_;
   acceleration_ = thrust * perMass_;
   // A car that gains no speed stands still in time and distance: what is left of the table goes by
   // without it.
@@ -349,15 +368,24 @@ inline void Run::Move(double dV, double thrust) {
         lastRpmStep_ = rpmStep_;
       }
     }
-    topMph_ = mph_;
-    topRpm_ = rpm_;
-    topElapsed_ = elapsed_;
-    topDistance_ = distance_;
-    topGear_ = static_cast<int>(gear_) + 1;
-    if (limited_) limitedFeet_ = distance_;
+    gains_ = true;
+    if (limited) limitedFeet_ = distance_;
+  } else if (gains_) {
+    TakeTopSpeed(2 * meanSpeedFps_ - speedFps_);
   }
-  if (!clockRuns_ && distance_ >= 0) EndRollout(!launching_ && !varies_);
-  if (distance_ >= nextMark_) TakeMarks();
+  if (distance_ >= nextMark_) {
+    if (!clockRuns_) EndRollout(!launching_ && !varies_);
+    TakeMarks();
+  }
+}
+
+void Run::TakeTopSpeed(double feetASecond) {
+  gains_ = false;
+  result_.topSpeed = feetASecond / kFeetASecondPerMph;
+  result_.topSpeedRpm = varies_ ? rpm_ : result_.topSpeed / speedFactor_;
+  result_.topSpeedGear = static_cast<int>(gear_) + 1;
+  result_.topSpeedTime = elapsed_;
+  result_.topSpeedFeet = distance_;
 }
 
 inline void Run::Step(double rpm, double torque) {
@@ -443,26 +471,27 @@ void Run::ThrottleStop() {
   sink_.ThrottleStopEnds();
 }
 
-void Run::ChartRows() {
+inline void Run::ChartRows() {
+  if (mph_ >= nextChartSpeed_ || distance_ >= nextChartMile_) WriteDueRows();
+}
+
+void Run::WriteDueRows() {
+  WriteChartRow();
   if (mph_ >= nextChartSpeed_) {
-    WriteChartRow();
     const bool coarse = launching_ || (elapsed_ < kFineChartSeconds && distance_ < kFineChartFeet);
     nextChartSpeed_ = Floor(mph_) + (coarse ? 5 : 1);
   }
-  if (distance_ >= nextChartMile_) {
-    WriteChartRow();
-    nextChartMile_ = Floor(distance_) + kFeetInMile;
-  }
+  if (distance_ >= nextChartMile_) nextChartMile_ = Floor(distance_) + kFeetInMile;
 }
 
 void Run::Sample() {
-  if (sampled_ && mph_ > 0) sink_.Sample(Row());
+  if (!sampled_) return;
+  untilSample_ = sampleSteps_;
+  if (mph_ > 0) sink_.Sample(Row());
 }
 
-inline void Run::SampleEvery(int steps) {
-  if (--untilSample_ > 0) return;
-  untilSample_ = steps;
-  Sample();
+inline void Run::SampleDue() {
+  if (--untilSample_ <= 0) Sample();
 }
 
 void Run::Restart() {
@@ -470,7 +499,7 @@ void Run::Restart() {
   untilSample_ = sampled_ ? 0 : std::numeric_limits<int>::max();
   const int perInterval =
       std::clamp(kGearSamples / static_cast<int>(LastPoint()), 1, kMostIntervalSamples);
-  sampleSteps_ = sampled_ ? kSubSteps / perInterval : std::numeric_limits<int>::max();
+  sampleSteps_ = kSubSteps / perInterval;
 }
 
 void Run::WalkTo(double rpm, double step, double torqueStep) {
@@ -511,51 +540,59 @@ void Run::FindLaunch() {
 
 void Run::LaunchPhase() {
   rpmStep_ = kLaunchStep;
-  const int every = sampled_ ? kLaunchSampleSteps : sampleSteps_;
+  const int everyStep = sampleSteps_;
+  sampleSteps_ = kLaunchSampleSteps;
   for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
     Step(wheelRpm, torqueNow_);
     ChartRows();
-    SampleEvery(every);
+    SampleDue();
   }
+  sampleSteps_ = everyStep;
   launching_ = false;
 }
 
 void Run::RunGear(bool shifts) {
   const double shiftRpm = shifts ? shiftRpm_ : kNever;
-  const double stopRpm = shifts && in_.throttleStop ? in_.throttleStopRpm : kNever;
+  double stopRpm = shifts && in_.throttleStop && !stopDone_ ? in_.throttleStopRpm : kNever;
+  double rpm = currentRpm_, torque = torqueNow_;
   for (; index_ < LastPoint(); ++index_) {
     const double next = TableRpm(index_ + 1);
-    rpmStep_ = (next - TableRpm(index_)) / kSubSteps;
+    const double rpmStep = (next - TableRpm(index_)) / kSubSteps;
     const double rise = TableTorque(index_ + 1) - TableTorque(index_);
     const double torqueStep = rise / kSubSteps;
-    const double tolerance = rpmStep_ * kStepTolerance;
+    const double tolerance = rpmStep * kStepTolerance;
+    rpmStep_ = rpmStep;
     // An interval that the last one's step has passed over gives its rise all the same.
-    if (currentRpm_ > next + tolerance) torqueNow_ += rise;
-    while (currentRpm_ <= next + tolerance) {
-      if (currentRpm_ > shiftRpm + tolerance) {
+    if (rpm > next + tolerance) torque += rise;
+    while (rpm <= next + tolerance) {
+      if (rpm > shiftRpm + tolerance) {
         WriteChartRow();
         Sample();
         return;
       }
-      if (currentRpm_ >= stopRpm && !stopDone_) ThrottleStop();
-      Step(currentRpm_, torqueNow_);
-      currentRpm_ += rpmStep_;
-      torqueNow_ += torqueStep;
+      if (rpm >= stopRpm) {
+        stopRpm = kNever;
+        ThrottleStop();
+      }
+      Step(rpm, torque);
+      rpm += rpmStep;
+      torque += torqueStep;
       if (rowAfterShift_) {
         WriteChartRow();
         rowAfterShift_ = false;
       }
       ChartRows();
-      SampleEvery(sampleSteps_);
+      SampleDue();
     }
     WriteChartRow();
+    Sample();
     if (std::abs(rpm_ - shiftRpm) <= tolerance) break;
   }
-  Sample();
 }
 
 bool Run::ShiftGear(std::size_t to) {
   const double time = in_.shiftTime[to - 1];
+  if (gains_) TakeTopSpeed(speedFps_);
   elapsed_ += time;
   const double air = mph_ + headWind_;
   aeroHp_ = air * air * mph_ * aeroFactor_;
@@ -605,7 +642,7 @@ RunResult Run::EachGear() {
     ReadGearTables(gear);
     elapsed_ = 0;
     distance_ = 0;
-    clockRuns_ = true;
+    nextMark_ = kNever;
     index_ = 0;
     currentRpm_ = TableRpm(0);
     torqueNow_ = TableTorque(0);
@@ -628,6 +665,7 @@ RunResult Run::Cvt() {
   efficiency_ = efficiencyRaw_ / in_.dynoCorrection;
   nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
   varies_ = true;
+  sampleSteps_ = kCvtSampleSteps;
   std::size_t above = 1;
   while (above < LastPoint() && TableRpm(above) < in_.cvtRpm) ++above;
   const double low = TableRpm(above - 1);
@@ -660,7 +698,7 @@ RunResult Run::Cvt() {
     Move(dV, netHp_ * kPoundMphOfHp / meanMph);
     if (!(acceleration_ > 0)) break;
     ChartRows();
-    SampleEvery(kCvtSampleSteps);
+    SampleDue();
   }
   WriteChartRow();
   Sample();
@@ -709,9 +747,11 @@ bool Run::RollOut() {
     acceleration_ = -deceleration;
     elapsed_ += dV / deceleration;
     distance_ += dV / deceleration * meanSpeedFps_;
-    if (!clockRuns_ && distance_ >= 0) EndRollout(true);
     lastRowElapsed_ = -1;
-    if (distance_ >= nextMark_) TakeMarks();
+    if (distance_ >= nextMark_) {
+      if (!clockRuns_) EndRollout(true);
+      TakeMarks();
+    }
     if (mph_ <= nextRow) {
       WriteChartRow();
       nextRow = Floor(mph_) - 5;
@@ -729,19 +769,15 @@ RunResult Run::Finish(RunEnd end) {
   result_.steps = steps_;
   result_.last = Row();
   result_.end = end;
-  result_.topSpeed = topMph_;
-  result_.topSpeedRpm = topRpm_;
-  result_.topSpeedGear = topGear_;
-  result_.topSpeedTime = topElapsed_;
-  result_.topSpeedFeet = topDistance_;
   if (limitedFeet_ > 0) result_.tractionLimitedFeet = limitedFeet_;
-  if (!(topMph_ > 0)) {
+  if (gains_) TakeTopSpeed(speedFps_);
+  if (!(result_.topSpeed > 0)) {
     result_.end = RunEnd::NoThrust;
     return result_;
   }
   // A car whose power has ended keeps its top speed, whatever the table goes on to.
   const bool powerEnded = end == RunEnd::Power;
-  const double lastFps = powerEnded ? topMph_ * kFeetASecondPerMph : speedFps_;
+  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : speedFps_;
   const double rpm = rpm_;
   const double left = kQuarterMile - distance_;
   if (distance_ < kOutOfGearFeet && !varies_) {
@@ -849,7 +885,7 @@ void RequireCar(const AccelerationInputs& in) {
   for (std::size_t i = 0; i < kNitrousStages; ++i) {
     for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
       if (!Usable(in.nitrousStages[i][k])) {
-        throw RunInputError(RunField::Stage, i, kMustBeNumber).InColumn(k);
+        throw RunInputError(RunField::Nitrous, i, kMustBeNumber).InColumn(k);
       }
     }
   }
@@ -918,7 +954,7 @@ std::string CaptionOf(RunField field, std::size_t index) {
     case RunField::ThrottleStopTime: return "Throttle S Time";
     case RunField::CvtRpm: return "CVT RPM";
     case RunField::CvtLoss: return "CVT Power Loss";
-    case RunField::Stage: return "Nitrous stage " + std::to_string(index + 1);
+    case RunField::Nitrous: return "Nitrous stage " + std::to_string(index + 1);
   }
   return {};
 }
@@ -941,6 +977,19 @@ double RunResult::EighthMileMph() const {
 
 double RunResult::QuarterMileMph() const {
   return (at(StripMark::Feet1320).mph + at(StripMark::Feet1290).mph) / 2;
+}
+
+double NitrousShot(const AccelerationInputs& inputs, int gear) {
+  return ActiveStages(inputs, gear).Shot();
+}
+
+double EngineNitrous(const AccelerationInputs& inputs, int gear, double rpm) {
+  const double horsepower = ActiveStages(inputs, gear).AtFullTime(rpm);
+  if (!inputs.nitrousAtWheels) return horsepower;
+  const auto index = static_cast<std::size_t>(std::clamp(gear, 1, static_cast<int>(kGears)) - 1);
+  RequireLoss(inputs.gearLoss[index], RunField::GearLoss, index);
+  RequireLoss(inputs.rearEndLoss, RunField::RearEndLoss);
+  return horsepower / (Kept(inputs.gearLoss[index]) * Kept(inputs.rearEndLoss));
 }
 
 double TractionLimit(double carWeight, double mu) {

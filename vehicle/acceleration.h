@@ -127,7 +127,7 @@ enum class RunField {
   ThrottleStopTime,
   CvtRpm,
   CvtLoss,
-  Stage,
+  Nitrous,  ///< a stage
 };
 
 /// An input that no run can be made from. Its message names the field by its caption; a screen that
@@ -293,6 +293,12 @@ struct RunResult {
 
 /// The thrust in pounds that the tires hold. @param mu  below kFrictionLimit
 double TractionLimit(double carWeight, double mu);
+
+/// The nitrous stages that act in a gear, in horsepower of the full shot. @param gear  from 1
+double NitrousShot(const AccelerationInputs& inputs, int gear);
+/// What they give the engine at an RPM, with the timed stages in full.
+/// @throws RunInputError where a loss leaves nothing of the power
+double EngineNitrous(const AccelerationInputs& inputs, int gear, double rpm);
 
 /// Refuses inputs that no run can be made from.
 /// @throws RunInputError

@@ -130,7 +130,7 @@ Field* RunInputs::FieldOf(const RunInputError& error) {
     case RunField::ThrottleStopTime: return &page.Text80;
     case RunField::CvtRpm: return &page.Text77;
     case RunField::CvtLoss: return &page.Text78;
-    case RunField::Stage: return &stages.Cell(error.index(), error.column());
+    case RunField::Nitrous: return &stages.Cell(error.index(), error.column());
   }
   return nullptr;
 }
