@@ -23,13 +23,13 @@ double AccelerationPage::ReadPrimaryDrive() {
   return block().PrimaryDrive;
 }
 
-void AccelerationPage::ShowDrag() {
+void AccelerationPage::ShowDrag(bool withArea) {
   const auto show = [this](Field& field, double number) {
     screen().ShowShared(field, number);
     field.SetMark(Mark::Changed);
   };
   show(Text64, block().CoefficientofDrag);
-  show(Text65, block().FrontalArea);
+  if (withArea) show(Text65, block().FrontalArea);
 }
 
 AccelerationPage::RoadLoad AccelerationPage::ReadRoadLoad() {

@@ -18,8 +18,9 @@ class AccelerationPage : public ScreenPart {
   void Open() { Frame1.Open(); }
   /// The primary drive where it is in use, else 1. @throws CommandError that names the field
   double ReadPrimaryDrive();
-  /// Shows drag and frontal area of the shared values as changed.
-  void ShowDrag();
+  /// Shows the drag, and where it was picked with it the frontal area, of the shared values as
+  /// changed.
+  void ShowDrag(bool withArea);
 
  private:
   void SolveRoadLoad();

@@ -29,6 +29,11 @@ void Form13::TakeGearbox(const Gearbox& gearbox) {
   Shifts.ShowRatios();
 }
 
+void Form13::TakeDrag(const DragFigures& figures) {
+  if (!visible() && block().FormsCleared != 1) CopyShared();
+  Page.ShowDrag(figures.frontalArea.has_value());
+}
+
 void Form13::SolveWheelTorque() {
   ReadFields({&Page.Text45, &Page.Text18, &Page.Text47, &Page.Text49, &Page.Text51});
   const double firstGear = Shifts.ReadTransRatio(0);

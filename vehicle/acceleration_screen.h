@@ -4,8 +4,11 @@
 #include "core/screen.h"
 #include "graph/grapher.h"
 #include "vehicle/acceleration_page.h"
+#include "vehicle/drag.h"
+#include "vehicle/dyno_panel.h"
 #include "vehicle/gearbox.h"
 #include "vehicle/nitrous_stages_panel.h"
+#include "vehicle/road_charts.h"
 #include "vehicle/run_inputs.h"
 #include "vehicle/shift_panel.h"
 #include "vehicle/torque_table_panel.h"
@@ -15,7 +18,7 @@ namespace veldox {
 /// Acceleration and top speed: a run down the strip, worked out in small steps of engine speed from
 /// the torque table, the gearbox and the car. Its main page and its panels take turns, each a class
 /// of its own; the commands that run the car stay beside them.
-class Form13 : public Screen, public GearboxTaker {
+class Form13 : public Screen, public GearboxTaker, public DragTaker {
   // Parts are handed it, which are made before what is declared behind them.
   Grapher& grapher_;
 
@@ -26,6 +29,7 @@ class Form13 : public Screen, public GearboxTaker {
   ReportBox* ReportPane() override { return &Text58; }
   void CopyFromBlock() override;
   void TakeGearbox(const Gearbox& gearbox) override;
+  void TakeDrag(const DragFigures& figures) override;
 
  private:
   void SolveWheelTorque();
@@ -45,7 +49,8 @@ class Form13 : public Screen, public GearboxTaker {
   NitrousStagesPanel Stages{*this};
   TorqueTablePanel Torques{*this};
   RunInputs Inputs{*this, Page, Shifts, Stages};
-  // DynoPanel Dyno{*this, Inputs, grapher_};
+  RoadCharts Roads{*this, Inputs};
+  DynoPanel Dyno{*this, Inputs, grapher_};
 
   Frame RunFrame{*this, "RunFrame", "Run", 0};
   Command Command25{
@@ -71,7 +76,9 @@ class Form13 : public Screen, public GearboxTaker {
   Command TorqueTable{EngineFrame, "TorqueTable", "Torque Table",
                       "The points of RPM and torque that a run takes, to be seen and edited.",
                       Opens(&Form13::Torques)};
-  // Command15 "Graph Accel / Dyno / Report" opens the dyno panel.
+  Command Command15{RunFrame, "Command15", "Graph Accel / Dyno / Report",
+                    "Graphs of the run and of the dyno sheet, and the dyno sheet as a text report.",
+                    Opens(&Form13::Dyno)};
 
   Frame HelpFrame{*this, "HelpFrame", ""};
   ReportBox Text58{HelpFrame, "Text58"};

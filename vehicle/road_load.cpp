@@ -14,8 +14,10 @@ double TrackDensityFactor(double track) {
   return track > kLeastPressure ? track / kStandardPressure : track / kStandardDensity;
 }
 
-double AeroHorsepower(double mph, double dragCoefficient, double area, double track) {
-  return mph * mph * mph * dragCoefficient * area / 146625 * TrackDensityFactor(track);
+double AeroHorsepower(double mph, double dragCoefficient, double area, double track,
+                      double headWind) {
+  const double airSpeed = mph + headWind;
+  return airSpeed * airSpeed * mph * dragCoefficient * area / 146625 * TrackDensityFactor(track);
 }
 
 double RollingHorsepower(double weight, double resistance, double mph) {

@@ -7,8 +7,9 @@ namespace veldox {
 double TrackDensityFactor(double track);
 
 /// Horsepower that the air takes of a car. @param mph  miles an hour  @param area  square feet
-/// @param track  as TrackDensityFactor
-double AeroHorsepower(double mph, double dragCoefficient, double area, double track);
+/// @param track  as TrackDensityFactor  @param headWind  miles an hour
+double AeroHorsepower(double mph, double dragCoefficient, double area, double track,
+                      double headWind = 0);
 
 /// Horsepower that the tires take. @param weight  pounds  @param resistance  of the weight
 double RollingHorsepower(double weight, double resistance, double mph);
