@@ -90,6 +90,35 @@ class AccelerationPage : public ScreenPart {
   Field Text31{ConverterFrame, "Text31", "Torque Multiplier", "1.6",
                Entry(KeyRule::UnsignedReal, Holds(&P::TorqueMultiplier))};
 
+  Frame LaunchFrame{Frame1, "LaunchFrame", "Launch and CVT", 0};
+  Field Text69{
+      LaunchFrame, "Text69", "Launch RPM", "5200",
+      Entry(KeyRule::Digits, Unit::RevolutionsPerMinute, Holds(&P::LaunchRPM).ZeroKeepsText())};
+  Field Text29{LaunchFrame,
+               "Text29",
+               "Rollout Distance inches",
+               "11.75",
+               Entry(KeyRule::UnsignedReal, Holds(&P::RollOut)),
+               "How far the car rolls before its wheel leaves the beam that starts the clock."};
+  Field Text42{LaunchFrame,
+               "Text42",
+               "Coefficient of Mu",
+               "5.0",
+               Entry(KeyRule::UnsignedReal, Holds(&P::CoefficientofMu).ZeroKeepsText()),
+               "The grip of the driven tires. 5 is as good as no limit; it must be below 36/7."};
+  Field Text67{LaunchFrame,
+               "Text67",
+               "Dyno Correct Factor",
+               "1.00",
+               Entry(KeyRule::UnsignedReal, Holds(&P::DynoCorrection).ZeroKeepsText()),
+               "What the torque of the table was corrected by; the engine's own is the table "
+               "divided by it."};
+  Field Text77{
+      LaunchFrame, "Text77", "CVT RPM", "9500",
+      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::CVTRPM).ZeroKeepsText())};
+  Field Text78{LaunchFrame, "Text78", "CVT Power Loss", "20.0",
+               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::CVTPowerLoss))};
+
   Frame VehicleFrame{Frame1, "VehicleFrame", "Vehicle", 1};
   Field Text51{VehicleFrame, "Text51", "Vehicle Weight plus driver", "2350",
                Entry(KeyRule::UnsignedReal, Unit::Weight,
@@ -134,31 +163,7 @@ class AccelerationPage : public ScreenPart {
       "Lets the user have a Hood Scoop. The program will calculate a Ram Air factor / positive "
       "pressure in the intake track."};
 
-  Frame LaunchFrame{Frame1, "LaunchFrame", "Launch", 2};
-  Field Text69{
-      LaunchFrame, "Text69", "Launch RPM", "5200",
-      Entry(KeyRule::Digits, Unit::RevolutionsPerMinute, Holds(&P::LaunchRPM).ZeroKeepsText())};
-  Field Text29{LaunchFrame,
-               "Text29",
-               "Rollout Distance inches",
-               "11.75",
-               Entry(KeyRule::UnsignedReal, Holds(&P::RollOut)),
-               "How far the car rolls before its wheel leaves the beam that starts the clock."};
-  Field Text42{LaunchFrame,
-               "Text42",
-               "Coefficient of Mu",
-               "5.0",
-               Entry(KeyRule::UnsignedReal, Holds(&P::CoefficientofMu).ZeroKeepsText()),
-               "The grip of the driven tires. 5 is as good as no limit; it must be below 36/7."};
-  Field Text67{LaunchFrame,
-               "Text67",
-               "Dyno Correct Factor",
-               "1.00",
-               Entry(KeyRule::UnsignedReal, Holds(&P::DynoCorrection).ZeroKeepsText()),
-               "What the torque of the table was corrected by; the engine's own is the table "
-               "divided by it."};
-
-  Frame OptionsFrame{Frame1, "OptionsFrame", "Nitrous and Throttle Stop", 2};
+  Frame OptionsFrame{Frame1, "OptionsFrame", "Run Options", 1};
   CheckBox Check3{
       OptionsFrame, "Check3", "Nitrous",
       "Lets the user have up to Four (7) time based and up to Seven (7) Tran Gear based Stages of "
@@ -177,15 +182,12 @@ class AccelerationPage : public ScreenPart {
                      Holds(&P::ThrottleStopRPM).NotShownAtOpening().ZeroKeepsText())};
   Field Text80{OptionsFrame, "Text80", "Throttle S Time", "0.3",
                Entry(KeyRule::UnsignedReal, Unit::Seconds, Holds(&P::ThrottleStopTime))};
+  CheckBox Check7{
+      OptionsFrame, "Check7", "Show RPS Rate",
+      "When Checked, the RPS (Revolutions Per Second) rate of acceleration will be shown on the "
+      "Report"};
 
-  Frame CvtFrame{Frame1, "CvtFrame", "CVT", 2};
-  Field Text77{
-      CvtFrame, "Text77", "CVT RPM", "9500",
-      Entry(KeyRule::UnsignedReal, Unit::RevolutionsPerMinute, Holds(&P::CVTRPM).ZeroKeepsText())};
-  Field Text78{CvtFrame, "Text78", "CVT Power Loss", "20.0",
-               Entry(KeyRule::UnsignedReal, Unit::Percent, Holds(&P::CVTPowerLoss))};
-
-  Frame WheelFrame{Frame1, "WheelFrame", "Wheel Torque", 3};
+  Frame WheelFrame{Frame1, "WheelFrame", "Wheel Torque", 2};
   Field Text45{WheelFrame, "Text45", "Torque", "555.0",
                Entry(KeyRule::UnsignedReal, Unit::Torque, Holds(&P::Torque).NotConverted())};
   Field Text46{WheelFrame, "Text46", "Wheel Drive Torque", "2874.12",
@@ -195,7 +197,7 @@ class AccelerationPage : public ScreenPart {
   Field Text50{WheelFrame, "Text50", "G Force from Acceleration", "1.234",
                Entry(KeyRule::OutputOnly, Holds(&P::LongAcelGs))};
 
-  Frame SpeedFrame{Frame1, "SpeedFrame", "Power at a Speed", 3};
+  Frame SpeedFrame{Frame1, "SpeedFrame", "Power at a Speed", 2};
   Field Text1{SpeedFrame, "Text1", "MPH", "42.5",
               Entry(KeyRule::UnsignedReal, Unit::MilesPerHour, Holds(&P::MPH).NotConverted())};
   Field Text63{SpeedFrame, "Text63", "Aerodynamic HP Loss", "777.77",
@@ -221,7 +223,7 @@ class AccelerationPage : public ScreenPart {
       "= 25.65\r\nNOTE: This is NOT for 1/4 Mile or Drag Racing",
       Runs(&AccelerationPage::SolveTopSpeedPower)};
 
-  Frame CurveFrame{Frame1, "CurveFrame", "Torque Curve", 3};
+  Frame CurveFrame{Frame1, "CurveFrame", "Torque Curve", 2};
   Field Text72{CurveFrame, "Text72", "Shift Torque Up + or Down - \"xxxx\" RPM", "2350",
                Entry(KeyRule::SignedDigits, Unit::RevolutionsPerMinute,
                      Holds(&P::ShiftTorque).NotShownAtOpening())};
@@ -235,10 +237,10 @@ class AccelerationPage : public ScreenPart {
                     Runs(&AccelerationPage::CorrectTorqueCurve)};
 
   /// The charts of power from times taken on the road stand here, behind its field.
-  Frame RoadFrame{Frame1, "RoadFrame", "Road Horsepower", 3};
+  Frame RoadFrame{Frame1, "RoadFrame", "Road Horsepower", 2};
   Field Text70{RoadFrame, "Text70",
                "ROad HP RPM Rate per Sec. If other than 0 used in place of Parameter File Times",
-               "0", Entry(KeyRule::UnsignedReal, Unit::None)};
+               "0", KeyRule::UnsignedReal};
 };
 
 }  // namespace veldox

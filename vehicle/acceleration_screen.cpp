@@ -50,7 +50,7 @@ void Form13::SolveWheelTorque() {
 
 void Form13::RunCar() {
   ShowRun(Inputs.Told(
-      [this] { return ChartRun(Inputs.ReadRun(), Check7.on(), mark(), Inputs.Listener()); }));
+      [this] { return ChartRun(Inputs.ReadRun(), Page.Check7.on(), mark(), Inputs.Listener()); }));
 }
 
 void Form13::RunCvt() {

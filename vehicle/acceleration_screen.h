@@ -53,10 +53,6 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
   DynoPanel Dyno{*this, Inputs, grapher_};
 
   Frame RunFrame{*this, "RunFrame", "Run", 0};
-  CheckBox Check7{
-      RunFrame, "Check7", "Show RPS Rate",
-      "When Checked, the RPS (Revolutions Per Second) rate of acceleration will be shown on the "
-      "Report"};
   Command Command25{
       RunFrame, "Command25", "A&cceleration",
       "Acceleration and Top Speed Prediction Chart with 60 foot, 330 foot, 1/8 Mile, and 1/4 Mile "
@@ -70,12 +66,14 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
       "Acceleration and Top Speed Prediction Chart of a Continuously Variable Transmission, which "
       "keeps the engine at the CVT RPM, using CVT Power Loss in place of gears and shifts.",
       &Form13::RunCvt};
-  Command Command21{RunFrame, "Command21", "Trans/Shift RPM",
+  Frame CarFrame{*this, "CarFrame", "Gears and Nitrous", 1};
+  Command Command21{CarFrame, "Command21", "Trans/Shift RPM",
                     "Trans Gear Ratios, Tire Growth, Power Loss, Shift RPM and Shift Times.",
                     Opens(&Form13::Shifts)};
-  Command Command11{RunFrame, "Command11", "Nitrous Screen",
+  Command Command11{CarFrame, "Command11", "Nitrous Screen",
                     "The stages of nitrous, by gear and by time.", Opens(&Form13::Stages)};
-  Command TorqueTable{RunFrame, "TorqueTable", "Torque Table",
+  Frame EngineFrame{*this, "EngineFrame", "Engine and Graphs", 2};
+  Command TorqueTable{EngineFrame, "TorqueTable", "Torque Table",
                       "The points of RPM and torque that a run takes, to be seen and edited.",
                       Opens(&Form13::Torques)};
   Command Command15{RunFrame, "Command15", "Graph Accel / Dyno / Report",

@@ -75,7 +75,7 @@ class NitrousStagesPanel : public ScreenPart {
                    {Text90, Text91, Text92, Text93, Text94},
                    {"Stage", {"1", "2", "3", "4", "5", "6", "7"}}};
 
-  Frame TimedStageFrame{NitrousFrame, "TimedStageFrame", "Stages by Time", 0};
+  Frame TimedStageFrame{NitrousFrame, "TimedStageFrame", "Stages by Time", 1};
   FieldArray TimedText90{TimedStageFrame,
                          "Text90",
                          kTimedStageRows,
@@ -122,7 +122,7 @@ class NitrousStagesPanel : public ScreenPart {
                     "Stages by Time",
                     {TimedText90, TimedText91, TimedText92, TimedText93, TimedText94},
                     {"Stage", {"8", "9", "10", "11", "12", "13", "14"}}};
-  Command Command9{NitrousFrame, "Command9", "Done",
+  Command Command9{TimedStageFrame, "Command9", "Done",
                    "For the Program to use the values that you have entered above The Nitrous Box "
                    "MUST BE CHECKED.",
                    Runs(&NitrousStagesPanel::TakeStages, CommandRole::Closes)};

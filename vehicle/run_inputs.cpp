@@ -9,7 +9,7 @@ namespace veldox {
 void RunInputs::ReadCar() {
   ReadFields({&page.Text18, &page.Text21, &page.Text49, &page.Text28, &page.Text51, &page.Text64,
               &page.Text65, &page.Text66, &page.Text73, &page.Text37, &page.Text38, &page.Text29,
-              &page.Text42, &page.Text67});
+              &page.Text42, &page.Text67, &page.Text12});
   page.ReadPrimaryDrive();
   if (page.Check3.on()) stages.ReadStages();
 }

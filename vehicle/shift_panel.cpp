@@ -4,7 +4,7 @@ namespace veldox {
 
 ShiftPanel::ShiftPanel(Screen& screen) : ScreenPart(screen) {
   Gears.DimRows([this](int gear) { return !IsInGearbox(gear); });
-  Shifts.DimRows([this](int shift) { return !IsInGearbox(shift + 1); });
+  Shifts.DimRows([this](int shift) { return !IsInGearbox(shift); });
 }
 
 void ShiftPanel::Open() {

@@ -68,14 +68,15 @@ class ShiftPanel : public ScreenPart {
                {"1st", "2nd", "3rd", "4th", "5th", "6th", "7th", "8th", "9th", "10th", "11th",
                 "12th", "13th", "14th", "15th", "16th", "17th", "18th"}}};
   Frame ShiftFrame{Frame4, "ShiftFrame", "Shifts", 1};
-  FieldArray Text22{ShiftFrame,
-                    "Text22",
-                    kRunGears - 1,
-                    "Shift RPM",
-                    "10000",
-                    Entry(KeyRule::Digits, Unit::RevolutionsPerMinute,
-                          Holds(&ShiftNumber<&P::ShiftRPM>, 0, 0).ZeroKeepsText()),
-                    "The engine speed at which the gear is left."};
+  FieldArray Text22{
+      ShiftFrame,
+      "Text22",
+      kRunGears - 1,
+      "Shift RPM",
+      "10000",
+      Entry(KeyRule::Digits, Unit::RevolutionsPerMinute,
+            Holds(&ShiftNumber<&P::ShiftRPM>, 0, 0).ZeroKeepsText()),
+      "The engine speed at which the gear is left; in the last gear the run ends there."};
   FieldArray Text52{
       ShiftFrame,
       "Text52",
@@ -91,7 +92,7 @@ class ShiftPanel : public ScreenPart {
                {"Shift",
                 {"1 - 2", "2 - 3", "3 - 4", "4 - 5", "5 - 6", "6 - 7", "7 - 8", "8 - 9", "9 -10",
                  "10 -11", "11 -12", "12 -13", "13 -14", "14 -15", "15 -16", "16 -17", "17 -18"}}};
-  Command Command33{Frame4, "Command33", "Done", "Back to the car.",
+  Command Command33{ShiftFrame, "Command33", "Done", "Back to the car.",
                     Runs(&ShiftPanel::Close, CommandRole::Closes)};
 };
 

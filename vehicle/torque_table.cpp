@@ -99,9 +99,11 @@ std::string TorqueTableText(const std::vector<TorquePoint>& points, DecimalMark 
     // Never without a blank between two numbers.
     return std::string(text.size() < room ? room - text.size() : 1, ' ') + text;
   };
-  std::string lines;
+  std::string lines =
+      isMeasured ? ";     RPM     Torque      lb/hr       BSFC        A/F       SCFM       BSAC"
+                 : ";     RPM     Torque";
   for (const TorquePoint& point : points) {
-    if (!lines.empty()) lines += "\r\n";
+    lines += "\r\n";
     lines += cell(point[0], kRpmWidth) + cell(point[1], kWidth);
     for (std::size_t i = 2; isMeasured && i < point.size(); ++i) lines += cell(point[i], kWidth);
   }
@@ -118,7 +120,7 @@ std::vector<TorquePoint> ReadTorqueTable(std::string_view text, DecimalMark mark
     if (line.ends_with('\r')) line.remove_suffix(1);
     line = Trim(line);
     ++number;
-    if (line.empty()) continue;
+    if (line.empty() || line.starts_with(';')) continue;
     try {
       points.push_back(ReadPoint(line, mark));
     } catch (const CommandError& error) {

@@ -25,11 +25,13 @@ void SetTorquePoints(ParameterBlock& block, const std::vector<TorquePoint>& poin
 ///         not rise
 void RequireTorquePoints(const std::vector<TorquePoint>& points);
 
-/// One line a point under each other; measured columns stand where a point has one of them.
+/// One line a point under each other, below a line that names the columns; measured columns stand
+/// where a point has one of them.
 std::string TorqueTableText(const std::vector<TorquePoint>& points, DecimalMark mark);
 
 /// Reads lines of RPM, torque and up to five more numbers, parted by blanks, tabs or semicolons;
-/// lines of a parameter file ("Acceleration = 5000 700") among them. Empty lines say nothing.
+/// lines of a parameter file ("Acceleration = 5000 700") among them. Empty lines and those that
+/// begin with a semicolon say nothing.
 /// @throws CommandError (InvalidArgument, NotANumber) that tells the line
 std::vector<TorquePoint> ReadTorqueTable(std::string_view text, DecimalMark mark);
 

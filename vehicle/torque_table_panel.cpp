@@ -18,7 +18,7 @@ void TorqueTablePanel::ShowTable() {
   const std::vector<TorquePoint> points = TorquePoints(block());
   shown_ = TorqueTableText(points, mark());
   TorqueText.SetText(shown_);
-  TorquePeaks.SetText(TorquePeaksText(points, mark()));
+  TorquePeaks.SetCaption("In use: " + TorquePeaksText(points, mark()) + '.');
 }
 
 void TorqueTablePanel::TakeTable() {

@@ -28,8 +28,8 @@ class TorqueTablePanel : public ScreenPart {
 
  public:
   ScreenPage TorqueFrame{screen(), "TorqueFrame", "Torque Table"};
-  TextArea TorqueText{TorqueFrame, "TorqueText", "RPM and Torque of each point"};
-  ResultLabel TorquePeaks{TorqueFrame, "TorquePeaks", "In use"};
+  NumberLines TorqueText{TorqueFrame, "TorqueText", "RPM and Torque of each point"};
+  Label TorquePeaks{TorqueFrame, "TorquePeaks", ""};
   Command TakeTorque{TorqueFrame, "TakeTorque", "Use Table",
                      "Put the points above into use in place of the torque table; RPM must rise "
                      "from line to line.",
