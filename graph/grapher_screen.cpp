@@ -143,6 +143,10 @@ void Form8::DrawStandardLine(PlotEngine& next, double level) {
 }
 
 void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) {
+  DrawOwnGraph(frame, [curves](PlotEngine& next) { AddCurves(next, curves); });
+}
+
+void Form8::DrawOwnGraph(const GraphFrame& frame, const std::function<void(PlotEngine&)>& draw) {
   PlotEngine next(block());
   next.SetScale(frame.range);
   next.crankAngleAxis = frame.crankAngle;
@@ -155,7 +159,7 @@ void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curve
   if (frame.zeroLine && frame.range.yLow < 0 && frame.range.yHigh > 0) {
     next.PlotAdjustedLine({frame.range.xLow, 0}, {frame.range.xHigh, 0}, {}, true);
   }
-  AddCurves(next, curves);
+  draw(next);
   underOverlay_.reset();
   Label1.SetCaption("");
   Commit(std::move(next), Shown::Other);

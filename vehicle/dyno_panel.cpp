@@ -193,17 +193,20 @@ void DynoPanel::DrawTorquePower(bool adds) {
   }
   const TorquePowerPlot plot =
       inputs_.Told([&] { return PlotTorquePower(inputs, values, block().TransGear); });
-  const RunPlot asCurves{{plot.range, false, {}, {}, {}, {}, false}, CurvesOf(plot), {}};
+  GraphFrame frame;
+  frame.range = plot.range;
   if (adds) {
-    ShowPlot(asCurves, true);
+    ShowPlot({frame, CurvesOf(plot), {}}, true);
     return;
   }
-  ShowPlot({asCurves.frame, {}, {}}, false);
-  if (plot.shot) {
-    grapher_.plot().DrawNitrousGraph(plot.rows, *plot.shot);
-  } else {
-    grapher_.plot().DrawDynoGraph(plot.rows);
-  }
+  BuildReport([] { return std::string{}; }, kImpossibleGraph);
+  grapher_.DrawOwnGraph(frame, [&plot](PlotEngine& engine) {
+    if (plot.shot) {
+      engine.DrawNitrousGraph(plot.rows, *plot.shot);
+    } else {
+      engine.DrawDynoGraph(plot.rows);
+    }
+  });
   grapher_.ShowGraph();
 }
 
