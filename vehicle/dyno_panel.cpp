@@ -23,6 +23,9 @@ constexpr const char* kImpossibleGraph =
 constexpr const char* kNoGraphYet =
     "There is no graph yet that could be drawn again. Please choose one of the others first.";
 
+constexpr const char* kNoNitrous =
+    "There is no Nitrous HP to graph: the Nitrous box is not checked.";
+
 /// The columns of the sheet in the order of their buttons.
 constexpr std::array kColumnGraphs{DynoGraph::Fuel,
                                    DynoGraph::Bsfc,
@@ -152,6 +155,9 @@ void DynoPanel::GraphAgain() {
 }
 
 void DynoPanel::DrawRun(RunGraph graph, bool adds) {
+  if (graph == RunGraph::NitrousOverTime && !inputs_.page.Check3.on()) {
+    throw CommandError(ErrorKind::InvalidArgument, kNoNitrous);
+  }
   const RunGraphLimits limits = ReadLimits(graph);
   const RunPlot plot = inputs_.Told(
       [&] { return PlotRun(graph, inputs_.ReadRun(), limits, Check8.on(), inputs_.Listener()); });

@@ -7,11 +7,11 @@
 #include "core/error.h"
 #include "core/report.h"
 #include "core/units.h"
+#include "vehicle/elapsed_time.h"
 
 namespace veldox {
 namespace {
 
-constexpr double kMeanPressureFactor = 150.8;
 constexpr int kRpmWidth = 7;
 constexpr int kTorqueWidth = 11;
 constexpr int kWidth = 9;
@@ -116,10 +116,6 @@ SheetCorrection CorrectionOfSheet(double entered, const Air& air) {
   return {J1349Jun90Correction(air), false, air};
 }
 
-double MeanPressure(double torque, double cubicInches) {
-  return torque * kMeanPressureFactor / cubicInches;
-}
-
 std::string DynoSheetReport(const DynoColumns& columns, const DynoSheetLayout& layout,
                             DecimalMark mark) {
   const std::size_t rows = std::min(columns.rpm.size(), columns.torque.size());
@@ -141,14 +137,14 @@ std::string DynoSheetReport(const DynoColumns& columns, const DynoSheetLayout& l
   for (std::size_t row = 0; row < rows; ++row) {
     const double rpm = columns.rpm[row];
     const double torque = columns.torque[row];
-    const double power = rpm * torque / kRpmOfEqualTorqueAndPower;
+    const double power = PowerForTorque(torque, rpm);
     highestTorque.Take(torque, rpm);
     highestPower.Take(power, rpm);
     report.Add<"0">(rpm, kRpmWidth)
         .Add<"0.0">(torque * unit, kTorqueWidth)
         .Add<"0.0">(power, kWidth);
     if (layout.cubicInches > 0) {
-      report.Add<"0.0">(MeanPressure(torque, layout.cubicInches), kWidth);
+      report.Add<"0.0">(MeanPressureForTorque(torque, layout.cubicInches), kWidth);
     }
     report.Add<"0.0">(torque * unit * factor, kTorqueWidth);
     report.Add<"0.0">(power * factor, kTorqueWidth);

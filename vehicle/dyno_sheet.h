@@ -27,10 +27,6 @@ struct DynoSheetLayout {
   bool newtonMetres = false;  ///< torque is shown in newton metres
 };
 
-/// Mean pressure in a four-stroke engine's cylinders in pounds a square inch.
-/// @param torque  foot pounds
-double MeanPressure(double torque, double cubicInches);
-
 /// The sheet: engine speed, torque, horsepower, mean pressure and what the correction makes of
 /// them; with fuel in the table also that and the air.
 /// @throws CommandError (InvalidArgument) for a table without rows

@@ -5,6 +5,7 @@
 #include "core/error.h"
 #include "core/report.h"
 #include "core/units.h"
+#include "vehicle/elapsed_time.h"
 #include "vehicle/gearing.h"
 #include "vehicle/road_load.h"
 
@@ -21,10 +22,6 @@ constexpr double kLargestDensity = 0.1;     // of the track's air; what is above
       "Row " + std::to_string(row + 1) + " of the road table " + what + " than the row before it.");
 }
 
-double TorqueOf(double horsepower, double rpm) {
-  return horsepower * kRpmOfEqualTorqueAndPower / rpm;
-}
-
 /// The rows with an engine speed, and the highest values below them.
 void WriteEngineRows(ReportWriter& report, const RoadDrive& drive,
                      std::span<const RoadPower> powers) {
@@ -39,7 +36,7 @@ void WriteEngineRows(ReportWriter& report, const RoadDrive& drive,
   Peak torque{0, 0};
   for (const RoadPower& row : powers) {
     const double rpm = drive.RpmAt(row.mph);
-    const double rowTorque = TorqueOf(row.TotalHp(), rpm);
+    const double rowTorque = TorqueForPower(row.TotalHp(), rpm);
     if (row.TotalHp() > power.value) power = {row.TotalHp(), rpm};
     if (rowTorque > torque.value) torque = {rowTorque, rpm};
     report.Add<"0.0">(rpm, 9).Add<"0.00">(row.mph, 9).Add<"0.0000">(row.seconds, 10);

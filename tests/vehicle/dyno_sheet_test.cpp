@@ -30,11 +30,6 @@ TEST(SheetCorrection, IsTheEnteredFactorOrThatOfTheAir) {
   EXPECT_TRUE(entered.isEntered);
 }
 
-TEST(MeanPressure, ByHand) {
-  // 150.8 x 350 / 350
-  EXPECT_DOUBLE_EQ(MeanPressure(350, 350), 150.8);
-}
-
 class DynoSheetTest : public testing::Test {
  protected:
   std::string Report() const {

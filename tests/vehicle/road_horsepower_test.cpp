@@ -7,6 +7,7 @@
 
 #include "core/error.h"
 #include "core/report.h"
+#include "vehicle/acceleration.h"
 
 namespace veldox {
 namespace {
@@ -69,6 +70,72 @@ TEST(RoadHorsepower, OfADrivenCarIsThePowerThatDroveIt) {
       const double rpm = kDrive.RpmAt(power.mph);
       const double expected = rpm * WheelSideTorque(rpm) / 5252;
       EXPECT_NEAR(power.TotalHp() / expected, 1, 1e-3) << rpm;
+    }
+  }
+}
+
+/// Keeps the points of one gear of a run.
+class GearRecorder : public RunSink {
+ public:
+  explicit GearRecorder(int gear) : gear_(gear) {}
+  bool TakesSamples() const override { return true; }
+  void Sample(const RunRow& row) override {
+    if (row.gear == gear_ && (rows.empty() || row.mph > rows.back().mph)) rows.push_back(row);
+  }
+  std::vector<RunRow> rows;
+
+ private:
+  int gear_;
+};
+
+TEST(RoadHorsepower, OfASimulatedRunIsThePowerOfItsTorqueTable) {
+  const std::vector<double> rpm{3000, 4000, 5000, 6000, 7000};
+  const std::vector<double> torque{380, 410, 415, 390, 340};
+  AccelerationInputs in;
+  in.tableRpm = rpm;
+  in.tableTorque = torque;
+  in.transRatio = {2.9, 1.9, 1.3, 1};
+  in.gearLoss.fill(4);
+  in.tireGrowth = {0, 1, 2, 3};
+  in.shiftRpm.fill(6800);
+  in.shiftTime.fill(0.3);
+  in.rearGearRatio = 3.9;
+  in.usesPrimaryDrive = true;
+  in.primaryDrive = 1.1;
+  in.tireDiameter = 27;
+  in.tireRollingRadius = 13.5;
+  in.rearEndLoss = 5;
+  in.carWeight = 2900;
+  in.dragCoefficient = 0.4;
+  in.frontalArea = 20;
+  in.rollingResistance = 0.02;
+  in.dynoCorrection = 1.03;
+  in.launchRpm = 3500;
+  in.rollout = 11;
+  in.frictionMu = 5;
+  in.trackPressure = 29.2;
+  in.windSpeed = 10;
+  in.windDirection = 60;
+  const double efficiency = 0.96 * 0.95 / 1.03;
+  for (const int gear : {2, 3, 4}) {
+    GearRecorder run(gear);
+    SimulateRun(in, run);
+    ASSERT_GT(run.rows.size(), 20U);
+    std::vector<double> mph, seconds;
+    for (const RunRow& row : run.rows) {
+      mph.push_back(row.mph);
+      seconds.push_back(row.elapsed);
+    }
+    const RoadCar car{2900, 0.4, 20, 0.02, 29.2, 10 * std::cos(std::acos(-1.0) / 3)};
+    const auto index = static_cast<std::size_t>(gear - 1);
+    const RoadDrive drive{in.transRatio[index], 3.9, 1.1, in.tireGrowth[index], 27};
+    // The tire's growth changes the drive's radius; the run's thrust is that of the same radius.
+    const std::vector<RoadPower> powers = RoadPowerOf(car, mph, seconds);
+    for (std::size_t i = 0; i < powers.size(); ++i) {
+      const double r = drive.RpmAt(powers[i].mph);
+      EXPECT_NEAR(r, (run.rows[i].rpm + run.rows[i + 1].rpm) / 2, 0.5);
+      const double t = (run.rows[i].torque + run.rows[i + 1].torque) / 2;
+      EXPECT_NEAR(powers[i].TotalHp() / (r * t * efficiency / 5252), 1, 1e-3) << gear << ' ' << r;
     }
   }
 }
