@@ -43,9 +43,9 @@ void Form13::SolveWheelTorque() {
   const ParameterBlock& b = block();
   const double torque =
       b.Torque * firstGear * b.RearGearRatio * primary * (1 - b.PercentDriveTrainPowerLoss / 100);
+  Show(Page.Text46, torque);
   constexpr double kInchesPerFoot = 12;
   const double thrust = torque / (b.TireRollingRadius / kInchesPerFoot);
-  Show(Page.Text46, torque);
   Show(Page.Text48, thrust, {&Page.Text49});
   Store(Page.Text50, thrust / b.CarWeight, {&Page.Text51});
 }

@@ -98,7 +98,6 @@ set Form13.Text22(0) 10000
 click Form13.Command33
 messages
 pause nitrous, which counts only with its box
-click Form13.Command11
 set Form13.Text91(0) much
 click Form13.Command25
 press Form13.Text58 x
@@ -134,9 +133,20 @@ show Form13.TorqueText
 get Form13.TorquePeaks
 click Form13.ShowTorque
 show Form13.TorqueText
+click Form13.CloseTorque
 pause a curve shifted below nothing
 set Form13.Text72 -5000
 click Form13.Command8
 set Form13.Text72 x
 click Form13.Command8
+set Form13.Text72 2350
+messages
+pause a file with one point of torque
+file cars/one_point.prm
+answer No
+menu Read
+click Form13.Command25
+click Form13.Command13
+click Form13.Command8
+click Form13.Command14
 messages

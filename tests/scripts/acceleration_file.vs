@@ -53,7 +53,6 @@ get Form13.Check3
 messages
 pause zeros of an old file
 file cars/zeros.prm
-answer No
 menu Read
 get Form13.Text67
 get Form13.Text69
@@ -67,7 +66,6 @@ get Form13.Text91(0)
 messages
 pause one stage of nitrous as files of earlier versions tell it
 file cars/one_stage.prm
-answer No
 menu Read
 get Form13.Text90(0)
 get Form13.Text91(0)

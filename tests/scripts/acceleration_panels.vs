@@ -25,15 +25,25 @@ set Form13.Text91(0) 300
 click Form13.Command25
 value ET
 press Form13.Text58 x
+click Form13.Command9
 check Form13.Check3
-click Form13.Command25
-value ET
-press Form13.Text58 x
-check Form13.Check5
+click Form13.Command11
+set Form13.Text90(1) 2
+set Form13.Text91(1) 200
+set Form13.Text93(1) 50
+set Form13.Text92(1) 6000
+set Form13.Text94(1) 9000
+set Form13.Text90(7) 100
+set Form13.Text91(7) 3
+set Form13.Text94(7) 6
 click Form13.Command25
 value ET
 press Form13.Text58 x
 click Form13.Command9
+check Form13.Check5
+click Form13.Command25
+value ET
+press Form13.Text58 x
 state Form13.Frame1
 uncheck Form13.Check3
 uncheck Form13.Check5
@@ -65,7 +75,7 @@ click Form13.CloseTorque
 messages
 pause a gearbox picked in the finder
 menu Motorc
-select Form19.Combo1 '09 RSV4 P-1.6591 S-2.5 PT-73/44 ST-40/16 | 2.6 2.0625 1.7
+select Form19.Combo1 '09 RSV4 P-1.6591 S-2.5 PT-73/44 ST-40/16 | 2.6 2.0625 1.7 1.4545 1.3077 1.2222
 click Form19.subend
 get Form13.Check1
 get Form13.Check2
