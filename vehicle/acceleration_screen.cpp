@@ -14,10 +14,12 @@ void Form13::CopyFromBlock() {
   Torques.Follow();
 }
 
-void Form13::TakeGearbox(const Gearbox& gearbox) {
-  // A closed screen may hold old values: it takes the shared ones as if it opened, so that its
-  // commands put nothing back.
+void Form13::TakeShared() {
   if (!visible() && block().FormsCleared != 1) CopyShared();
+}
+
+void Form13::TakeGearbox(const Gearbox& gearbox) {
+  TakeShared();
   const auto show = [this](Field& field, double number) {
     ShowShared(field, number);
     field.SetMark(Mark::Changed);
@@ -30,7 +32,7 @@ void Form13::TakeGearbox(const Gearbox& gearbox) {
 }
 
 void Form13::TakeDrag(const DragFigures& figures) {
-  if (!visible() && block().FormsCleared != 1) CopyShared();
+  TakeShared();
   Page.ShowDrag(figures.frontalArea.has_value());
 }
 
@@ -41,9 +43,9 @@ void Form13::SolveWheelTorque() {
   const ParameterBlock& b = block();
   const double torque =
       b.Torque * firstGear * b.RearGearRatio * primary * (1 - b.PercentDriveTrainPowerLoss / 100);
+  Show(Page.Text46, torque);
   constexpr double kInchesPerFoot = 12;
   const double thrust = torque / (b.TireRollingRadius / kInchesPerFoot);
-  Show(Page.Text46, torque);
   Show(Page.Text48, thrust, {&Page.Text49});
   Store(Page.Text50, thrust / b.CarWeight, {&Page.Text51});
 }

@@ -35,6 +35,9 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
   void SolveWheelTorque();
   void RunCar();
   void RunCvt();
+  /// A closed screen may hold old values: it takes the shared ones as if it opened, so that its
+  /// commands put nothing back.
+  void TakeShared();
   /// Shows the chart of a run and keeps what it came to.
   void ShowRun(AccelerationChart chart);
 
@@ -76,7 +79,7 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
   Command TorqueTable{EngineFrame, "TorqueTable", "Torque Table",
                       "The points of RPM and torque that a run takes, to be seen and edited.",
                       Opens(&Form13::Torques)};
-  Command Command15{RunFrame, "Command15", "Graph Accel / Dyno / Report",
+  Command Command15{EngineFrame, "Command15", "Graph Accel / Dyno / Report",
                     "Graphs of the run and of the dyno sheet, and the dyno sheet as a text report.",
                     Opens(&Form13::Dyno)};
 

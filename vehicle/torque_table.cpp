@@ -30,6 +30,21 @@ std::array<TorqueColumn ParameterBlock::*, std::tuple_size_v<TorquePoint>> Colum
           &P::AccelAirFuel, &P::AccelScfm,   &P::AccelBsac};
 }
 
+/// The pattern by which all numbers of a column keep the decimals that reports have, and their
+/// marks stand under each other.
+NumberPattern PatternOfColumn(const std::vector<TorquePoint>& points, std::size_t column) {
+  NumberPattern pattern{.forcedWhole = 1};
+  for (const TorquePoint& point : points) {
+    const std::string text = FormatSmart(point[column], DecimalMark::Point);
+    const auto decimals = static_cast<int>(text.size() - text.find('.') - 1);
+    const bool isWhole = decimals == 1 && text.back() == '0';
+    pattern.decimals = std::max(pattern.decimals, isWhole ? 0 : decimals);
+  }
+  pattern.forcedDecimals = pattern.decimals;
+  pattern.hasMark = pattern.decimals > 0;
+  return pattern;
+}
+
 /// Reads one line. @param line  without its line break, and not empty
 TorquePoint ReadPoint(std::string_view line, DecimalMark mark) {
   if (StartsIgnoringCase(line, kFileKey)) {
@@ -42,7 +57,8 @@ TorquePoint ReadPoint(std::string_view line, DecimalMark mark) {
     const std::size_t end = std::min(line.find_first_of(kBlanks, from), line.size());
     const std::string_view number = line.substr(from, end - from);
     if (count == point.size()) Refuse("holds more numbers than a point has.");
-    if (!IsNumber(number, mark)) Refuse('"' + Clipped(number, 24) + "\" is not a number.");
+    if (!IsNumber(number, mark))
+      Refuse("holds \"" + Clipped(number, 24) + "\", which is not a number.");
     point[count++] = ParseNumber(number, mark);
     from = std::min(line.find_first_not_of(kBlanks, end), line.size());
   }
@@ -86,26 +102,25 @@ void RequireTorquePoints(const std::vector<TorquePoint>& points) {
 }
 
 std::string TorqueTableText(const std::vector<TorquePoint>& points, DecimalMark mark) {
-  constexpr int kRpmWidth = 9;
-  constexpr int kWidth = 11;
+  constexpr std::array<int, std::tuple_size_v<TorquePoint>> kWidths{9, 11, 11, 11, 11, 11, 11};
   const bool isMeasured = std::ranges::any_of(points, [](const TorquePoint& point) {
     return std::any_of(point.begin() + 2, point.end(), [](double number) { return number != 0; });
   });
-  const auto cell = [&](double number, int width) {
-    // What is typed comes back to the last digit.
-    std::string text = FormatShortest(number);
-    if (mark == DecimalMark::Comma) std::ranges::replace(text, '.', ',');
-    const auto room = static_cast<std::size_t>(width);
-    // Never without a blank between two numbers.
-    return std::string(text.size() < room ? room - text.size() : 1, ' ') + text;
-  };
+  const std::size_t columns = isMeasured ? kWidths.size() : 2;
+  std::array<NumberPattern, kWidths.size()> patterns;
+  for (std::size_t i = 0; i < columns; ++i) patterns[i] = PatternOfColumn(points, i);
   std::string lines =
       isMeasured ? ";     RPM     Torque      lb/hr       BSFC        A/F       SCFM       BSAC"
                  : ";     RPM     Torque";
   for (const TorquePoint& point : points) {
     lines += "\r\n";
-    lines += cell(point[0], kRpmWidth) + cell(point[1], kWidth);
-    for (std::size_t i = 2; isMeasured && i < point.size(); ++i) lines += cell(point[i], kWidth);
+    for (std::size_t i = 0; i < columns; ++i) {
+      const std::string number = FormatByPattern(point[i], patterns[i], mark);
+      const auto room = static_cast<std::size_t>(kWidths[i]);
+      // Never without a blank between two numbers.
+      lines.append(number.size() < room ? room - number.size() : 1, ' ');
+      lines += number;
+    }
   }
   return lines;
 }
@@ -124,8 +139,8 @@ std::vector<TorquePoint> ReadTorqueTable(std::string_view text, DecimalMark mark
     try {
       points.push_back(ReadPoint(line, mark));
     } catch (const CommandError& error) {
-      throw CommandError(error.kind(), "Line " + std::to_string(number) +
-                                           " of the torque table: " + error.message());
+      throw CommandError(error.kind(), "Line " + std::to_string(number) + " of the torque table " +
+                                           error.message());
     }
   }
   RequireTorquePoints(points);

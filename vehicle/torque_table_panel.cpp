@@ -22,6 +22,8 @@ void TorqueTablePanel::ShowTable() {
 }
 
 void TorqueTablePanel::TakeTable() {
+  // The text may hold fewer digits than the table.
+  if (TorqueText.text() == shown_) return;
   std::vector<TorquePoint> points;
   try {
     points = ReadTorqueTable(TorqueText.text(), mark());

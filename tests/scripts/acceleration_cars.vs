@@ -1,19 +1,8 @@
 # Runs six cars of different kinds down the strip, and a kart with a CVT.
 # Their times were worked out apart from the program, by the same forces in steps of time.
 menu ACCELERATION
-pause a stock car on street tires, with wind
-file cars/stock_car.prm
-menu Read
-click Form13.Command25
-value ET60
-value ET8
-value MPH8
-value ET
-get Form13.Text58
-press Form13.Text58 x
-messages
 pause a drag car with two gears and a converter
-file ../../samples/small_block_drag.prm
+file samples/small_block_drag.prm
 menu Read
 click Form13.Command25
 value ET60
@@ -24,13 +13,24 @@ show Form13.Text58
 press Form13.Text58 x
 messages
 pause a motorcycle with a primary drive
-file ../../samples/motorcycle.prm
+file samples/motorcycle.prm
 menu Read
 click Form13.Command25
 value ET60
 value ET8
 value MPH8
 value ET
+messages
+pause a stock car on street tires, with wind
+file cars/stock_car.prm
+menu Read
+click Form13.Command25
+value ET60
+value ET8
+value MPH8
+value ET
+get Form13.Text58
+press Form13.Text58 x
 messages
 pause a truck with an automatic
 file cars/truck.prm
