@@ -666,7 +666,9 @@ class ParameterFile::Reader {
     if (std::string* text = TextOf(*row, block_)) {
       *text = Trim(value);
       namesFont_ = namesFont_ || !text->empty();
-      if (Field* field = AsField(file_.Owner(*row))) field->SetText(*text);
+      // What was written for want of a text is none.
+      Field* const field = AsField(file_.Owner(*row));
+      if (field != nullptr && *text != FormatSmart(0, mark_)) field->SetText(*text);
     } else if (row->form == KeyForm::Table) {
       ReadTableRow(*row, missing ? "0" : value);
     } else {

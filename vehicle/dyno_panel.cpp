@@ -113,6 +113,7 @@ DynoGraphValues DynoPanel::ReadValues() {
   const std::string smooth = Lower(Trim(Text40.text()));
   Require(smooth == "y" || smooth == "n", Text40, "must be Y or N.");
   values.smooth = smooth == "y";
+  block().SmoothHPGraph = Text40.text();
   return values;
 }
 

@@ -60,9 +60,14 @@ struct Column {
 
 void WriteColumnHeads(ReportWriter& report, const std::vector<Column>& columns) {
   for (const auto line : {&Column::upper, &Column::lower}) {
+    int width = 0;
     for (const Column& column : columns) {
+      width += column.width;
+      // A column without a head here leaves its room to the next that has one.
+      if (*(column.*line) == 0) continue;
       report.CellText = column.*line;
-      report.AddPadCell(column.width);
+      report.AddPadCell(width);
+      width = 0;
     }
     report.EndLine(LineMark::Heading);
   }

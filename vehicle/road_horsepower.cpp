@@ -58,9 +58,7 @@ void WriteDragLine(ReportWriter& report, const RoadCar& car, DecimalMark mark) {
   report.Add("Coefficient of Drag = " + FormatSmart(car.dragCoefficient, mark));
   report.Add("    Frontal Area = " + FormatSmart(car.frontalArea, mark) + " Sq.Ft.");
   report.Add(car.trackPressure > kLargestDensity ? "    Track BP = " : "    Air Density = ");
-  report.Add(FormatSmart(car.trackPressure, mark));
-  if (car.headWind != 0) report.Add("    Head Wind = " + FormatSmart(car.headWind, mark) + " MPH");
-  report.EndLine();
+  report.Add(FormatSmart(car.trackPressure, mark)).EndLine();
 }
 
 std::string EngineChart(std::string_view title, const RoadCar& car, const RoadGear& gear,
@@ -75,9 +73,11 @@ std::string EngineChart(std::string_view title, const RoadCar& car, const RoadGe
   if (drive.primaryDrive != 1) {
     report.Add("    Primary Gear Ratio = " + FormatSmart(drive.primaryDrive, mark));
   }
-  report.Add("    Tire Growth = " + FormatSmart(drive.tireGrowth, mark) + " %");
-  report.Add("    Tire Rolling Resistance = " + FormatSmart(car.rollingResistance, mark)).EndLine();
+  report.Add("    Tire Growth = " + FormatSmart(drive.tireGrowth, mark) + " %").EndLine();
   WriteDragLine(report, car, mark);
+  report.Add("Tire Rolling Resistance = " + FormatSmart(car.rollingResistance, mark));
+  if (car.headWind != 0) report.Add("    Head Wind = " + FormatSmart(car.headWind, mark) + " MPH");
+  report.EndLine();
   report.EndLine();
   report.Add(title).EndLine(LineMark::Bold);
   report.EndLine();

@@ -234,6 +234,20 @@ TEST_F(DynoPanelTest, AFailedGraphLeavesTheOldOne) {
   EXPECT_EQ(At(7500), 840);
 }
 
+TEST_F(DynoPanelTest, AFileWithoutASmoothSwitchLeavesTheFieldsText) {
+  ParameterFile& file = program_.shell().parameterFile();
+  file.ReadBytes("Smooth HP Graph = 0.0\r\nGraph Dyno X High = 0.0\r\nDyno BP = 0.0\r\n",
+                 "old.prm");
+  EXPECT_EQ(panel().Text40.text(), "N");
+  EXPECT_EQ(panel().Text7.text(), "10");
+  EXPECT_EQ(panel().Text83.text(), "29.92");
+  file.ReadBytes("Smooth HP Graph = y\r\nGraph Dyno X High = 40\r\n", "new.prm");
+  EXPECT_EQ(panel().Text40.text(), "y");
+  EXPECT_EQ(panel().Text7.text(), "40.0");
+  EXPECT_TRUE(panel().Command31[5].Click());
+  EXPECT_EQ(block().SmoothHPGraph, "y");
+}
+
 TEST_F(DynoPanelTest, TheTextReportFollowsItsBoxes) {
   FuelRows();
   panel().Command18.Click();

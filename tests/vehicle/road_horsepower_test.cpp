@@ -230,9 +230,9 @@ TEST(RoadCharts, OfEngineSpeedsAreThoseOfTheSpeeds) {
   const std::vector<double> two{0, 2};
   const auto slow = Lines(RoadEngineChart(kCar, {1, kDrive}, even, two, 0, DecimalMark::Point));
   const auto fast = Lines(RoadEngineChart(kCar, {1, kDrive}, even, two, 400, DecimalMark::Point));
-  EXPECT_THAT(slow[11], HasSubstr("    2.0000"));
-  EXPECT_THAT(fast[11], HasSubstr("    1.0000"));
-  EXPECT_THAT(fast[6], HasSubstr("from RPM at 400.0 RPM per Second"));
+  EXPECT_THAT(slow[12], HasSubstr("    2.0000"));
+  EXPECT_THAT(fast[12], HasSubstr("    1.0000"));
+  EXPECT_THAT(fast[7], HasSubstr("from RPM at 400.0 RPM per Second"));
 }
 
 TEST(RoadCharts, OfTheWeightAloneTakeDragOnlyWhereItIsTold) {
