@@ -71,6 +71,12 @@ value ET
 click Form13.Command25
 value ET
 press Form13.Text58 x
+pause a file read while the torque table is shown
+answer No
+file cars/truck.prm
+menu Read
+show Form13.TorqueText
+get Form13.TorquePeaks
 click Form13.CloseTorque
 messages
 pause a gearbox picked in the finder

@@ -142,6 +142,17 @@ TEST_F(AccelerationScreenTest, TheTorquePanelFollowsTheTableUnlessItWasEdited) {
   EXPECT_NE(panel.TorqueText.text().find("702"), std::string::npos);
 }
 
+TEST_F(AccelerationScreenTest, TheTorquePanelShowsTheTableOfAFileThatIsRead) {
+  Open();
+  TorqueTablePanel& panel = screen().Torques;
+  panel.Open();
+  host_.Answer(Button::OK);  // of the records read
+  program_.shell().OpenFile(std::string(VELDOX_SOURCE_DIR) + "/tests/scripts/cars/truck.prm");
+  EXPECT_EQ(panel.TorquePeaks.caption(),
+            "In use: 13 points from 1000 to 3400 RPM; most torque 865.0 lb-ft at 1800 RPM, most "
+            "power 417.6 HP at 3000 RPM.");
+}
+
 TEST_F(AccelerationScreenTest, ATableThatWasOnlyLookedAtKeepsAllItsDigits) {
   Open();
   block().AccelTorque[0] = 700.123456789;
