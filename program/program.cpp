@@ -69,6 +69,7 @@ Program::Program(Host& host)
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
+  shell_->SetReadListener([&acceleration] { acceleration.Torques.Follow(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {

@@ -137,7 +137,39 @@ class AccelerationPage : public ScreenPart {
   Field Text66{VehicleFrame, "Text66", "Tire Rolling Resistance", "0.015",
                Entry(KeyRule::UnsignedReal, Holds(&P::TireRollingResistance).NotShownAtOpening())};
 
-  Frame AirFrame{Frame1, "AirFrame", "Air", 1};
+  Frame SpeedFrame{Frame1, "SpeedFrame", "Power at a Speed", 1};
+  Field Text1{SpeedFrame, "Text1", "MPH", "42.5",
+              Entry(KeyRule::UnsignedReal, Unit::MilesPerHour, Holds(&P::MPH).NotConverted())};
+  Field Text63{SpeedFrame, "Text63", "Aerodynamic HP Loss", "777.77",
+               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
+  Field Text68{SpeedFrame, "Text68", "Roll Resistance HP Loss", "27.77",
+               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
+  Field Text81{SpeedFrame, "Text81", "Top Speed Track HP", "436.4",
+               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
+  Field Text82{SpeedFrame, "Text82", "SAE Corrected HP", "436.4",
+               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
+  Command Command24{
+      SpeedFrame, "Command24", "&Aero/Roll Hp",
+      "Calculate Aerodynamic and Rolling Resistance HP Loss using MPH, Coefficient of "
+      "Drag, Frontal Area, Tire Rolling Resistance, Vehicle Weight, and Track - BP or "
+      "Air Density.",
+      Runs(&AccelerationPage::SolveRoadLoad)};
+  Command Command17{
+      SpeedFrame, "Command17", "Top Speed HP",
+      "Estimate HP for Top Speed Prediction / MPH using MPH, Coefficient of Drag, Frontal Area, "
+      "Tire Rolling Resistance, Tire Diameter, % Rear End Power Loss, % Power Loss, Dyno "
+      "Correction "
+      "Factor, Track - BP or Air Density. -- For Bonneville try TRR = 0.09, DCF = 1.2134, Track BP "
+      "= 25.65\r\nNOTE: This is NOT for 1/4 Mile or Drag Racing",
+      Runs(&AccelerationPage::SolveTopSpeedPower)};
+
+  /// The charts of power from times taken on the road stand here, behind its field.
+  Frame RoadFrame{Frame1, "RoadFrame", "Road Horsepower", 1};
+  Field Text70{RoadFrame, "Text70",
+               "ROad HP RPM Rate per Sec. If other than 0 used in place of Parameter File Times",
+               "0", KeyRule::UnsignedReal};
+
+  Frame AirFrame{Frame1, "AirFrame", "Air", 2};
   Field Text73{
       AirFrame,
       "Text73",
@@ -163,7 +195,7 @@ class AccelerationPage : public ScreenPart {
       "Lets the user have a Hood Scoop. The program will calculate a Ram Air factor / positive "
       "pressure in the intake track."};
 
-  Frame OptionsFrame{Frame1, "OptionsFrame", "Run Options", 1};
+  Frame OptionsFrame{Frame1, "OptionsFrame", "Run Options", 2};
   CheckBox Check3{
       OptionsFrame, "Check3", "Nitrous",
       "Lets the user have up to Four (7) time based and up to Seven (7) Tran Gear based Stages of "
@@ -197,32 +229,6 @@ class AccelerationPage : public ScreenPart {
   Field Text50{WheelFrame, "Text50", "G Force from Acceleration", "1.234",
                Entry(KeyRule::OutputOnly, Holds(&P::LongAcelGs))};
 
-  Frame SpeedFrame{Frame1, "SpeedFrame", "Power at a Speed", 2};
-  Field Text1{SpeedFrame, "Text1", "MPH", "42.5",
-              Entry(KeyRule::UnsignedReal, Unit::MilesPerHour, Holds(&P::MPH).NotConverted())};
-  Field Text63{SpeedFrame, "Text63", "Aerodynamic HP Loss", "777.77",
-               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
-  Field Text68{SpeedFrame, "Text68", "Roll Resistance HP Loss", "27.77",
-               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
-  Field Text81{SpeedFrame, "Text81", "Top Speed Track HP", "436.4",
-               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
-  Field Text82{SpeedFrame, "Text82", "SAE Corrected HP", "436.4",
-               Entry(KeyRule::OutputOnly, Unit::Horsepower)};
-  Command Command24{
-      SpeedFrame, "Command24", "&Aero/Roll Hp",
-      "Calculate Aerodynamic and Rolling Resistance HP Loss using MPH, Coefficient of "
-      "Drag, Frontal Area, Tire Rolling Resistance, Vehicle Weight, and Track - BP or "
-      "Air Density.",
-      Runs(&AccelerationPage::SolveRoadLoad)};
-  Command Command17{
-      SpeedFrame, "Command17", "Top Speed HP",
-      "Estimate HP for Top Speed Prediction / MPH using MPH, Coefficient of Drag, Frontal Area, "
-      "Tire Rolling Resistance, Tire Diameter, % Rear End Power Loss, % Power Loss, Dyno "
-      "Correction "
-      "Factor, Track - BP or Air Density. -- For Bonneville try TRR = 0.09, DCF = 1.2134, Track BP "
-      "= 25.65\r\nNOTE: This is NOT for 1/4 Mile or Drag Racing",
-      Runs(&AccelerationPage::SolveTopSpeedPower)};
-
   Frame CurveFrame{Frame1, "CurveFrame", "Torque Curve", 2};
   Field Text72{CurveFrame, "Text72", "Shift Torque Up + or Down - \"xxxx\" RPM", "2350",
                Entry(KeyRule::SignedDigits, Unit::RevolutionsPerMinute,
@@ -235,12 +241,6 @@ class AccelerationPage : public ScreenPart {
                     "This will Modify the Torque Curve Up / Increase or Down / Decrease using Dyno "
                     "Correction Factor\r\nNote if Fuel lbs/hr is present it is also Modified",
                     Runs(&AccelerationPage::CorrectTorqueCurve)};
-
-  /// The charts of power from times taken on the road stand here, behind its field.
-  Frame RoadFrame{Frame1, "RoadFrame", "Road Horsepower", 2};
-  Field Text70{RoadFrame, "Text70",
-               "ROad HP RPM Rate per Sec. If other than 0 used in place of Parameter File Times",
-               "0", KeyRule::UnsignedReal};
 };
 
 }  // namespace veldox

@@ -75,11 +75,12 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
                     Opens(&Form13::Shifts)};
   Command Command11{CarFrame, "Command11", "Nitrous Screen",
                     "The stages of nitrous, by gear and by time.", Opens(&Form13::Stages)};
-  Frame EngineFrame{*this, "EngineFrame", "Engine and Graphs", 2};
+  Frame EngineFrame{*this, "EngineFrame", "Engine", 2};
   Command TorqueTable{EngineFrame, "TorqueTable", "Torque Table",
                       "The points of RPM and torque that a run takes, to be seen and edited.",
                       Opens(&Form13::Torques)};
-  Command Command15{EngineFrame, "Command15", "Graph Accel / Dyno / Report",
+  Frame GraphFrame{*this, "GraphFrame", "Graphs and Reports", 3};
+  Command Command15{GraphFrame, "Command15", "Graph Accel / Dyno / Report",
                     "Graphs of the run and of the dyno sheet, and the dyno sheet as a text report.",
                     Opens(&Form13::Dyno)};
 

@@ -11,7 +11,7 @@ void TorqueTablePanel::Open() {
 }
 
 void TorqueTablePanel::Follow() {
-  if (TorqueText.text() == shown_) ShowTable();
+  if (TorqueText.text() == shown_ && block().FormsCleared != 1) ShowTable();
 }
 
 void TorqueTablePanel::ShowTable() {

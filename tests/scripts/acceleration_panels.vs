@@ -23,7 +23,7 @@ pause nitrous without and with its box, before Done
 click Form13.Command11
 set Form13.Text91(0) 300
 click Form13.Command25
-value ET
+value ET8
 press Form13.Text58 x
 click Form13.Command9
 check Form13.Check3
@@ -37,12 +37,12 @@ set Form13.Text90(7) 100
 set Form13.Text91(7) 3
 set Form13.Text94(7) 6
 click Form13.Command25
-value ET
+value ET8
 press Form13.Text58 x
 click Form13.Command9
 check Form13.Check5
 click Form13.Command25
-value ET
+value ET8
 press Form13.Text58 x
 state Form13.Frame1
 uncheck Form13.Check3
@@ -71,6 +71,12 @@ value ET
 click Form13.Command25
 value ET
 press Form13.Text58 x
+pause a file read while the torque table is shown
+answer No
+file cars/truck.prm
+menu Read
+show Form13.TorqueText
+get Form13.TorquePeaks
 click Form13.CloseTorque
 messages
 pause a gearbox picked in the finder
