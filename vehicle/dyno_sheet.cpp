@@ -7,6 +7,7 @@
 #include "core/error.h"
 #include "core/report.h"
 #include "core/units.h"
+#include "vehicle/chart_heads.h"
 #include "vehicle/elapsed_time.h"
 
 namespace veldox {
@@ -51,39 +52,19 @@ void WriteHead(ReportWriter& report, const DynoSheetLayout& layout, DecimalMark 
   report.Add("    Temperature = " + FormatSmart(air.temperature, mark)).EndLine();
 }
 
-/// A column's two heads and its width.
-struct Column {
-  const char* upper;
-  const char* lower;
-  int width = kWidth;
-};
-
-void WriteColumnHeads(ReportWriter& report, const std::vector<Column>& columns) {
-  for (const auto line : {&Column::upper, &Column::lower}) {
-    int width = 0;
-    for (const Column& column : columns) {
-      width += column.width;
-      // A column without a head here leaves its room to the next that has one.
-      if (*(column.*line) == 0) continue;
-      report.CellText = column.*line;
-      report.AddPadCell(width);
-      width = 0;
-    }
-    report.EndLine(LineMark::Heading);
-  }
-  report.EndLine();
-}
-
-std::vector<Column> ColumnsOf(const DynoSheetLayout& layout, bool hasFuel) {
+std::vector<ChartColumn> ColumnsOf(const DynoSheetLayout& layout, bool hasFuel) {
   const char* torque = layout.newtonMetres ? "Torque NM" : "Torque";
-  std::vector<Column> columns{{"", "RPM", kRpmWidth}, {"", torque, kTorqueWidth}, {"", "HP"}};
-  if (layout.cubicInches > 0) columns.push_back({"", "BMEP"});
+  std::vector<ChartColumn> columns{
+      {"", "RPM", kRpmWidth}, {"", torque, kTorqueWidth}, {"", "HP", kWidth}};
+  if (layout.cubicInches > 0) columns.push_back({"", "BMEP", kWidth});
   columns.insert(columns.end(),
                  {{"Corrected", torque, kTorqueWidth}, {"Corrected", "HP", kTorqueWidth}});
   if (hasFuel) {
-    columns.insert(
-        columns.end(),
-        {{"Fuel", "lbs/hr"}, {"", "BSFC"}, {"A/F", "Ratio"}, {"", "SCFM"}, {"", "BSAC"}});
+    columns.insert(columns.end(), {{"Fuel", "lbs/hr", kWidth},
+                                   {"", "BSFC", kWidth},
+                                   {"A/F", "Ratio", kWidth},
+                                   {"", "SCFM", kWidth},
+                                   {"", "BSAC", kWidth}});
   }
   return columns;
 }
@@ -138,7 +119,7 @@ std::string DynoSheetReport(const DynoColumns& columns, const DynoSheetLayout& l
   ReportWriter report(mark);
   WriteHead(report, layout, mark);
   report.EndLine();
-  WriteColumnHeads(report, ColumnsOf(layout, hasFuel));
+  WriteHeads(report, ColumnsOf(layout, hasFuel));
   for (std::size_t row = 0; row < rows; ++row) {
     const double rpm = columns.rpm[row];
     const double torque = columns.torque[row];

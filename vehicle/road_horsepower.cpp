@@ -1,10 +1,12 @@
 #include "vehicle/road_horsepower.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/error.h"
 #include "core/report.h"
 #include "core/units.h"
+#include "vehicle/chart_heads.h"
 #include "vehicle/elapsed_time.h"
 #include "vehicle/gearing.h"
 #include "vehicle/road_load.h"
@@ -22,12 +24,21 @@ constexpr double kLargestDensity = 0.1;     // of the track's air; what is above
       "Row " + std::to_string(row + 1) + " of the road table " + what + " than the row before it.");
 }
 
+constexpr std::array kEngineColumns{
+    ChartColumn{"Mean", "RPM", 9},  ChartColumn{"Mean", "MPH", 9},
+    ChartColumn{"", "Seconds", 10}, ChartColumn{"Acceler-", "ation HP", 11},
+    ChartColumn{"Aero", "HP", 10},  ChartColumn{"Rolling", "HP", 10},
+    ChartColumn{"Total", "HP", 10}, ChartColumn{"Torque", "lb-ft", 10}};
+constexpr std::array kWeightColumns{ChartColumn{"Mean", "MPH", 9}, ChartColumn{"", "Seconds", 10},
+                                    ChartColumn{"Acceler-", "ation HP", 11},
+                                    ChartColumn{"Aero", "HP", 10}, ChartColumn{"Total", "HP", 10}};
+/// Of them without the drag of the air.
+constexpr std::size_t kColumnsWithoutDrag = 3;
+
 /// The rows with an engine speed, and the highest values below them.
 void WriteEngineRows(ReportWriter& report, const RoadDrive& drive,
                      std::span<const RoadPower> powers) {
-  report.AddLines({"    Mean      Mean             Accelera-  Aero     Rolling    Total    Torque_",
-                   "     RPM       MPH   Seconds    tion HP    HP        HP        HP      lb-ft_",
-                   ""});
+  WriteHeads(report, kEngineColumns);
   struct Peak {
     double value;
     double rpm;
@@ -165,19 +176,16 @@ std::string RoadWeightChart(const RoadCar& car, std::span<const double> mph,
   report.EndLine();
   report.Add("   Horse Power Prediction Chart from Weight, MPH and Times").EndLine(LineMark::Bold);
   report.EndLine();
-  if (hasDrag) {
-    report.AddLines({"    Mean             Accelera-  Aero       Total_",
-                     "     MPH   Seconds    tion HP    HP         HP_", ""});
-  } else {
-    report.AddLines({"    Mean             Accelera-_", "     MPH   Seconds    tion HP_", ""});
-  }
+  WriteHeads(
+      report,
+      std::span(kWeightColumns).first(hasDrag ? kWeightColumns.size() : kColumnsWithoutDrag));
   const auto highest = std::max_element(
       powers.begin(), powers.end(),
       [](const RoadPower& a, const RoadPower& b) { return a.TotalHp() < b.TotalHp(); });
   for (const RoadPower& row : powers) {
     report.Add<"0.00">(row.mph, 9).Add<"0.0000">(row.seconds, 10);
     report.Add<"0.00">(row.accelerationHp, 11);
-    if (hasDrag) report.Add<"0.00">(row.aeroHp, 9).Add<"0.00">(row.TotalHp(), 11);
+    if (hasDrag) report.Add<"0.00">(row.aeroHp, 10).Add<"0.00">(row.TotalHp(), 10);
     report.EndLine();
   }
   report.EndLine();
@@ -216,16 +224,20 @@ std::string StartingLineChart(const StartingLine& line, DecimalMark mark) {
   report.EndLine();
   report.EndLine();
   report.Add("   Tire     RPM per MPH by Starting Line Ratio").EndLine(LineMark::Heading);
-  report.Add(" Diameter");
   std::vector<double> ratios;
+  int own = 0;  // the column of the car's own ratio
   for (int i = -kColumnsAside; i <= kColumnsAside; ++i) {
     const double ratio = line.Ratio() + i * kRatioStep;
     if (ratio <= 0) continue;
     ratios.push_back(ratio);
-    report.Add<"0.00#">(ratio, kWidth);
+    if (i <= 0) ++own;
   }
+  report.CellText = kColumnArrow;
+  report.AddPadCell(kWidth * (1 + own));
   report.EndLine(LineMark::Heading);
-  report.EndLine();
+  report.Add(" Diameter");
+  for (const double ratio : ratios) report.Add<"0.00#">(ratio, kWidth);
+  report.EndLine(LineMark::Heading);
   for (int i = -kRowsAside; i <= kRowsAside; ++i) {
     const double diameter = line.tireDiameter + i * kDiameterStep;
     if (diameter <= 0) continue;

@@ -240,7 +240,7 @@ TEST(RoadCharts, OfTheWeightAloneTakeDragOnlyWhereItIsTold) {
   const std::vector<double> seconds{7, 7.5};
   RoadCar car{3217.405, 0.3, 20, 0.01, 29.92126, 0};
   const std::string with = RoadWeightChart(car, mph, seconds, DecimalMark::Point);
-  EXPECT_THAT(Lines(with), testing::Contains("    61.00    0.5000      95.43     9.29     104.72"));
+  EXPECT_THAT(Lines(with), testing::Contains("    61.00    0.5000      95.43      9.29    104.72"));
   for (double RoadCar::*none :
        {&RoadCar::dragCoefficient, &RoadCar::frontalArea, &RoadCar::trackPressure}) {
     RoadCar bare = car;
@@ -267,6 +267,11 @@ TEST(StartingLineChart, HasTheCarInTheMiddle) {
       HasSubstr(
           "\r\n     28.0   141.96   147.96   153.96   159.96   165.97   171.97   177.97^\r\n"));
   EXPECT_THAT(manual, Not(HasSubstr("Slippage")));
+  // The column of the car's own ratio is set off.
+  const std::vector<SetOffColumn> own = SetOffColumns(ReportLines(manual));
+  ASSERT_EQ(own.size(), 1U);
+  EXPECT_EQ(own[0].end, 45U);
+  EXPECT_EQ(own[0].endLine - own[0].firstLine, 17U);
   line.automatic = true;
   const std::string automatic = StartingLineChart(line, DecimalMark::Point);
   EXPECT_THAT(automatic,
