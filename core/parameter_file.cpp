@@ -319,7 +319,8 @@ class ParameterFile::Writer {
 
   /// True for a field whose text stands as long as its value is 0, which nobody has set then.
   static bool KeepsTextAtZero(const Field* field) {
-    return field != nullptr && (field->holds().zeroKeepsText() || !Screen::ShowsAtOpening(*field));
+    return field != nullptr && Screen::SharedPlace(*field) != nullptr &&
+           (field->holds().zeroKeepsText() || !Screen::ShowsAtOpening(*field));
   }
 
   /// False where no field tells the value: it is not there, or cleared.

@@ -35,7 +35,6 @@ constexpr double kStepTolerance = 1e-3;
 
 constexpr double kFeetInMile = 5280;
 constexpr double kQuarterMile = 1320;
-constexpr double kEighthMile = 660;
 constexpr double kOutOfGearFeet = 1325;
 constexpr double kExtensionFeet = 1260;
 constexpr double kFineChartSeconds = 45;
@@ -64,7 +63,7 @@ constexpr double kLeastRpmGap = 0.01;
 constexpr double kMostMph = 10000;
 constexpr double kMostValue = 1e9;
 
-constexpr double kNever = std::numeric_limits<double>::infinity();
+constexpr double kNever = std::numeric_limits<double>::max();
 
 double DensityFactorOf(double trackPressure) {
   return trackPressure / (trackPressure > kLargestDensity ? kStandardPressure : kStandardDensity);

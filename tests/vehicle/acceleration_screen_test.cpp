@@ -207,7 +207,7 @@ INSTANTIATE_TEST_SUITE_P(
                     IntegratedRun{"tests/scripts/cars/truck.prm", 1.86910, 9.10083, 14.43345},
                     IntegratedRun{"tests/scripts/cars/salt_flats.prm", 1.90617, 7.02307, 10.44012},
                     IntegratedRun{"samples/small_block_drag.prm", 1.35322, 5.88687, 9.19842},
-                    IntegratedRun{"samples/motorcycle.prm", 1.63386, 6.13716, 9.34726},
+                    IntegratedRun{"samples/motorcycle.prm", 1.65694, 6.21197, 9.44622},
                     IntegratedRun{"samples/road_race_four.prm", 1.74193, 7.25088, 11.34065}),
     [](const auto& tested) {
       const std::string file = tested.param.file;
