@@ -47,14 +47,16 @@ class RoadCharts : public ScreenPart {
       "Drag, Frontal Area, Tire Rolling Resistance, Tire Growth, Tire Diameter, Vehicle Weight "
       "with Driver, Trans Gear (Ratio).",
       Runs(&RoadCharts::ChartEngineSpeeds)};
+  /// Apart from the other command of the same caption.
+  Frame WeightFrame{page_.Frame1, "WeightFrame", "From Weight Alone, Starting Line", 1};
   Command Command29{
-      page_.RoadFrame, "Command29", "Road HP",
+      WeightFrame, "Command29", "Road HP",
       "Horse Power Prediction Chart using MPH and Times from Parameter File and Vehicle Weight "
       "with Driver. Also optional Coefficient of Drag, Frontal Area and Track BP or Air Density "
       "for Calculating Aero Drag HP.",
       Runs(&RoadCharts::ChartWeight)};
   Command Command32{
-      page_.RoadFrame, "Command32", "SLR Chart",
+      WeightFrame, "Command32", "SLR Chart",
       "Produce a Automatic (Torque Convertor) or Manual (Clutch) Transmission - N/A Starting Line "
       "Gear Ratio Chart Using Tire Diameter and Automatic Trans Check Box.",
       Runs(&RoadCharts::ChartStartingLine)};
