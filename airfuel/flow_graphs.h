@@ -8,9 +8,6 @@
 
 namespace veldox {
 
-/// The limit of an axis that holds a value, with round numbers at ten lines of a grid.
-double AxisLimit(double value);
-
 /// What a flow graph shows over valve lift, at the curtain.
 enum class FlowCurve { Coefficient, Speed, FlowPerArea, Flow };
 

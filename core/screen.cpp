@@ -704,13 +704,11 @@ Control& WithinReach(Control& control) {
 
 namespace {
 
-/// Shows the page that a control stands on.
-void OpenPageOf(const Control& control) {
-  for (ScreenPage* page : control.screen().pages()) {
-    if (page->visible()) continue;
-    for (const Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {
-      if (frame == page) page->Open();
-    }
+/// Turns to the page that a control stands on, where another one is shown.
+void TurnTo(const Control& control) {
+  for (Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {
+    auto* page = dynamic_cast<ScreenPage*>(frame);
+    if (page != nullptr && !page->visible()) page->Open();
   }
 }
 
@@ -718,8 +716,8 @@ void OpenPageOf(const Control& control) {
 /// lies over it, for nobody could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
+  TurnTo(control);
   Control& place = WithinReach(control);
-  if (!place.Reachable()) OpenPageOf(place);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }
 

@@ -17,6 +17,8 @@
 #include "reference/weather_screen.h"
 #include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
+#include "vehicle/acceleration_screen.h"
+#include "vehicle/drag_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
 #include "vehicle/gearbox_finder_screen.h"
@@ -62,10 +64,14 @@ Program::Program(Host& host)
   auto& gearboxFinder = AddScreen<Form19>();
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
+  auto& acceleration = AddScreen<Form13>(static_cast<Grapher&>(*grapher_));
+  gearboxFinder.AddTaker(acceleration);
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
+  AddScreen<Form20>().AddTaker(acceleration);
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
+  shell_->SetReadListener([&acceleration] { acceleration.Torques.Follow(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {

@@ -164,7 +164,8 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
       break;
     }
     case ControlKind::PickList:
-      grid_->setRowStretch(row, 1);
+      // The list's own policy makes the row grow; a stretch of the row would keep the place of
+      // one that is put away.
       grows_ = true;
       grid_->addWidget(faces.Make<PickListFace>(static_cast<PickList&>(control), this).panel(), row,
                        0, 1, 3);
