@@ -377,8 +377,8 @@ inline void Run::Move(double dV, double thrust) {
 
 inline bool Run::Happens() {
   const Moment& m = now_;
-  return m.distance >= nextMark_ || m.mph >= nextChartSpeed_ || m.distance >= nextChartMile_ ||
-         rowAfterShift_ || (m.acceleration > 0) != gains_ || --untilSample_ <= 0;
+  return --untilSample_ <= 0 || m.distance >= nextMark_ || m.mph >= nextChartSpeed_ ||
+         m.distance >= nextChartMile_ || rowAfterShift_ || (m.acceleration > 0) != gains_;
 }
 
 void Run::Happen() {
