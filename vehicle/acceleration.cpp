@@ -144,6 +144,29 @@ class ActiveStages {
   std::size_t byRpm_ = 0;  ///< of them, which come first
 };
 
+/// The car in a step.
+struct Moment {
+  double rpm = 0;
+  double torque = 0;
+  double mph = 0;
+  double speedFps = 0;
+  double lastSpeedFps = 0;
+  double meanSpeedFps = 0;
+  double power = 0;
+  double aeroHp = 0;
+  double rollHp = 0;
+  double netHp = 0;
+  double nitrousHp = 0;
+  double hoodPressure = 0;
+  double acceleration = 0;
+  double lastTimeStep = 0;  ///< of the last step that took time
+  double lastRpmStep = 0;   ///< its rise in RPM
+  double elapsed = 0;
+  double distance = 0;
+  double limitedFeet = 0;  ///< where the tires limited the thrust last
+  std::size_t steps = 0;
+};
+
 /// The run itself. Whatever happens in a step is in plain numbers of this object.
 class Run {
  public:
@@ -161,18 +184,20 @@ class Run {
   bool ShiftGear(std::size_t to);
   void RunGear(bool shifts);
   void Step(double rpm, double torque);
+  void Resist(double mph);
+  void Power(double power);
   double AddNitrous();
   void Move(double dV, double thrust);
+  bool Happens();
+  void Happen();
   void TakeTopSpeed(double feetASecond);
   void EndRollout(bool late);
   void TakeMarks();
-  void ChartRows();
   void WriteDueRows();
   void WriteChartRow();
   void ForceRow();
   void ThrottleStop();
   RunRow Row() const;
-  void SampleDue();
   void Sample();
   void BeginClock();
   void Restart();
@@ -226,25 +251,7 @@ class Run {
   ActiveStages stages_;
   double nitrousFactor_ = 1;
 
-  // The moment
-  double rpm_ = 0;
-  double torque_ = 0;
-  double mph_ = 0;
-  double speedFps_ = 0;
-  double lastSpeedFps_ = 0;
-  double meanSpeedFps_ = 0;
-  double power_ = 0;
-  double aeroHp_ = 0;
-  double rollHp_ = 0;
-  double netHp_ = 0;
-  double nitrousHp_ = 0;
-  double hoodPressure_ = 0;
-  double acceleration_ = 0;
-  double lastTimeStep_ = 0;  ///< of the last step that took time
-  double lastRpmStep_ = 0;   ///< its rise in RPM
-  double elapsed_ = 0;
-  double distance_ = 0;
-  std::size_t steps_ = 0;
+  Moment now_;
 
   // Marks and rows
   bool launching_ = false;
@@ -264,7 +271,6 @@ class Run {
   // What is told of the run
   RunResult result_;
   bool gains_ = false;  ///< the last step gained speed
-  double limitedFeet_ = 0;
 };
 
 Run::Run(const AccelerationInputs& inputs, RunSink& sink)
@@ -315,28 +321,28 @@ void Run::ReadGearTables(std::size_t gear) {
   ReadNitrous(static_cast<double>(gear + 1));
 }
 
-double Run::AddNitrous() {
-  const double sum = stages_.At(rpm_, elapsed_);
-  nitrousHp_ = sum;
-  return sum * nitrousFactor_;
+inline double Run::AddNitrous() {
+  Moment& m = now_;
+  m.nitrousHp = stages_.At(m.rpm, m.elapsed);
+  return m.nitrousHp * nitrousFactor_;
 }
 
 void Run::BeginClock() {
   clockRuns_ = true;
-  elapsed_ = 0;
+  now_.elapsed = 0;
   mark_ = 0;
   nextMark_ = kStripMarks[0];
 }
 
 void Run::EndRollout(bool late) {
-  sink_.RolloutEnds(elapsed_);
+  sink_.RolloutEnds(now_.elapsed);
   if (late) sink_.Message("Abnormal ET Reset -- Final ET MAY NOT be Correct");
   BeginClock();
 }
 
 void Run::TakeMarks() {
-  while (distance_ >= nextMark_) {
-    const RunMark taken{elapsed_ - (distance_ - nextMark_) / speedFps_, mph_};
+  while (now_.distance >= nextMark_) {
+    const RunMark taken{now_.elapsed - (now_.distance - nextMark_) / now_.speedFps, now_.mph};
     if (mark_ < kStripMarks.size()) {
       result_.strip[mark_] = taken;
       WriteChartRow();
@@ -352,62 +358,90 @@ void Run::TakeMarks() {
 }
 
 inline void Run::Move(double dV, double thrust) {
+  Moment& m = now_;
   const bool limited = thrust > tractionLimit_;
   if (limited) thrust = tractionLimit_;
-  acceleration_ = thrust * perMass_;
+  m.acceleration = thrust * perMass_;
   // A car that gains no speed stands still in time and distance: what is left of the table goes by
   // without it.
-  if (acceleration_ > 0) {
-    const double dT = dV / acceleration_;
-    if (dT >= 0) {
-      elapsed_ += dT;
-      distance_ += dT * meanSpeedFps_;
-      if (dT > 0) {
-        lastTimeStep_ = dT;
-        lastRpmStep_ = rpmStep_;
-      }
-    }
-    gains_ = true;
-    if (limited) limitedFeet_ = distance_;
-  } else if (gains_) {
-    TakeTopSpeed(2 * meanSpeedFps_ - speedFps_);
+  if (!(m.acceleration > 0)) return;
+  const double dT = dV / m.acceleration;
+  if (dT > 0) {
+    m.elapsed += dT;
+    m.distance += dT * m.meanSpeedFps;
+    m.lastTimeStep = dT;
+    m.lastRpmStep = rpmStep_;
   }
-  if (distance_ >= nextMark_) {
+  if (limited) m.limitedFeet = m.distance;
+}
+
+inline bool Run::Happens() {
+  const Moment& m = now_;
+  return --untilSample_ <= 0 || m.distance >= nextMark_ || m.mph >= nextChartSpeed_ ||
+         m.distance >= nextChartMile_ || rowAfterShift_ || (m.acceleration > 0) != gains_;
+}
+
+void Run::Happen() {
+  if ((now_.acceleration > 0) != gains_) {
+    if (gains_) {
+      TakeTopSpeed(2 * now_.meanSpeedFps - now_.speedFps);
+    } else {
+      gains_ = true;
+    }
+  }
+  if (now_.distance >= nextMark_) {
     if (!clockRuns_) EndRollout(!launching_ && !varies_);
     TakeMarks();
   }
+  if (rowAfterShift_) {
+    WriteChartRow();
+    rowAfterShift_ = false;
+  }
+  WriteDueRows();
+  if (untilSample_ <= 0) Sample();
 }
 
 void Run::TakeTopSpeed(double feetASecond) {
   gains_ = false;
   result_.topSpeed = feetASecond / kFeetASecondPerMph;
-  result_.topSpeedRpm = varies_ ? rpm_ : result_.topSpeed / speedFactor_;
+  result_.topSpeedRpm = varies_ ? now_.rpm : result_.topSpeed / speedFactor_;
   result_.topSpeedGear = static_cast<int>(gear_) + 1;
-  result_.topSpeedTime = elapsed_;
-  result_.topSpeedFeet = distance_;
+  result_.topSpeedTime = now_.elapsed;
+  result_.topSpeedFeet = now_.distance;
+}
+
+inline void Run::Resist(double mph) {
+  Moment& m = now_;
+  const double air = mph + headWind_;
+  m.aeroHp = air * air * mph * aeroFactor_;
+  m.rollHp = rollFactor_ * mph;
+}
+
+inline void Run::Power(double power) {
+  Moment& m = now_;
+  m.power = power;
+  if (in_.hoodScoop) {
+    m.hoodPressure = m.meanSpeedFps * m.meanSpeedFps * hoodFactor_;
+    m.power *= (m.hoodPressure + kAtmosphere) / kAtmosphere;
+  }
+  m.netHp = m.power - m.aeroHp - m.rollHp;
+  if (in_.nitrous) m.netHp += AddNitrous();
 }
 
 inline void Run::Step(double rpm, double torque) {
-  ++steps_;
-  rpm_ = rpm;
-  torque_ = torque;
-  mph_ = rpm * speedFactor_;
-  speedFps_ = mph_ * kFeetASecondPerMph;
-  const double dV = speedFps_ - lastSpeedFps_;
-  meanSpeedFps_ = (lastSpeedFps_ + speedFps_) / 2;
-  lastSpeedFps_ = speedFps_;
-  power_ = rpm * torque * powerFactor_;
-  if (in_.hoodScoop) {
-    hoodPressure_ = meanSpeedFps_ * meanSpeedFps_ * hoodFactor_;
-    power_ *= (hoodPressure_ + kAtmosphere) / kAtmosphere;
-  }
-  const double air = mph_ + headWind_;
-  aeroHp_ = air * air * mph_ * aeroFactor_;
-  rollHp_ = rollFactor_ * mph_;
-  netHp_ = power_ - aeroHp_ - rollHp_;
-  if (in_.nitrous) netHp_ += AddNitrous();
+  Moment& m = now_;
+  ++m.steps;
+  m.rpm = rpm;
+  m.torque = torque;
+  m.mph = rpm * speedFactor_;
+  m.speedFps = m.mph * kFeetASecondPerMph;
+  const double dV = m.speedFps - m.lastSpeedFps;
+  m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
+  m.lastSpeedFps = m.speedFps;
+  Resist(m.mph);
+  Power(rpm * torque * powerFactor_);
   // The thrust of the net torque; a converter below its stall speed multiplies both alike.
-  double thrust = rpm > 0 ? netHp_ / rpm * thrustFactor_ : 0;
+  double thrust = rpm > 0 ? m.netHp / rpm * thrustFactor_ : 0;
   if (rpm <= stallRpm_) thrust += (1 - rpm / stallRpm_) * thrust * (in_.torqueMultiplier - 1);
   Move(dV, thrust);
 }
@@ -415,43 +449,45 @@ inline void Run::Step(double rpm, double torque) {
 RunRow Run::Row() const {
   RunRow row;
   row.gear = static_cast<int>(gear_) + 1;
-  row.rpm = rpm_;
-  row.mph = mph_;
-  row.feetASecond = speedFps_;
-  row.torque = torque_;
-  row.aeroHp = aeroHp_;
-  row.rollHp = rollHp_;
-  row.elapsed = elapsed_;
-  row.distance = distance_;
-  row.acceleration = acceleration_;
-  row.nitrousHp = nitrousHp_;
-  row.hoodPressure = hoodPressure_;
-  row.engineHp = power_;
-  if (lastTimeStep_ > 0) row.rpsRate = lastRpmStep_ / lastTimeStep_;
+  row.rpm = now_.rpm;
+  row.mph = now_.mph;
+  row.feetASecond = now_.speedFps;
+  row.torque = now_.torque;
+  row.aeroHp = now_.aeroHp;
+  row.rollHp = now_.rollHp;
+  row.elapsed = now_.elapsed;
+  row.distance = now_.distance;
+  row.acceleration = now_.acceleration;
+  row.nitrousHp = now_.nitrousHp;
+  row.hoodPressure = now_.hoodPressure;
+  row.engineHp = now_.power;
+  if (now_.lastTimeStep > 0) row.rpsRate = now_.lastRpmStep / now_.lastTimeStep;
   if (varies_) {
-    if (mph_ > 0) row.wheelThrust = (netHp_ + aeroHp_ + rollHp_) * kPoundMphOfHp / mph_;
+    if (now_.mph > 0)
+      row.wheelThrust = (now_.netHp + now_.aeroHp + now_.rollHp) * kPoundMphOfHp / now_.mph;
     return row;
   }
-  row.wheelForce = overallRatio_ * torque_ * efficiency_ / rollRadiusFt_;
-  if (rpm_ > 0) {
-    row.wheelTorque = (netHp_ + aeroHp_ + rollHp_) * kPowerOfTorque / rpm_ * overallRatio_;
+  row.wheelForce = overallRatio_ * now_.torque * efficiency_ / rollRadiusFt_;
+  if (now_.rpm > 0) {
+    row.wheelTorque =
+        (now_.netHp + now_.aeroHp + now_.rollHp) * kPowerOfTorque / now_.rpm * overallRatio_;
     row.wheelThrust = row.wheelTorque / rollRadiusFt_;
   }
   return row;
 }
 
 void Run::WriteChartRow() {
-  const double at = varies_ ? mph_ : rpm_;
+  const double at = varies_ ? now_.mph : now_.rpm;
   if (at == lastRowAt_) return;
   // Of a car past its top speed one row tells all.
-  if (!(acceleration_ > 0) && elapsed_ == lastRowElapsed_) return;
+  if (!(now_.acceleration > 0) && now_.elapsed == lastRowElapsed_) return;
   lastRowAt_ = at;
-  lastRowElapsed_ = acceleration_ > 0 ? -1 : elapsed_;
+  lastRowElapsed_ = now_.acceleration > 0 ? -1 : now_.elapsed;
   sink_.Row(Row());
 }
 
 void Run::ForceRow() {
-  acceleration_ = 0;
+  now_.acceleration = 0;
   lastRowElapsed_ = -1;
   WriteChartRow();
 }
@@ -459,42 +495,36 @@ void Run::ForceRow() {
 void Run::ThrottleStop() {
   stopDone_ = true;
   sink_.ThrottleStopStarts();
-  const double before = acceleration_;
-  lastRowAt_ = rpm_ - 1;
+  const double before = now_.acceleration;
+  lastRowAt_ = now_.rpm - 1;
   ForceRow();
-  elapsed_ += in_.throttleStopTime;
-  distance_ += speedFps_ * in_.throttleStopTime;
-  lastRowAt_ = rpm_ - 2;
+  now_.elapsed += in_.throttleStopTime;
+  now_.distance += now_.speedFps * in_.throttleStopTime;
+  lastRowAt_ = now_.rpm - 2;
   ForceRow();
-  acceleration_ = before;
+  now_.acceleration = before;
   sink_.ThrottleStopEnds();
 }
 
-inline void Run::ChartRows() {
-  if (mph_ >= nextChartSpeed_ || distance_ >= nextChartMile_) WriteDueRows();
-}
-
 void Run::WriteDueRows() {
+  if (now_.mph < nextChartSpeed_ && now_.distance < nextChartMile_) return;
   WriteChartRow();
-  if (mph_ >= nextChartSpeed_) {
-    const bool coarse = launching_ || (elapsed_ < kFineChartSeconds && distance_ < kFineChartFeet);
-    nextChartSpeed_ = Floor(mph_) + (coarse ? 5 : 1);
+  if (now_.mph >= nextChartSpeed_) {
+    const bool coarse =
+        launching_ || (now_.elapsed < kFineChartSeconds && now_.distance < kFineChartFeet);
+    nextChartSpeed_ = Floor(now_.mph) + (coarse ? 5 : 1);
   }
-  if (distance_ >= nextChartMile_) nextChartMile_ = Floor(distance_) + kFeetInMile;
+  if (now_.distance >= nextChartMile_) nextChartMile_ = Floor(now_.distance) + kFeetInMile;
 }
 
 void Run::Sample() {
   if (!sampled_) return;
   untilSample_ = sampleSteps_;
-  if (mph_ > 0) sink_.Sample(Row());
-}
-
-inline void Run::SampleDue() {
-  if (--untilSample_ <= 0) Sample();
+  if (now_.mph > 0) sink_.Sample(Row());
 }
 
 void Run::Restart() {
-  distance_ = -in_.rollout / kInchesInFoot;
+  now_.distance = -in_.rollout / kInchesInFoot;
   untilSample_ = sampled_ ? 0 : std::numeric_limits<int>::max();
   const int perInterval =
       std::clamp(kGearSamples / static_cast<int>(LastPoint()), 1, kMostIntervalSamples);
@@ -543,8 +573,7 @@ void Run::LaunchPhase() {
   sampleSteps_ = kLaunchSampleSteps;
   for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
     Step(wheelRpm, torqueNow_);
-    ChartRows();
-    SampleDue();
+    if (Happens()) Happen();
   }
   sampleSteps_ = everyStep;
   launching_ = false;
@@ -560,15 +589,11 @@ void Run::RunGear(bool shifts) {
     const double rise = TableTorque(index_ + 1) - TableTorque(index_);
     const double torqueStep = rise / kSubSteps;
     const double tolerance = rpmStep * kStepTolerance;
+    const double last = std::min(next, shiftRpm) + tolerance;
     rpmStep_ = rpmStep;
     // An interval that the last one's step has passed over gives its rise all the same.
     if (rpm > next + tolerance) torque += rise;
-    while (rpm <= next + tolerance) {
-      if (rpm > shiftRpm + tolerance) {
-        WriteChartRow();
-        Sample();
-        return;
-      }
+    while (rpm <= last) {
       if (rpm >= stopRpm) {
         stopRpm = kNever;
         ThrottleStop();
@@ -576,31 +601,26 @@ void Run::RunGear(bool shifts) {
       Step(rpm, torque);
       rpm += rpmStep;
       torque += torqueStep;
-      if (rowAfterShift_) {
-        WriteChartRow();
-        rowAfterShift_ = false;
-      }
-      ChartRows();
-      SampleDue();
+      if (Happens()) Happen();
     }
     WriteChartRow();
     Sample();
-    if (std::abs(rpm_ - shiftRpm) <= tolerance) break;
+    // The next step would be above the RPM to shift at, or the last one was just there.
+    if (rpm <= next + tolerance || std::abs(now_.rpm - shiftRpm) <= tolerance) break;
   }
 }
 
 bool Run::ShiftGear(std::size_t to) {
   const double time = in_.shiftTime[to - 1];
-  if (gains_) TakeTopSpeed(speedFps_);
-  elapsed_ += time;
-  const double air = mph_ + headWind_;
-  aeroHp_ = air * air * mph_ * aeroFactor_;
-  rollHp_ = rollFactor_ * mph_;
-  distance_ += (speedFps_ - (std::sqrt(time) * ((aeroHp_ + rollHp_) * 10) / mass_) / 2) * time;
+  if (gains_) TakeTopSpeed(now_.speedFps);
+  now_.elapsed += time;
+  Resist(now_.mph);
+  now_.distance +=
+      (now_.speedFps - (std::sqrt(time) * ((now_.aeroHp + now_.rollHp) * 10) / mass_) / 2) * time;
   ReadGearTables(to);
   const int number = static_cast<int>(to);
   std::size_t point = 0;
-  while (point <= LastPoint() && TableRpm(point) * speedFactor_ < mph_) ++point;
+  while (point <= LastPoint() && TableRpm(point) * speedFactor_ < now_.mph) ++point;
   if (point > LastPoint()) {
     sink_.GearTooShort(number, number + 1);
     ReadGearTables(to - 1);
@@ -612,7 +632,7 @@ bool Run::ShiftGear(std::size_t to) {
   torqueNow_ = TableTorque(index_);
   const double step = (TableRpm(index_ + 1) - TableRpm(index_)) / kSubSteps;
   const double torqueStep = (TableTorque(index_ + 1) - TableTorque(index_)) / kSubSteps;
-  while (currentRpm_ * speedFactor_ < mph_) {
+  while (currentRpm_ * speedFactor_ < now_.mph) {
     currentRpm_ += step;
     torqueNow_ += torqueStep;
   }
@@ -632,26 +652,26 @@ RunResult Run::Launched() {
     if (!ShiftGear(gear)) return Finish(RunEnd::GearTooShort);
     RunGear(true);
   }
-  return Finish(acceleration_ > 0 ? RunEnd::Gearing : RunEnd::Power);
+  return Finish(now_.acceleration > 0 ? RunEnd::Gearing : RunEnd::Power);
 }
 
 RunResult Run::EachGear() {
   for (std::size_t gear = 0; gear < kGears && in_.transRatio[gear] > 0; ++gear) {
     Restart();
     ReadGearTables(gear);
-    elapsed_ = 0;
-    distance_ = 0;
+    now_.elapsed = 0;
+    now_.distance = 0;
     nextMark_ = kNever;
     index_ = 0;
     currentRpm_ = TableRpm(0);
     torqueNow_ = TableTorque(0);
-    lastSpeedFps_ = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
+    now_.lastSpeedFps = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
     lastRowAt_ = lastRowElapsed_ = -1;
     nextChartSpeed_ = nextChartMile_ = 0;
     RunGear(false);
   }
   result_.last = Row();
-  result_.steps = steps_;
+  result_.steps = now_.steps;
   result_.tireDiameter = tireDiameter_;
   result_.windDirection = windDirection_;
   return result_;
@@ -669,48 +689,39 @@ RunResult Run::Cvt() {
   while (above < LastPoint() && TableRpm(above) < in_.cvtRpm) ++above;
   const double low = TableRpm(above - 1);
   const double part = (in_.cvtRpm - low) / (TableRpm(above) - low);
-  torque_ = TableTorque(above - 1) + part * (TableTorque(above) - TableTorque(above - 1));
-  rpm_ = in_.cvtRpm;
-  const double enginePower = rpm_ * torque_ * efficiency_ / kPowerOfTorque;
+  now_.torque = TableTorque(above - 1) + part * (TableTorque(above) - TableTorque(above - 1));
+  now_.rpm = in_.cvtRpm;
+  const double enginePower = now_.rpm * now_.torque * efficiency_ / kPowerOfTorque;
   const double end = FurtherMarkFeet(kFurtherMarks - 1);
   StepBound bound(kMostCvtSteps);
-  while (distance_ < end) {
+  Moment& m = now_;
+  while (m.distance < end) {
     bound.Step();
-    ++steps_;
-    const double dV = kCvtStep;
-    lastSpeedFps_ = speedFps_;
-    speedFps_ = static_cast<double>(steps_) * kCvtStep;
-    meanSpeedFps_ = (lastSpeedFps_ + speedFps_) / 2;
+    ++m.steps;
+    m.lastSpeedFps = m.speedFps;
+    m.speedFps = static_cast<double>(m.steps) * kCvtStep;
+    m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
+    m.mph = m.speedFps / kFeetASecondPerMph;
     // The forces stand for the whole step: at its mean speed power and thrust give the same energy.
-    const double meanMph = meanSpeedFps_ / kFeetASecondPerMph;
-    mph_ = speedFps_ / kFeetASecondPerMph;
-    power_ = enginePower;
-    if (in_.hoodScoop) {
-      hoodPressure_ = meanSpeedFps_ * meanSpeedFps_ * hoodFactor_;
-      power_ *= (hoodPressure_ + kAtmosphere) / kAtmosphere;
-    }
-    const double air = meanMph + headWind_;
-    aeroHp_ = air * air * meanMph * aeroFactor_;
-    rollHp_ = rollFactor_ * meanMph;
-    netHp_ = power_ - aeroHp_ - rollHp_;
-    if (in_.nitrous) netHp_ += AddNitrous();
-    Move(dV, netHp_ * kPoundMphOfHp / meanMph);
-    if (!(acceleration_ > 0)) break;
-    ChartRows();
-    SampleDue();
+    const double meanMph = m.meanSpeedFps / kFeetASecondPerMph;
+    Resist(meanMph);
+    Power(enginePower);
+    Move(kCvtStep, m.netHp * kPoundMphOfHp / meanMph);
+    if (Happens()) Happen();
+    if (!(m.acceleration > 0)) break;
   }
   WriteChartRow();
   Sample();
-  return Finish(acceleration_ > 0 ? RunEnd::Distance : RunEnd::Power);
+  return Finish(now_.acceleration > 0 ? RunEnd::Distance : RunEnd::Power);
 }
 
 void Run::HoldSpeed(double feetASecond) {
   // The clock of a car that has not left the rollout begins at its end.
-  const double elapsed = clockRuns_ ? elapsed_ : distance_ / feetASecond;
+  const double elapsed = clockRuns_ ? now_.elapsed : now_.distance / feetASecond;
   for (std::size_t i = static_cast<std::size_t>(StripMark::Feet600); i < kStripMarks.size(); ++i) {
     RunMark& mark = result_.strip[i];
     if (mark.reached()) continue;
-    mark.time = elapsed - (distance_ - kStripMarks[i]) / feetASecond;
+    mark.time = elapsed - (now_.distance - kStripMarks[i]) / feetASecond;
     mark.mph = feetASecond / kFeetASecondPerMph;
   }
 }
@@ -724,39 +735,37 @@ bool Run::RollOut() {
   sink_.ExtensionBegins();
   const double area = in_.frontalArea * in_.dragCoefficient;
   nextChartSpeed_ = 0;
-  double nextRow = Floor(mph_) - 5;
+  double nextRow = Floor(now_.mph) - 5;
   StepBound bound(kMostRollOutSteps);
-  torque_ = power_ = nitrousHp_ = 0;
-  while (distance_ < kQuarterMile) {
+  now_.torque = now_.power = now_.nitrousHp = 0;
+  while (now_.distance < kQuarterMile) {
     bound.Step();
-    mph_ -= kRollOutStep;
-    if (!(mph_ > 0)) break;
-    speedFps_ = mph_ * kFeetASecondPerMph;
-    rpm_ = mph_ / speedFactor_;
-    const double dV = lastSpeedFps_ - speedFps_;
-    meanSpeedFps_ = (lastSpeedFps_ + speedFps_) / 2;
-    lastSpeedFps_ = speedFps_;
-    const double air = mph_ + headWind_;
-    aeroHp_ = air * air * mph_ * aeroFactor_;
-    rollHp_ = rollFactor_ * mph_;
-    const double deceleration =
-        rollHp_ / mass_ + (speedFps_ * speedFps_ * densityFactor_ * kRollOutDensity * area) /
-                              (2 * in_.carWeight) / efficiencyRaw_;
+    now_.mph -= kRollOutStep;
+    if (!(now_.mph > 0)) break;
+    now_.speedFps = now_.mph * kFeetASecondPerMph;
+    now_.rpm = now_.mph / speedFactor_;
+    const double dV = now_.lastSpeedFps - now_.speedFps;
+    now_.meanSpeedFps = (now_.lastSpeedFps + now_.speedFps) / 2;
+    now_.lastSpeedFps = now_.speedFps;
+    Resist(now_.mph);
+    const double deceleration = now_.rollHp / mass_ + (now_.speedFps * now_.speedFps *
+                                                       densityFactor_ * kRollOutDensity * area) /
+                                                          (2 * in_.carWeight) / efficiencyRaw_;
     if (!(deceleration > 0)) break;
-    acceleration_ = -deceleration;
-    elapsed_ += dV / deceleration;
-    distance_ += dV / deceleration * meanSpeedFps_;
+    now_.acceleration = -deceleration;
+    now_.elapsed += dV / deceleration;
+    now_.distance += dV / deceleration * now_.meanSpeedFps;
     lastRowElapsed_ = -1;
-    if (distance_ >= nextMark_) {
+    if (now_.distance >= nextMark_) {
       if (!clockRuns_) EndRollout(true);
       TakeMarks();
     }
-    if (mph_ <= nextRow) {
+    if (now_.mph <= nextRow) {
       WriteChartRow();
-      nextRow = Floor(mph_) - 5;
+      nextRow = Floor(now_.mph) - 5;
     }
   }
-  if (distance_ >= kQuarterMile) return true;
+  if (now_.distance >= kQuarterMile) return true;
   // What the car has not reached so is told at constant speed; the row stays as its last word.
   result_.strip = taken;
   return false;
@@ -765,22 +774,22 @@ bool Run::RollOut() {
 RunResult Run::Finish(RunEnd end) {
   result_.tireDiameter = tireDiameter_;
   result_.windDirection = windDirection_;
-  result_.steps = steps_;
+  result_.steps = now_.steps;
   result_.last = Row();
   result_.end = end;
-  if (limitedFeet_ > 0) result_.tractionLimitedFeet = limitedFeet_;
-  if (gains_) TakeTopSpeed(speedFps_);
+  if (now_.limitedFeet > 0) result_.tractionLimitedFeet = now_.limitedFeet;
+  if (gains_) TakeTopSpeed(now_.speedFps);
   if (!(result_.topSpeed > 0)) {
     result_.end = RunEnd::NoThrust;
     return result_;
   }
   // A car whose power has ended keeps its top speed, whatever the table goes on to.
   const bool powerEnded = end == RunEnd::Power;
-  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : speedFps_;
-  const double rpm = rpm_;
-  const double left = kQuarterMile - distance_;
-  if (distance_ < kOutOfGearFeet && !varies_) {
-    const double gained = powerEnded || !(acceleration_ > 0) ? 0 : 2 * acceleration_ * left;
+  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : now_.speedFps;
+  const double rpm = now_.rpm;
+  const double left = kQuarterMile - now_.distance;
+  if (now_.distance < kOutOfGearFeet && !varies_) {
+    const double gained = powerEnded || !(now_.acceleration > 0) ? 0 : 2 * now_.acceleration * left;
     const double speed = std::sqrt(std::max(0.0, lastFps * lastFps + gained)) / kFeetASecondPerMph;
     const double ratio = gearRatio_ * (in_.usesPrimaryDrive ? in_.primaryDrive : 1);
     result_.tryRearGearRatio = (in_.automatic ? Kept(in_.converterSlippage) : 1) * rpm *
@@ -788,13 +797,13 @@ RunResult Run::Finish(RunEnd end) {
                                (2 * kInchTurnsPerMph * speed * ratio);
   }
   if (left <= 0) return result_;
-  const double elapsed = elapsed_, distance = distance_;
+  const double elapsed = now_.elapsed, distance = now_.distance;
   const bool clockRan = clockRuns_;
-  if (distance_ < kExtensionFeet && !powerEnded && RollOut()) {
+  if (now_.distance < kExtensionFeet && !powerEnded && RollOut()) {
     result_.rest = RunRest::Deceleration;
   } else {
-    elapsed_ = elapsed;
-    distance_ = distance;
+    now_.elapsed = elapsed;
+    now_.distance = distance;
     clockRuns_ = clockRan;
     HoldSpeed(lastFps);
     result_.rest = RunRest::ConstantVelocity;
