@@ -103,8 +103,9 @@ std::string NotesOn(const char* name, const FlowPort& port, const FlowTable& tab
 
 }  // namespace
 
-FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, Grapher& grapher)
-    : ScreenPart(screen), valves_(valves), mach_(mach), grapher_(grapher) {}
+FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, GraphPanel& graphs,
+                     Grapher& grapher)
+    : ScreenPart(screen), valves_(valves), mach_(mach), graphs_(graphs), grapher_(grapher) {}
 
 void FlowPanel::Tell(const std::string& text, Icon icon) const {
   const ProgramContext& context = screen().context();
@@ -330,14 +331,14 @@ void FlowPanel::ReportPistonDemand() {
 
 void FlowPanel::Graph(const FlowGraph& graph, bool adds) {
   const FlowReportValues values = ReadFlow();
-  const FlowPlot plot = PlotFlow(graph, values);
+  FlowPlot plot = PlotFlow(graph, values);
+  if (const double largest = graphs_.ReadMaxLift(); largest > 0) plot.frame.range.xHigh = largest;
   // Flags of what was computed tell of numbers that are none.
   BuildReport([] { return std::string{}; }, kImpossibleGraph);
   for (const GraphCurve& curve : plot.curves) PlotEngine::RequireSeries(curve.points, curve.note);
-  if (adds && grapher_.HasGraph()) {
-    grapher_.AddToGraph(plot.curves);
-  } else {
-    grapher_.DrawGraph(plot.frame, plot.curves);
+  const bool isFurther = adds && grapher_.HasGraph();
+  graphs_.Draw(grapher_, plot.frame, plot.curves, adds);
+  if (!isFurther) {
     lastGraph_ = graph;
     if (graph.curve == FlowCurve::Flow) DrawLimits(values, plot.frame.range);
   }

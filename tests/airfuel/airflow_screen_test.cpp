@@ -38,7 +38,8 @@ class AirflowScreen : public testing::Test {
   TestHost host_;
   std::unique_ptr<ProgramContext> context_ = std::make_unique<ProgramContext>(host_);
   Form8 grapher_{*context_};
-  Form4 form_{*context_, grapher_};
+  CamFiles camFiles_{*context_};
+  Form4 form_{*context_, grapher_, camFiles_};
   AirflowPage& page_ = form_.Page;
   InjectorPanel& injectors_ = form_.Injectors;
   ParameterBlock& block_ = context_->block;
