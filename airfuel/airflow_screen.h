@@ -52,7 +52,7 @@ class Form4 : public Screen, public LashTaker {
                     Opens(&Form4::TimeArea)};
   Command Command55{PanelsFrame, "Command55", "Port Flow / CSA", "Show Port Flow / CSA Form.",
                     Opens(&Form4::Choke)};
-  Command Command50{PanelsFrame, "Command50(0)", "Valve Sizing",
+  Command Command50{PanelsFrame, "Command50(3)", "Valve Sizing",
                     "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
                     Opens(&Form4::Valves)};
   Command Command80{PanelsFrame, "Command80", "Calculators", "Show Calculators Form.",

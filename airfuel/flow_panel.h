@@ -149,7 +149,7 @@ class FlowPanel : public ScreenPart {
       Entry(KeyRule::UnsignedReal, Unit::InchesWater, Holds(&P::TestDepression).NotConverted(),
             LeaveCheck::HasDigits),
       "The depression of the flow bench. It moves the coefficients; the flow of the table stays."};
-  Command Command50{TestFrame, "Command50(1)", "Valve Sizing",
+  Command Command50{TestFrame, "Command50(0)", "Valve Sizing",
                     "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
                     CommandWork([this] { valves_.Open(); })};
   Command Read0{TestFrame, "Read(0)", "&Read *.FLW File",

@@ -15,31 +15,33 @@ namespace {
 
 constexpr double kReach = 280;  ///< degrees to either side of top dead centre
 constexpr double kWideReach = 360;
+constexpr int kPistonStep = 2;  ///< degrees between points of the piston
 
 /// How the upper end of the Y axis is rounded up.
 enum class AxisTop { Tens, Hundredths, NextHundredth, NextThousandth };
 
 struct CurveKind {
+  std::string_view name;
   std::string_view caption;
   std::string_view pointer;
   AxisTop top;
 };
 constexpr std::array<CurveKind, kTimeAreaCurves> kKinds = {{
-    {"Flow / CFM", "<--- Flow / CFM", AxisTop::Tens},
-    {"Valve Lift", "<--- Valve Lift", AxisTop::Hundredths},
-    {"Curtain DC", "<--- Curtain DC", AxisTop::Hundredths},
-    {"Curtain/Fow Area", "<--- Curtain/Flow Area", AxisTop::Hundredths},
-    {"Time Area", "<--- Time Area", AxisTop::NextHundredth},
-    {"Time Area/cc", "<--- Time Area/cc", AxisTop::NextThousandth},
-    {"Valve Lift Vertical", "<--- Valve Lift Vertical", AxisTop::Hundredths},
-    {"Valve Lift Horizontal", "<--- Valve Lift Horizontal", AxisTop::Hundredths},
-    {"Piston Travel", "<--- Piston Travel", AxisTop::Hundredths},
-    {"Flow / CFM", "<--- Flow / CFM", AxisTop::Tens},
-    {"Velocity fps", "<--- Velocity fps", AxisTop::Tens},
-    {"Velocity fps", "<--- Velocity fps", AxisTop::Tens},
-    {"Velocity fps", "<--- Velocity fps", AxisTop::Tens},
-    {"Velocity fps", "<--- Velocity fps", AxisTop::Tens},
-    {"Piston Acceleration", "<--- Piston Acceleration", AxisTop::Tens},
+    {"Flow", "Flow / CFM", "<--- Flow / CFM", AxisTop::Tens},
+    {"Lift", "Valve Lift", "<--- Valve Lift", AxisTop::Hundredths},
+    {"Cur DC", "Curtain DC", "<--- Curtain DC", AxisTop::Hundredths},
+    {"Cur Area", "Curtain/Fow Area", "<--- Curtain/Flow Area", AxisTop::Hundredths},
+    {"Time Area", "Time Area", "<--- Time Area", AxisTop::NextHundredth},
+    {"Time Area/cc", "Time Area/cc", "<--- Time Area/cc", AxisTop::NextThousandth},
+    {"Lift Vert", "Valve Lift Vertical", "<--- Valve Lift Vertical", AxisTop::Hundredths},
+    {"Lift Horiz", "Valve Lift Horizontal", "<--- Valve Lift Horizontal", AxisTop::Hundredths},
+    {"Piston Travel", "Piston Travel", "<--- Piston Travel", AxisTop::Hundredths},
+    {"Piston Flow", "Flow / CFM", "<--- Flow / CFM", AxisTop::Tens},
+    {"Cur Vel", "Velocity fps", "<--- Velocity fps", AxisTop::Tens},
+    {"Throat Vel", "Velocity fps", "<--- Velocity fps", AxisTop::Tens},
+    {"Min CSA Vel", "Velocity fps", "<--- Velocity fps", AxisTop::Tens},
+    {"Piston Velocity", "Velocity fps", "<--- Velocity fps", AxisTop::Tens},
+    {"Piston Acceler", "Piston Acceleration", "<--- Piston Acceleration", AxisTop::Tens},
 }};
 
 const CurveKind& KindOf(TimeAreaCurve curve) {
@@ -83,7 +85,8 @@ GraphCurve PortCurve(const TimeAreaGraph& graph, const TimeAreaValues& values,
                      const TimeAreaSide& side) {
   GraphCurve curve;
   curve.note = std::string(side.port.isExhaust ? "Exhaust " : "Intake ");
-  curve.note += KindOf(graph.curve).caption;
+  curve.note += KindOf(graph.curve).name;
+  if (!values.cam.title.empty()) curve.note += "   " + values.cam.title;
   curve.fewestPoints = 0;
   const double scale = IsLift(graph.curve) && values.inMillimetres ? kMillimetresPerInch : 1;
   for (const TimeAreaRow& row :
@@ -96,7 +99,7 @@ GraphCurve PortCurve(const TimeAreaGraph& graph, const TimeAreaValues& values,
 
 GraphCurve PistonCurve(const TimeAreaGraph& graph, const TimeAreaEngine& engine, double reach) {
   GraphCurve curve;
-  curve.note = KindOf(graph.curve).caption;
+  curve.note = KindOf(graph.curve).name;
   const CrankSlider slider = engine.Slider();
   const auto valueAt = [&](double degrees) {
     const PistonState piston = PistonStateAt(slider, engine.rpm, degrees);
@@ -108,7 +111,7 @@ GraphCurve PistonCurve(const TimeAreaGraph& graph, const TimeAreaEngine& engine,
     }
   };
   const int last = static_cast<int>(reach);
-  for (int degrees = -last; degrees <= last; ++degrees) {
+  for (int degrees = -last; degrees <= last; degrees += kPistonStep) {
     curve.points.push_back({static_cast<double>(degrees), valueAt(degrees)});
   }
   return curve;

@@ -56,6 +56,14 @@ TimeAreaPanel::TimeAreaPanel(Screen& screen, const Parts& parts, CamFiles& files
           InInches(lift, ParseNumber(lift.text(), mark()));
     });
   }
+  const auto dim = [this](Table& table, const FieldArray& durations) {
+    table.DimRows([this, &durations](int row) {
+      const std::string& text = durations[row].text();
+      return !IsNumber(text, mark()) || !(ParseNumber(text, mark()) > 0);
+    });
+  };
+  dim(IntakeTable, Text96);
+  dim(ExhaustTable, Text96Exhaust);
   ShowCam();
 }
 
@@ -277,8 +285,8 @@ std::string TimeAreaPanel::SideText(CamSide side) {
           (shown.port.isExhaust ? " ATDC" : " ABDC");
   const auto rated = EventsAt(curve, kIntensityTop, &ValvePoint::camLift);
   if (!rated) return text;
-  return text + "\r\n  Duration at .050 at the lobe " + degrees(rated->duration()) +
-         ",\r\n  its middle " + degrees(shown.port.isExhaust ? -rated->middle() : rated->middle()) +
+  return text + "\r\n  .050 at the lobe: " + degrees(rated->duration()) + ", middle " +
+         degrees(shown.port.isExhaust ? -rated->middle() : rated->middle()) +
          (shown.port.isExhaust ? " BTDC" : " ATDC");
 }
 

@@ -15,6 +15,7 @@
 #include "cam/cam_files.h"
 #include "core/field_array.h"
 #include "core/field_copy.h"
+#include "core/frame_row.h"
 #include "core/panel.h"
 #include "core/results.h"
 #include "core/screen_part.h"
@@ -111,7 +112,7 @@ class TimeAreaPanel : public ScreenPart {
   FieldCopy IntakeCount{ValveFrame, parts_.valves.Text62};
   FieldCopy ExhaustValve{ValveFrame, parts_.valves.Text45};
   FieldCopy ExhaustCount{ValveFrame, parts_.valves.Text63};
-  Command Command50{ValveFrame, "Command50(3)", "Valve Sizing",
+  Command Command50{ValveFrame, "Command50(1)", "Valve Sizing",
                     "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
                     CommandWork([this] { parts_.valves.Open(); })};
   Command Read1{ValveFrame, "Read(1)", "&Read *.FLW File",
@@ -119,6 +120,46 @@ class TimeAreaPanel : public ScreenPart {
                 "Internet for use with Engine Simulation Programs. Also *.dyn DeskTop Dyno Files "
                 "or *.dym Dynomation Files.",
                 CommandWork([this] { parts_.flow.ReadFlowFile(); }, CommandRole::Serves)};
+
+  Frame GraphFrame{Frame12, "TimeAreaGraphFrame", "Graph", 0};
+  OptionGroup Option6{
+      GraphFrame,
+      "Option6",
+      "",
+      {{0, "Flow", "What the flow tables give at the valve's lift."},
+       {1, "Lift", "The lift of the valves."},
+       {2, "Cur DC", "The discharge coefficient at the curtain."},
+       {3, "Cur Area", "The area that is open at the valve."},
+       {4, "Time Area", "Area by time, in square centimeters by milliseconds."},
+       {5, "Time Area/cc", "The same by the cylinder's volume in cc."},
+       {6, "Lift Vert", "The lift of the valves along the bore."},
+       {7, "Lift Horiz", "The lift of the valves across the bore."},
+       {8, "Piston Travel", "How far the piston stands below its top."},
+       {9, "Piston Flow", "The flow that the piston asks for."},
+       {10, "Cur Vel",
+        "The velocity of the piston's demand at the valve, from .050 inches of lift on."},
+       {11, "Throat Vel", "The velocity of the piston's demand in the throat."},
+       {12, "Min CSA Vel",
+        "The velocity of the piston's demand in the port's smallest cross-section."},
+       {13, "Piston Velocity", "The velocity of the piston, times Scale Size 2."},
+       {14, "Piston Acceler", "The acceleration of the piston, times Scale Size 2."}},
+      0,
+      3};
+  CheckBox Wide{GraphFrame, "Check1(8)", "360-360",
+                "Graphs begin at -360 degrees and end at 360, not at 280."};
+  FieldTwin Zoom{GraphFrame, parts_.graphs.Text65};
+  FieldTwin PistonScale{GraphFrame, parts_.graphs.Text66};
+  Command Command67{GraphFrame, "Command67", "Graph", "Draw what is chosen over crank degrees.",
+                    Runs(&TimeAreaPanel::GraphFirst)};
+  Command Command68{GraphFrame, "Command68", "Graph Plus",
+                    "Draw what is chosen onto the graph that stands there.",
+                    Runs(&TimeAreaPanel::GraphFurther)};
+
+  Frame CamFrame{Frame12, "TimeAreaCamFrame", "Cam", 1};
+  ResultLines CamNotes{CamFrame, "CamNotes", "Cam", "The cam whose lift file was read last."};
+  Command ReadCam{CamFrame, "ReadCam", "Read Cam Lift File",
+                  "Read a lift file, *.cmm or Cam Doctor, into the lift tables of all screens.",
+                  Runs(&TimeAreaPanel::ReadLiftFile, CommandRole::Serves)};
 
   Frame IntakeFrame{Frame12, "TimeAreaIntakeFrame", "Intake", 1};
   Field Text92{IntakeFrame, "Text92", "Rocker Arm Ratio", "1.5",
@@ -207,7 +248,8 @@ class TimeAreaPanel : public ScreenPart {
                      LeaveCheck::HasDigits),
                "The valve's timing is told at each of these lifts."};
 
-  Frame IntakeTableFrame{Frame12, "IntakeLiftFrame", "Intake Lift Table", 2};
+  FrameRow TableRow{Frame12, "TimeAreaTableRow", 2};
+  Frame IntakeTableFrame{TableRow, "IntakeLiftFrame", "Intake Lift Table", 0};
   FieldArray Text95{IntakeTableFrame,
                     "Text95",
                     kFlowRows,
@@ -225,7 +267,7 @@ class TimeAreaPanel : public ScreenPart {
                     "Crank degrees while which the valve is open by the lift. Rows without are "
                     "passed over."};
   Table IntakeTable{IntakeTableFrame, "IntakeLiftTable", "Intake Lift", {Text95, Text96}};
-  Frame ExhaustTableFrame{Frame12, "ExhaustLiftFrame", "Exhaust Lift Table", 3};
+  Frame ExhaustTableFrame{TableRow, "ExhaustLiftFrame", "Exhaust Lift Table", 1};
   FieldArray Text95Exhaust{
       ExhaustTableFrame,
       "Text95",
@@ -269,47 +311,7 @@ class TimeAreaPanel : public ScreenPart {
                     "the cam that is loaded.",
                     Runs(&TimeAreaPanel::SetLiftTable, CommandRole::Serves)};
 
-  Frame CamFrame{Frame12, "TimeAreaCamFrame", "Cam", 4};
-  ResultLines CamNotes{CamFrame, "CamNotes", "Cam", "The cam whose lift file was read last."};
-  Command ReadCam{CamFrame, "ReadCam", "Read Cam Lift File",
-                  "Read a lift file, *.cmm or Cam Doctor, into the lift tables of all screens.",
-                  Runs(&TimeAreaPanel::ReadLiftFile, CommandRole::Serves)};
-
-  Frame GraphFrame{Frame12, "TimeAreaGraphFrame", "Graph", 4};
-  OptionGroup Option6{
-      GraphFrame,
-      "Option6",
-      "",
-      {{0, "Flow", "What the flow tables give at the valve's lift."},
-       {1, "Lift", "The lift of the valves."},
-       {2, "Cur DC", "The discharge coefficient at the curtain."},
-       {3, "Cur Area", "The area that is open at the valve."},
-       {4, "Time Area", "Area by time, in square centimeters by milliseconds."},
-       {5, "Time Area/cc", "The same by the cylinder's volume in cc."},
-       {6, "Lift Vert", "The lift of the valves along the bore."},
-       {7, "Lift Horiz", "The lift of the valves across the bore."},
-       {8, "Piston Travel", "How far the piston stands below its top."},
-       {9, "Piston Flow", "The flow that the piston asks for."},
-       {10, "Cur Vel",
-        "The velocity of the piston's demand at the valve, from .050 inches of lift on."},
-       {11, "Throat Vel", "The velocity of the piston's demand in the throat."},
-       {12, "Min CSA Vel",
-        "The velocity of the piston's demand in the port's smallest cross-section."},
-       {13, "Piston Velocity", "The velocity of the piston, times Scale Size 2."},
-       {14, "Piston Acceler", "The acceleration of the piston, times Scale Size 2."}},
-      0,
-      3};
-  CheckBox Wide{GraphFrame, "Check1(8)", "360-360",
-                "Graphs begin at -360 degrees and end at 360, not at 280."};
-  FieldTwin Zoom{GraphFrame, parts_.graphs.Text65};
-  FieldTwin PistonScale{GraphFrame, parts_.graphs.Text66};
-  Command Command67{GraphFrame, "Command67", "Graph", "Draw what is chosen over crank degrees.",
-                    Runs(&TimeAreaPanel::GraphFirst)};
-  Command Command68{GraphFrame, "Command68", "Graph Plus",
-                    "Draw what is chosen onto the graph that stands there.",
-                    Runs(&TimeAreaPanel::GraphFurther)};
-
-  Frame ReportFrame{Frame12, "TimeAreaReportFrame", "Text Reports", 4};
+  Frame ReportFrame{Frame12, "TimeAreaReportFrame", "Text Reports", 2};
   Command Command52{
       ReportFrame, "Command52", "Port Time Area",
       "Calculate Time Area, Piston Flow, Velocities and Depressions of both ports "
@@ -324,8 +326,10 @@ class TimeAreaPanel : public ScreenPart {
                      "Tell only when the valves of the lift file open and close.",
                      Runs(&TimeAreaPanel::ReportCamSpec)};
 
-  Command Command53{Frame12, "Command53", "&Done", "Back to the air and fuel flow.", PutsAway()};
-  Command Command91{Frame12, "Command91(5)", "Done", "Back to the air and fuel flow.", PutsAway()};
+  Command Command53{ReportFrame, "Command53", "&Done", "Back to the air and fuel flow.",
+                    PutsAway()};
+  Command Command91{ReportFrame, "Command91(5)", "Done", "Back to the air and fuel flow.",
+                    PutsAway()};
 };
 
 }  // namespace veldox

@@ -14,7 +14,8 @@ class FrameRow : public Frame {
  public:
   FrameRow(Screen& screen, std::string name, int column)
       : Frame(screen, std::move(name), "", column) {}
-  FrameRow(FrameRow& outer, std::string name, int column)
+  /// In a panel, a page or another row.
+  FrameRow(Frame& outer, std::string name, int column)
       : Frame(outer, std::move(name), "", column) {}
 };
 
