@@ -188,7 +188,10 @@ double TimeAreaPanel::CrankStep(const LiftTable& table) const {
 
 ValveCurve TimeAreaPanel::CurveOfFile(const TimeAreaSide& side) const {
   const LiftTable table = files_.TableOf(side.port.isExhaust ? CamSide::Exhaust : CamSide::Intake);
-  std::span<const double> lifts = table.lifts;
+  // The tables are in millimetres for a screen that works in them.
+  std::vector<double> inches(table.lifts.begin(), table.lifts.end());
+  for (double& lift : inches) lift /= files_.UnitsPerInch();
+  std::span<const double> lifts = inches;
   // Files of lift testers begin anywhere on the base circle.
   const bool keepsFirst = block().LiftsOfCamDoctor != 0 && !Skip.on();
   if (!keepsFirst) {
@@ -201,8 +204,6 @@ ValveCurve TimeAreaPanel::CurveOfFile(const TimeAreaSide& side) const {
 
 void TimeAreaPanel::TakeLiftFile(TimeAreaValues& values) {
   if (!HasCam()) throw CommandError(ErrorKind::InvalidArgument, kNoCam);
-  // The lifts may be millimetres for a screen that works in them.
-  files_.ConvertTables(false);
   const ParameterBlock& b = block();
   values.cam = {b.CamFileTitle, b.CamFileHeader, b.LiftsOfCamDoctor != 0};
   values.intake.curve = CurveOfFile(values.intake);
@@ -216,7 +217,6 @@ void TimeAreaPanel::ReadLiftFile() {
 
 void TimeAreaPanel::SetLiftTable() {
   const bool hasCam = HasCam();
-  if (hasCam) files_.ConvertTables(false);
   for (const CamSide side : {CamSide::Intake, CamSide::Exhaust}) {
     const SideFields fields = FieldsOf(side);
     const bool isIntake = side == CamSide::Intake;
@@ -252,7 +252,6 @@ void TimeAreaPanel::ShowCam() {
 
 std::string TimeAreaPanel::CamText() {
   if (!HasCam()) return kNoCamNote;
-  files_.ConvertTables(false);
   std::string text = block().CamFileTitle;
   if (text.empty()) text = "A cam without a name";
   return text + "\r\nIntake: " + SideText(CamSide::Intake) +

@@ -198,16 +198,15 @@ class TimeAreaPanel : public ScreenPart {
       "Degrees BTDC Intake Open",
       "42",
       Entry(KeyRule::SignedReal, Unit::Degrees, Holds(&P::IntakeOpenBTDC), LeaveCheck::HasDigits),
-      "Where the intake lobe of the lift file begins, in crank degrees before top dead "
-      "center."};
+      "Where the intake valve leaves its seat, in crank degrees before top dead center."};
   Field Text87{
       FileFrame,
       "Text87",
       "Degrees BBDC Exhaust Open",
       "86",
       Entry(KeyRule::SignedReal, Unit::Degrees, Holds(&P::ExhaustOpenBBDC), LeaveCheck::HasDigits),
-      "Where the exhaust lobe of the lift file begins, in crank degrees before bottom "
-      "dead center."};
+      "Where the exhaust valve leaves its seat, in crank degrees before bottom dead "
+      "center."};
   Field Text74{
       FileFrame,
       "Text74",
@@ -264,7 +263,7 @@ class TimeAreaPanel : public ScreenPart {
                     {"290", "262", "242", "208", "174", "136", "86", "42", "0.0"},
                     Entry(KeyRule::UnsignedReal, Unit::Degrees, HoldsColumn<&P::IntakeLiftTable>(1),
                           LeaveCheck::HasDigits),
-                    "Crank degrees while which the valve is open by the lift. Rows without are "
+                    "Crank degrees during which the valve is open by the lift. Rows without are "
                     "passed over."};
   Table IntakeTable{IntakeTableFrame, "IntakeLiftTable", "Intake Lift", {Text95, Text96}};
   Frame ExhaustTableFrame{TableRow, "ExhaustLiftFrame", "Exhaust Lift Table", 1};
@@ -285,7 +284,7 @@ class TimeAreaPanel : public ScreenPart {
                            {"298", "270", "250", "216", "182", "144", "94", "50", "0.0"},
                            Entry(KeyRule::UnsignedReal, Unit::Degrees,
                                  HoldsColumn<&P::ExhaustLiftTable>(1), LeaveCheck::HasDigits),
-                           "Crank degrees while which the valve is open by the lift. Rows without "
+                           "Crank degrees during which the valve is open by the lift. Rows without "
                            "are passed over.",
                            kFlowRows};
   Table ExhaustTable{

@@ -86,7 +86,9 @@ class Reporter {
     if (cam.isCamDoctor && !cam.header.empty()) {
       report_.Add("C1 File - Header Information").EndLine(LineMark::Bold);
     }
-    for (const std::string_view line : Lines(cam.header)) {
+    for (std::string_view line : Lines(cam.header)) {
+      // Lines of comment have their mark in the file.
+      if (line.starts_with(';')) line.remove_prefix(1);
       if (!Trim(line).empty()) report_.Add(Trim(line)).EndLine();
     }
     report_.EndLine();

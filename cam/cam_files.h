@@ -6,6 +6,7 @@
 #include "cam/lift_analysis.h"
 #include "cam/lift_file.h"
 #include "core/file_dialogs.h"
+#include "core/units.h"
 
 namespace veldox {
 
@@ -45,6 +46,8 @@ class CamFiles : public FileDialogs {
   void StoreTables(const LiftFile& file, const std::string& title, bool areMillimetres);
   /// The lobe lifts of a side in the shared tables.
   LiftTable TableOf(CamSide side) const;
+  /// What of the tables' unit goes into an inch: 25.4 while they are millimetres.
+  double UnitsPerInch() const { return tablesAreMillimetres_ ? kMillimetresPerInch : 1; }
   /// Converts the lifts in the shared tables, unless they are in these units already.
   void ConvertTables(bool toMillimetres);
 

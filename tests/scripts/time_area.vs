@@ -91,7 +91,7 @@ check Form4.CamDegrees
 show Form4.CamNotes
 uncheck Form4.CamDegrees
 pause a file of a lift tester, with the flow of another
-file cams/pair.c1
+file samples/lobe_pair.c1
 click Form4.ReadCam
 messages
 show Form4.CamNotes
