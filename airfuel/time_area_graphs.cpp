@@ -81,8 +81,9 @@ double ValueOf(TimeAreaCurve curve, const TimeAreaRow& row) {
   return 0;
 }
 
+/// @param highest  is raised to what the Y axis must hold of the curve
 GraphCurve PortCurve(const TimeAreaGraph& graph, const TimeAreaValues& values,
-                     const TimeAreaSide& side) {
+                     const TimeAreaSide& side, double& highest) {
   GraphCurve curve;
   curve.note = std::string(side.port.isExhaust ? "Exhaust " : "Intake ");
   curve.note += KindOf(graph.curve).name;
@@ -92,7 +93,10 @@ GraphCurve PortCurve(const TimeAreaGraph& graph, const TimeAreaValues& values,
   for (const TimeAreaRow& row :
        WalkCurve(side.curve, side.port, values.engine, values.userCoefficient)) {
     if (graph.curve == TimeAreaCurve::AreaSpeed && row.lift < kLeastGraphedLift) continue;
-    curve.points.push_back({row.degrees, ValueOf(graph.curve, row) * scale});
+    const double y = ValueOf(graph.curve, row) * scale;
+    curve.points.push_back({row.degrees, y});
+    // What is pushed back through a valve that hardly opens may run out at the top.
+    if (graph.curve != TimeAreaCurve::AreaSpeed || row.demand > 0) highest = std::max(highest, y);
   }
   return curve;
 }
@@ -128,15 +132,13 @@ FlowPlot PlotTimeArea(const TimeAreaGraph& graph, const TimeAreaValues& values) 
   const CurveKind& kind = KindOf(graph.curve);
   const double reach = graph.isWide ? kWideReach : kReach;
   FlowPlot plot;
+  double highest = 0;
   if (IsOfPiston(graph.curve)) {
     plot.curves.push_back(PistonCurve(graph, values.engine, reach));
+    for (const GraphPoint& point : plot.curves[0].points) highest = std::max(highest, point.y);
   } else {
-    if (graph.hasIntake) plot.curves.push_back(PortCurve(graph, values, values.intake));
-    if (graph.hasExhaust) plot.curves.push_back(PortCurve(graph, values, values.exhaust));
-  }
-  double highest = 0;
-  for (const GraphCurve& curve : plot.curves) {
-    for (const GraphPoint& point : curve.points) highest = std::max(highest, point.y);
+    if (graph.hasIntake) plot.curves.push_back(PortCurve(graph, values, values.intake, highest));
+    if (graph.hasExhaust) plot.curves.push_back(PortCurve(graph, values, values.exhaust, highest));
   }
   const double zoom = graph.zoom > 0 ? graph.zoom : 1;
   plot.frame.range = {-reach * zoom, reach * zoom, 0, TopOf(kind.top, highest) * zoom};

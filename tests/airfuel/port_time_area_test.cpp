@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -405,6 +406,14 @@ TEST(PortTimeArea, GraphedVelocitiesBeginWhereTheValveIsOpen) {
   const FlowPlot throat = PlotTimeArea(graph, Values());
   EXPECT_LT(speed.curves[0].points.size(), throat.curves[0].points.size());
   EXPECT_EQ(speed.frame.yPointer, "<--- Velocity fps");
+  // The axis holds what goes the port's own way: the intake between its dead centres.
+  double highest = 0;
+  for (const GraphPoint& point : speed.curves[0].points) {
+    if (point.x > 1 && point.x < 179) highest = std::max(highest, point.y);
+  }
+  EXPECT_GE(speed.frame.range.yHigh, highest);
+  // The exhaust is pushed back at its opening through next to nothing.
+  EXPECT_GT(speed.curves[1].points.front().y, speed.frame.range.yHigh);
 }
 
 }  // namespace
