@@ -52,6 +52,11 @@ double ValueOf(FlowCurve curve, const FlowPort& port, const FlowPoint& point, do
   return point.flow;
 }
 
+/// A curve needs two rows with lift.
+bool HasCurve(const FlowTable& table) {
+  return std::ranges::count_if(table, [](const FlowPoint& point) { return point.lift > 0; }) > 1;
+}
+
 }  // namespace
 
 double AxisLimit(double value) {
@@ -86,9 +91,17 @@ FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values) {
       highest = std::max(highest, y);
     }
     plot.curves.push_back(std::move(curve));
+    plot.ports.push_back(&port);
   };
-  if (graph.hasIntake) add(true, values.intake, values.intakeFlow);
-  if (graph.hasExhaust) add(false, values.exhaust, values.exhaustFlow);
+  const bool isOfBoth = graph.hasIntake && graph.hasExhaust;
+  const bool hasIntake = HasCurve(values.intakeFlow);
+  const bool hasExhaust = HasCurve(values.exhaustFlow);
+  if (graph.hasIntake && !(isOfBoth && !hasIntake && hasExhaust)) {
+    add(true, values.intake, values.intakeFlow);
+  }
+  if (graph.hasExhaust && !(isOfBoth && !hasExhaust && hasIntake)) {
+    add(false, values.exhaust, values.exhaustFlow);
+  }
   plot.frame.range = {0, AxisLimit(largestLift), 0, AxisLimit(highest)};
   plot.frame.xPointer = "<--- Lift";
   plot.frame.xName = "Lift";

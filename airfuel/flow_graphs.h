@@ -23,9 +23,11 @@ struct FlowGraph {
 struct FlowPlot {
   GraphFrame frame;
   std::vector<GraphCurve> curves;
+  std::vector<const FlowPort*> ports;  ///< that the curves belong to
 };
 
-/// The curves of a graph, a point a row with lift, on axes that hold them.
+/// The curves of a graph, a point a row with lift, on axes that hold them. Of two ports one that
+/// has no curve, for want of rows, is left out.
 FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values);
 
 /// What a port would flow without loss through its curtain and throat, from no lift up to the

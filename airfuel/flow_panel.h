@@ -72,8 +72,10 @@ class FlowPanel : public ScreenPart {
   /// @param lines  each ended by a line break
   void ShowNotes(std::string lines);
   void Graph(const FlowGraph& graph, bool adds = false);
-  /// Draws dashed lines onto a graph of both ports' flow.
-  void DrawLimits(const FlowReportValues& values, const AxisRange& range);
+  /// True when the grapher shows a graph with the names of this one at its axes.
+  bool ShowsFlow(const FlowPlot& plot) const;
+  /// Draws dashed lines onto a graph of the ports' flow: what would pass without loss.
+  void DrawLimits(double testVelocity, const FlowPlot& plot);
   void Tell(const std::string& text, Icon icon = Icon::Information) const;
 
   ValvePanel& valves_;

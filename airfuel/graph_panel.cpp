@@ -35,22 +35,25 @@ double GraphPanel::ReadPistonScale() {
   return block().ScaleSize2;
 }
 
-void GraphPanel::Draw(Grapher& grapher, const GraphFrame& frame, std::vector<GraphCurve> curves,
-                      bool adds) {
-  if (!Line.on()) {
-    for (GraphCurve& curve : curves) {
-      if (curve.points.empty()) continue;
-      curve.moves.resize(curve.points.size() - 1);
-      std::iota(curve.moves.begin(), curve.moves.end(), 1);
-    }
+void GraphPanel::TakeLinesOff(std::vector<GraphCurve>& curves) const {
+  if (Line.on()) return;
+  for (GraphCurve& curve : curves) {
+    if (curve.points.empty()) continue;
+    curve.moves.resize(curve.points.size() - 1);
+    std::iota(curve.moves.begin(), curve.moves.end(), 1);
   }
-  const bool isFurther = adds && grapher.HasGraph();
-  const std::size_t first = isFurther ? grapher.plot().series().size() : 0;
-  if (isFurther) {
-    grapher.AddToGraph(curves);
-  } else {
-    grapher.DrawGraph(frame, curves);
-  }
+}
+
+void GraphPanel::Draw(Grapher& grapher, const GraphFrame& frame, std::vector<GraphCurve> curves) {
+  TakeLinesOff(curves);
+  grapher.DrawGraph(frame, curves);
+  AddMarks(grapher.plot(), 0);
+}
+
+void GraphPanel::AddTo(Grapher& grapher, std::vector<GraphCurve> curves, const AxisRange& range) {
+  TakeLinesOff(curves);
+  const std::size_t first = grapher.plot().series().size();
+  grapher.AddToGraph(curves, range);
   AddMarks(grapher.plot(), first);
 }
 

@@ -16,9 +16,11 @@ class GraphPanel : public ScreenPart {
 
   void Open() { Frame16.Open(); }
 
-  /// Draws a new graph as the options have it, or onto the present one where there is one, with
-  /// all marks.
-  void Draw(Grapher& grapher, const GraphFrame& frame, std::vector<GraphCurve> curves, bool adds);
+  /// Draws a new graph as the options have it, with all marks.
+  void Draw(Grapher& grapher, const GraphFrame& frame, std::vector<GraphCurve> curves);
+  /// Draws curves onto the present graph as the options have them.
+  /// @param range  that the axes grow to where they do not hold it yet
+  void AddTo(Grapher& grapher, std::vector<GraphCurve> curves, const AxisRange& range);
 
   bool showsIntake() const { return Option5.chosen() != kExhaustAlone; }
   bool showsExhaust() const { return Option5.chosen() != kIntakeAlone; }
@@ -33,6 +35,8 @@ class GraphPanel : public ScreenPart {
   static constexpr int kIntakeAlone = 1;
   static constexpr int kExhaustAlone = 2;
 
+  /// Takes the lines off curves where there are to be none.
+  void TakeLinesOff(std::vector<GraphCurve>& curves) const;
   /// Puts dots and circles on the curves from an index on.
   void AddMarks(PlotEngine& plot, std::size_t first) const;
 

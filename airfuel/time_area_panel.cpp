@@ -324,6 +324,12 @@ void TimeAreaPanel::ReportCamSpec() {
   ShowTimeArea(&CamSpecReport, values);
 }
 
+bool TimeAreaPanel::ShowsDegrees(const FlowPlot& plot) const {
+  const PlotEngine& shown = grapher_.plot();
+  return grapher_.HasGraph() && shown.crankAngleAxis &&
+         shown.Caption(kXNameCaption) == plot.frame.xName;
+}
+
 void TimeAreaPanel::Graph(bool adds) {
   TimeAreaValues values = ReadValues();
   TimeAreaGraph graph;
@@ -340,7 +346,12 @@ void TimeAreaPanel::Graph(bool adds) {
   for (const GraphCurve& curve : plot.curves) {
     PlotEngine::RequireSeries(curve.points, curve.note, curve.fewestPoints);
   }
-  parts_.graphs.Draw(grapher_, plot.frame, plot.curves, adds);
+  // A curve of another quantity keeps the axes, which its own scale fits it to.
+  if (adds && ShowsDegrees(plot)) {
+    parts_.graphs.AddTo(grapher_, plot.curves, grapher_.plot().scale());
+  } else {
+    parts_.graphs.Draw(grapher_, plot.frame, plot.curves);
+  }
   grapher_.ShowGraph();
 }
 

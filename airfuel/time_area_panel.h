@@ -83,6 +83,8 @@ class TimeAreaPanel : public ScreenPart {
   void ShowTimeArea(std::string (*make)(const TimeAreaValues&, DecimalMark),
                     const TimeAreaValues& values);
   void Graph(bool adds);
+  /// The graph that stands there is over crank degrees, as a further curve is.
+  bool ShowsDegrees(const FlowPlot& plot) const;
   std::string CamText();
   std::string SideText(CamSide side);
 

@@ -123,6 +123,8 @@ ValvePanel::Ports ValvePanel::ThroatAreas() {
   ports.exhaust.throatArea = ThroatArea(ports.exhaust.valves, Measure());
   Require(ports.intake.throatArea > 0, Text44, kNoThroat);
   Require(ports.exhaust.throatArea > 0, Text47, kNoThroat);
+  RequireResult(Text44, ports.intake.throatArea);
+  RequireResult(Text47, ports.exhaust.throatArea);
   return ports;
 }
 

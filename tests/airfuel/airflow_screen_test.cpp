@@ -176,7 +176,8 @@ TEST_F(AirflowScreen, LetsNoClickThroughWhileAFieldIsEmpty) {
   Set(page_.Text1, "");
   host_.Answer(Button::OK);
   EXPECT_FALSE(Click(page_.Command8));
-  EXPECT_EQ(host_.messages.back().text, "Note: This field can not be blank.");
+  EXPECT_EQ(host_.messages.back().text,
+            "Note: This field can not be blank.\r\nNothing has been done for \"Carb Size\".");
   EXPECT_EQ(host_.messages.back().icon, Icon::Warning);
   EXPECT_EQ(form_.focus(), &page_.Text1);
   Set(page_.Text1, "0");
