@@ -1,5 +1,7 @@
 #include "airfuel/time_area_panel.h"
 
+#include <algorithm>
+#include <cfenv>
 #include <cmath>
 #include <cstddef>
 #include <span>
@@ -240,6 +242,9 @@ void TimeAreaPanel::SetLiftTable() {
 }
 
 void TimeAreaPanel::ShowCam() {
+  // What is shown at once is no part of the command that has changed a field.
+  std::fexcept_t flags{};
+  std::fegetexceptflag(&flags, FE_ALL_EXCEPT);
   std::string text;
   try {
     text = CamText();
@@ -248,6 +253,7 @@ void TimeAreaPanel::ShowCam() {
     text = block().CamFileTitle + "\r\nPlease check ratio, lash and degrees.";
   }
   CamNotes.SetText(text);
+  std::fesetexceptflag(&flags, FE_ALL_EXCEPT);
 }
 
 std::string TimeAreaPanel::CamText() {

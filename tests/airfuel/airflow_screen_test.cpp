@@ -584,6 +584,19 @@ TEST_F(AirflowScreen, MetricChangesTheTimeAreaPanelAlone) {
   EXPECT_EQ(panel.Text95[2].text(), ".100");
 }
 
+TEST_F(AirflowScreen, ACamBeyondAllNumbersSpoilsNoCommand) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(1e300), "huge.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text92, "1e20");
+  Set(panel.Text93, "1e20");
+  // The notes are made anew while the lashes are converted.
+  EXPECT_TRUE(panel.Metric.Click());
+  EXPECT_EQ(panel.Text68.text(), "1.27");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(Click(panel.Command111));
+}
+
 TEST_F(AirflowScreen, GraphsHaveTheMarksOfTheirOptions) {
   GraphPanel& graphs = form_.Graphs;
   FlowPanel& flow = form_.Flow;
