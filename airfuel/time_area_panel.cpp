@@ -51,12 +51,8 @@ TimeAreaPanel::TimeAreaPanel(Screen& screen, const Parts& parts, CamFiles& files
   }
   // The file has the lifts of the table a second time, alone.
   for (int row = 0; row < Text95.count(); ++row) {
-    Field& lift = Text95[row];
-    lift.WhenChanged([this, &lift, row] {
-      if (!IsNumber(lift.text(), mark())) return;
-      block().LiftTable.at(static_cast<std::size_t>(row)) =
-          InInches(lift, ParseNumber(lift.text(), mark()));
-    });
+    Text95[row].WhenChanged([this, row] { TakeTableLift(row); });
+    TakeTableLift(row);
   }
   const auto dim = [this](Table& table, const FieldArray& durations) {
     table.DimRows([this, &durations](int row) {
@@ -67,6 +63,13 @@ TimeAreaPanel::TimeAreaPanel(Screen& screen, const Parts& parts, CamFiles& files
   dim(IntakeTable, Text96);
   dim(ExhaustTable, Text96Exhaust);
   ShowCam();
+}
+
+void TimeAreaPanel::TakeTableLift(int row) {
+  const Field& lift = Text95[row];
+  if (!IsNumber(lift.text(), mark())) return;
+  block().LiftTable.at(static_cast<std::size_t>(row)) =
+      InInches(lift, ParseNumber(lift.text(), mark()));
 }
 
 void TimeAreaPanel::Open() {

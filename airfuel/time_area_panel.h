@@ -85,6 +85,8 @@ class TimeAreaPanel : public ScreenPart {
   void Graph(bool adds);
   /// The graph that stands there is over crank degrees, as a further curve is.
   bool ShowsDegrees(const FlowPlot& plot) const;
+  /// Takes a lift of the intake's table into the shared list of lifts.
+  void TakeTableLift(int row);
   std::string CamText();
   std::string SideText(CamSide side);
 
