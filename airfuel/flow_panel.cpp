@@ -104,8 +104,9 @@ std::string NotesOn(const char* name, const FlowPort& port, const FlowTable& tab
 
 }  // namespace
 
-FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, Grapher& grapher)
-    : ScreenPart(screen), valves_(valves), mach_(mach), grapher_(grapher) {}
+FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, GraphPanel& graphs,
+                     Grapher& grapher)
+    : ScreenPart(screen), valves_(valves), mach_(mach), graphs_(graphs), grapher_(grapher) {}
 
 void FlowPanel::Tell(const std::string& text, Icon icon) const {
   const ProgramContext& context = screen().context();
@@ -331,16 +332,17 @@ void FlowPanel::ReportPistonDemand() {
 
 void FlowPanel::Graph(const FlowGraph& graph, bool adds) {
   const FlowReportValues values = ReadFlow();
-  const FlowPlot plot = PlotFlow(graph, values);
+  FlowPlot plot = PlotFlow(graph, values);
+  if (const double largest = graphs_.ReadMaxLift(); largest > 0) plot.frame.range.xHigh = largest;
   // Flags of what was computed tell of numbers that are none.
   BuildReport([] { return std::string{}; }, kImpossibleGraph);
   for (const GraphCurve& curve : plot.curves) PlotEngine::RequireSeries(curve.points, curve.note);
   if (adds && ShowsFlow(plot)) {
     AxisRange range = grapher_.plot().scale();
     for (const GraphCurve& curve : plot.curves) range = GrownBy(range, curve, plot.frame.range);
-    grapher_.AddToGraph(plot.curves, range);
+    graphs_.AddTo(grapher_, plot.curves, range);
   } else {
-    grapher_.DrawGraph(plot.frame, plot.curves);
+    graphs_.Draw(grapher_, plot.frame, plot.curves);
     lastGraph_ = graph;
     if (graph.curve == FlowCurve::Flow) DrawLimits(values.testVelocity, plot);
   }

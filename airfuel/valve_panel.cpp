@@ -137,14 +137,20 @@ void ValvePanel::McsaDefaults(Ports& ports) {
   ports.exhaust.mcsa = mcsa(block().ExhaustMCSA, ports.exhaust.valves, kExhaustMcsaPart);
 }
 
-void ValvePanel::RequireSeats(const Ports& ports) {
+void ValvePanel::RequireSeat(const PortValves& valves, Field& angle, Field& width) {
   constexpr double kRightAngle = 90;
-  const auto require = [](const PortValves& valves, Field& angle, Field& width) {
-    Require(valves.seatAngle > 0 && valves.seatAngle < kRightAngle, angle, kBetweenZeroAndNinety);
-    Require(SeatMinorDiameter(valves) > 0, width, kNoSeat);
-  };
-  require(ports.intake.valves, Text120, Text121);
-  require(ports.exhaust.valves, Text122, Text123);
+  Require(valves.seatAngle > 0 && valves.seatAngle < kRightAngle, angle, kBetweenZeroAndNinety);
+  Require(SeatMinorDiameter(valves) > 0, width, kNoSeat);
+}
+
+void ValvePanel::RequireSeats(const Ports& ports) {
+  RequireSeat(ports.intake.valves, Text120, Text121);
+  RequireSeat(ports.exhaust.valves, Text122, Text123);
+}
+
+void ValvePanel::RequireSeatsInUse(const Ports& ports) {
+  if (ports.intake.valves.HasSeat()) RequireSeat(ports.intake.valves, Text120, Text121);
+  if (ports.exhaust.valves.HasSeat()) RequireSeat(ports.exhaust.valves, Text122, Text123);
 }
 
 std::string ValvePanel::ThroatNotes(const Ports& ports) {

@@ -14,6 +14,7 @@ class FrameRow : public Frame {
  public:
   FrameRow(Screen& screen, std::string name, int column)
       : Frame(screen, std::move(name), "", column) {}
+  /// In a panel, a page or another row.
   FrameRow(Frame& outer, std::string name, int column)
       : Frame(outer, std::move(name), "", column) {}
 };

@@ -55,7 +55,8 @@ Program::Program(Host& host)
   AddScreen<Form10>();
   AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
-  AddScreen<Form4>(static_cast<Grapher&>(*grapher_));
+  auto& airflow = AddScreen<Form4>(static_cast<Grapher&>(*grapher_), *camFiles_);
+  camFiles_->AddLashTaker(airflow);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
   AddScreen<Form33>(*camFiles_);

@@ -50,7 +50,7 @@ value AirFuel Option2
 value Test Depression
 value Intake Valve Size
 pause more valves: some of the exhaust's figures count the intake's
-click Form4.Command50(1)
+click Form4.Command50(0)
 state Form4.Frame8
 set Form4.Text62 2
 set Form4.Text63 3
