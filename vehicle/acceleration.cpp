@@ -58,7 +58,8 @@ constexpr int kCvtSampleSteps = 50;
 constexpr int kGearSamples = 600;
 constexpr int kMostIntervalSamples = 40;
 
-/// Feet a second squared. No clock tells a car that gains speed more slowly from one that gains none.
+/// Feet a second squared. No clock tells a car that gains speed more slowly from one that gains
+/// none.
 constexpr double kLeastAcceleration = 1e-6;
 
 // Bounds that keep a run within steps and speeds that there are
@@ -267,7 +268,7 @@ class Run {
 
   // Marks and rows
   bool launching_ = false;
-  bool varies_ = false;     ///< the engine keeps its speed
+  bool varies_ = false;      ///< the engine keeps its speed
   bool wholeTable_ = false;  ///< all of the table is gone through, whether the car can or not
   bool clockRuns_ = false;
   bool stopDone_ = false;
@@ -660,10 +661,10 @@ std::optional<RunEnd> Run::ShiftGear(std::size_t to, bool pulls) {
   now_.elapsed += time;
   Resist(now_, now_.mph);
   // However long the change takes, the car does not roll back.
-  now_.distance += std::max(0.0, now_.speedFps - (std::sqrt(time) *
-                                                  ((now_.aeroHp + now_.rollHp) * 10) / mass_) /
-                                                     2) *
-                   time;
+  now_.distance +=
+      std::max(0.0,
+               now_.speedFps - (std::sqrt(time) * ((now_.aeroHp + now_.rollHp) * 10) / mass_) / 2) *
+      time;
   ReadGearTables(to);
   const int number = static_cast<int>(to);
   std::size_t point = 0;

@@ -224,9 +224,8 @@ TEST(AccelerationReport, ComputedTimesStandUnderTheirHeading) {
   chart = ChartRun(car.Run(), false, DecimalMark::Point);
   ASSERT_GT(chart.result.last.distance, 1000);
   ASSERT_LT(chart.result.last.distance, 1260);
-  EXPECT_THAT(MarksOf(chart.report),
-              ElementsAre("60 Foot", "330 Foot", "1/8 Mile", "1000 Foot",
-                          "Calculated From DeAcceleration", "1/4 Mile"));
+  EXPECT_THAT(MarksOf(chart.report), ElementsAre("60 Foot", "330 Foot", "1/8 Mile", "1000 Foot",
+                                                 "Calculated From DeAcceleration", "1/4 Mile"));
   EXPECT_GT(chart.report.find("1/4 Mile MPH = "), chart.report.find("------- Calculated"));
 }
 

@@ -647,9 +647,8 @@ TEST(Acceleration, RowsOfTheRollOutStandAtWholeFives) {
   ASSERT_EQ(run.rest, RunRest::Deceleration);
   double next = 75;  // from 77.4 MPH down
   for (const RunRow& row : sink.rolledOut) {
-    const bool isMark = std::ranges::any_of(kStripMarks, [&](double feet) {
-      return row.distance >= feet && row.distance - feet < 10;
-    });
+    const bool isMark = std::ranges::any_of(
+        kStripMarks, [&](double feet) { return row.distance >= feet && row.distance - feet < 10; });
     if (isMark && std::abs(row.mph - next) > 0.025) continue;
     // The first of the steps of 0.025 MPH that is there.
     EXPECT_NEAR(row.mph, next - 0.0125, 0.01251);
