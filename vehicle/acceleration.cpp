@@ -163,6 +163,24 @@ struct StepValues {
   double hoodPressure = 0;
   double acceleration = 0;
   bool limited = false;  ///< by the tires
+
+  /// Takes over a step's values, each by itself: they stay in registers until here, which a copy of
+  /// the whole would prevent.
+  void Follow(const StepValues& step) {
+    rpm = step.rpm;
+    torque = step.torque;
+    mph = step.mph;
+    speedFps = step.speedFps;
+    meanSpeedFps = step.meanSpeedFps;
+    power = step.power;
+    aeroHp = step.aeroHp;
+    rollHp = step.rollHp;
+    netHp = step.netHp;
+    nitrousHp = step.nitrousHp;
+    hoodPressure = step.hoodPressure;
+    acceleration = step.acceleration;
+    limited = step.limited;
+  }
 };
 
 /// The car after a step that it has taken.
@@ -379,7 +397,7 @@ inline bool Run::Take(const StepValues& step) {
   const double dV = step.speedFps - m.speedFps;
   const bool gains = step.acceleration > kLeastAcceleration;
   if (!gains && dV > 0 && !wholeTable_) return false;
-  static_cast<StepValues&>(m) = step;
+  m.Follow(step);
   if (!gains) return true;
   const double dT = dV / step.acceleration;
   if (dT > 0) {
