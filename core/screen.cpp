@@ -716,8 +716,8 @@ void TurnTo(const Control& control) {
 /// lies over it, for nobody could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
-  TurnTo(control);
   Control& place = WithinReach(control);
+  if (!place.Reachable()) TurnTo(place);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }
 
