@@ -55,6 +55,9 @@ FileContents ContentsOf(std::string_view text) {
         equals == std::string_view::npos ? std::string_view{} : line.substr(0, equals);
     if (Lower(key) == Lower(kNotesKey)) {
       contents.notes = Trim(text.substr(equals + 2));
+      while (contents.notes.ends_with('\n') || contents.notes.ends_with('\r')) {
+        contents.notes.pop_back();
+      }
       return contents;
     }
     text = rest;

@@ -23,7 +23,7 @@ TEST(FileContents, NumbersTheRowsThatTheFileDoesNot) {
                   FileRecord{"VE RPM 1", "VE RPM", ".8"}, FileRecord{"VE RPM 2", "VE RPM", ".9"},
                   FileRecord{"Acceleration 1", "Acceleration", "2000 300"},
                   FileRecord{"Acceleration 2", "Acceleration", "2500 310"}));
-  EXPECT_EQ(contents.notes, "first = one\r\nsecond");
+  EXPECT_EQ(contents.notes, "first = one\r\nsecond");  // lines of the file end, notes do not
 }
 
 TEST(FileContents, TellsTheRoadTablesApartByTheirCase) {
