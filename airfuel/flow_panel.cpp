@@ -167,7 +167,7 @@ void FlowPanel::NoteFlow(const FlowReportValues& values) {
   const auto figures = static_cast<FlowFigures>(Option2.chosen());
   ShowText(
       FlowNotes,
-      source_ + ValvePanel::ThroatNotes(ports) +
+      *source_ + ValvePanel::ThroatNotes(ports) +
           NotesOn("Intake", values.intake, values.intakeFlow, figures, values.testVelocity) +
           NotesOn("Exhaust", values.exhaust, values.exhaustFlow, figures, values.testVelocity));
 }
@@ -218,7 +218,7 @@ void FlowPanel::ClearTable(const Columns& columns) const {
 void FlowPanel::ClearTables() {
   ClearTable(IntakeColumns());
   ClearTable(ExhaustColumns());
-  source_.clear();
+  source_ = {};
   ShowNotes({});
 }
 
@@ -346,7 +346,7 @@ void FlowPanel::Graph(const FlowGraph& graph, bool adds) {
 }
 
 void FlowPanel::DrawLimits(const FlowReportValues& values, const AxisRange& range) {
-  PlotEngine& engine = grapher_.plot();
+  PlotEngine& engine = grapher_.ChangePlot();
   const auto draw = [&](const FlowPort& port, std::size_t series) {
     const std::vector<GraphPoint> points = FlowLimit(port, values.testVelocity, range);
     const Pen pen{engine.series()[series].color, 1, LineStyle::Dash};
@@ -359,11 +359,11 @@ void FlowPanel::DrawLimits(const FlowReportValues& values, const AxisRange& rang
 }
 
 void FlowPanel::GraphAgain() {
-  if (!lastGraph_) {
+  if (!lastGraph_->has_value()) {
     screen().ShowHelp(kNoGraphYet);
     return;
   }
-  Graph(*lastGraph_, true);
+  Graph(**lastGraph_, true);
 }
 
 }  // namespace veldox

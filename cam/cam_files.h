@@ -5,6 +5,7 @@
 
 #include "cam/lift_file.h"
 #include "core/file_dialogs.h"
+#include "core/kept.h"
 
 namespace veldox {
 
@@ -44,7 +45,7 @@ class CamFiles : public FileDialogs {
   void ConvertTables(bool toMillimetres);
 
  private:
-  bool tablesAreMillimetres_ = false;
+  Kept<bool> tablesAreMillimetres_{context()};
   std::vector<LashTaker*> takers_;
 };
 

@@ -176,6 +176,10 @@ class Shell : public Screen, public FileTaker {
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
+  /// Shows what other values than those of controls have been put back.
+  void ShowPutBack();
+  /// Whether what a menu item changes can be undone as a step.
+  static bool IsStep(const MenuItem& item);
   void TellMenuChanged();
   void TellTitleChanged();
   /// Asks about unsaved data. @throws CommandError (Cancelled, File) where they were to be saved
@@ -202,6 +206,7 @@ class Shell : public Screen, public FileTaker {
   bool ended_ = false;
   ScreenScaling scaling_;
   Settings settings_;
+  Appearance shownAppearance_;
 
  public:
   // The title, its name line for the parameter file, and the help line

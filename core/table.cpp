@@ -146,7 +146,7 @@ const std::string& Table::Head(int column) const {
 void Table::SetHead(int column, std::string head) {
   TableColumn& changed = columns_[static_cast<std::size_t>(column)];
   if (changed.headLabel != nullptr) changed.headLabel->SetCaption(head);
-  changed.head = std::move(head);
+  Assign(changed.head, std::move(head), Aspect::Work);
   NameCells();
   Changed();
 }

@@ -77,6 +77,7 @@ Program::Program(Host& host)
 void Program::Start() {
   shell_->Start();
   about_->SetLines(shell_->VersionLine(), shell_->DateLine());
+  context_->history.Begin();
 }
 
 }  // namespace veldox

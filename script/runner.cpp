@@ -11,6 +11,7 @@
 #include <random>
 #include <system_error>
 
+#include "core/dry_run.h"
 #include "core/files.h"
 #include "core/key_table.h"
 
@@ -57,22 +58,6 @@ std::optional<int> ParseWhole(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
   return value;
-}
-
-std::string TextOf(const Control& control) {
-  switch (control.kind()) {
-    case ControlKind::Field:
-    case ControlKind::ReportBox:
-    case ControlKind::TextArea: return static_cast<const TextControl&>(control).text();
-    case ControlKind::CheckBox: return static_cast<const CheckBox&>(control).on() ? "on" : "off";
-    case ControlKind::OptionButton:
-      return static_cast<const OptionButton&>(control).on() ? "on" : "off";
-    case ControlKind::OptionGroup:
-      return std::to_string(static_cast<const OptionGroup&>(control).chosen());
-    case ControlKind::ComboList:
-    case ControlKind::PickList: return static_cast<const ComboList&>(control).chosenText();
-    default: return control.caption();
-  }
 }
 
 std::string StateText(bool visible, bool enabled) {
@@ -153,6 +138,14 @@ void ScriptRunner::RunLine(std::string_view line) {
     TellPages();
   } else if (verb == "plot") {
     TellPlot();
+  } else if (verb == "undo") {
+    program_.context().history.Undo();
+  } else if (verb == "redo") {
+    program_.context().history.Redo();
+  } else if (verb == "history") {
+    TellHistory();
+  } else if (verb == "preview") {
+    TellPreview(Find<Command>(rest, "command"));
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color", "printer"})) {
@@ -256,7 +249,7 @@ void ScriptRunner::Tell(std::string_view verb, std::string_view target) {
   }
   Control& control = FindControl(target);
   if (verb == "get") {
-    print_(name + " = " + EscapeText(TextOf(control)));
+    print_(name + " = " + EscapeText(ShownText(control)));
   } else if (verb == "state") {
     print_(name + " = " + StateText(control.Shown(), control.enabled()));
   } else if (verb == "rows") {
@@ -264,7 +257,7 @@ void ScriptRunner::Tell(std::string_view verb, std::string_view target) {
     print_(std::to_string(rows.size()));
     for (const std::string& row : rows) print_(EscapeText(row));
   } else {
-    const std::string text = TextOf(control);
+    const std::string text = ShownText(control);
     for (std::size_t from = 0; from <= text.size();) {
       const auto end = std::min(text.find('\n', from), text.size());
       std::string_view line = std::string_view(text).substr(from, end - from);
@@ -294,6 +287,28 @@ void ScriptRunner::TellValue(std::string_view key) {
     index = *parsed;
   }
   print_(std::string(key) + " = " + EscapeText(KeyValueText(*row, block, index)));
+}
+
+void ScriptRunner::TellHistory() {
+  History& history = program_.context().history;
+  std::vector<std::string> steps = history.Told();
+  steps.resize(history.done());
+  for (const std::string& step : steps) print_(EscapeText(step));
+}
+
+void ScriptRunner::TellPreview(Command& command) {
+  const Preview preview = PreviewOf(command);
+  if (!preview.error.empty()) {
+    print_("error: " + EscapeText(preview.error));
+    return;
+  }
+  for (const ControlChange& change : preview.changes) {
+    print_(change.control->screen().name() + '.' + change.control->name() + " : " +
+           EscapeText(change.before) + " -> " + EscapeText(change.after));
+  }
+  if (preview.report) print_("report");
+  if (preview.graph) print_("graph");
+  for (const std::string& note : preview.notes) print_("note: " + EscapeText(note));
 }
 
 void ScriptRunner::TellPages() {

@@ -34,6 +34,8 @@ class ScriptRunner {
   void Touch(std::string_view verb, std::string_view target, std::string_view text);
   void Tell(std::string_view verb, std::string_view target);
   void TellValue(std::string_view key);
+  void TellHistory();
+  void TellPreview(Command& command);
   void TellPages();
   void TellPlot();
   void PrintList(std::vector<std::string>& lines);
