@@ -1,6 +1,9 @@
 #include "core/dry_run.h"
 
+#include <algorithm>
 #include <cfenv>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace veldox {
@@ -57,6 +60,71 @@ Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> lim
   }
   std::fesetenv(&floats);
   return preview;
+}
+
+namespace {
+
+/// How large a change is beside the number it changes; texts that are no numbers come last.
+double SizeOf(const ControlChange& change) {
+  const DecimalMark mark = change.control->screen().mark();
+  if (!IsNumber(change.after, mark)) return -1;
+  if (!IsNumber(change.before, mark)) return std::numeric_limits<double>::infinity();
+  const double before = ParseNumber(change.before, mark);
+  const double after = ParseNumber(change.after, mark);
+  if (before == after) return 0;
+  return before == 0 ? std::numeric_limits<double>::infinity()
+                     : std::abs((after - before) / before);
+}
+
+std::string TellChange(const ControlChange& change) {
+  const Control& control = *change.control;
+  const auto told = [](const std::string& text) {
+    return text.find_first_not_of(' ') == std::string::npos ? std::string("blank")
+                                                            : text.substr(0, text.find('\r'));
+  };
+  std::string line = control.kind() == ControlKind::Label ? std::string{} : control.PlainCaption();
+  if (!line.empty()) line += ' ';
+  line += told(change.before) + " to " + told(change.after);
+  if (control.kind() == ControlKind::Field) {
+    const auto& field = static_cast<const Field&>(control);
+    const std::string_view unit = UnitSign(field.unit(), field.screen().metric());
+    if (!unit.empty() && IsNumber(change.after, field.screen().mark())) {
+      line += ' ';
+      line += unit;
+    }
+  }
+  return line;
+}
+
+}  // namespace
+
+std::string TellPreview(const Preview& preview,
+                        const std::function<bool(const std::string&)>& fits) {
+  if (!preview.error.empty()) return preview.error.substr(0, preview.error.find('\r'));
+  if (preview.ranOutOfTime) return "It takes too long to be told before.";
+  std::vector<const ControlChange*> changes;
+  for (const ControlChange& change : preview.changes) changes.push_back(&change);
+  std::stable_sort(
+      changes.begin(), changes.end(),
+      [](const ControlChange* a, const ControlChange* b) { return SizeOf(*a) > SizeOf(*b); });
+  std::vector<std::string> pieces;
+  if (preview.report) pieces.emplace_back("report");
+  if (preview.graph) pieces.emplace_back("graph");
+  for (const ControlChange* change : changes) pieces.push_back(TellChange(*change));
+  for (const std::string& note : preview.notes) {
+    pieces.push_back("note: " + note.substr(0, note.find('\r')));
+  }
+  if (pieces.empty()) return "It changes nothing.";
+  std::string line;
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    const std::string longer = line + (i == 0 ? "" : ", ") + pieces[i];
+    const std::size_t left = pieces.size() - i - 1;
+    const bool hasRoom =
+        fits(left == 0 ? longer : longer + ", and " + std::to_string(left) + " more");
+    if (!hasRoom && i > 0) return line + ", and " + std::to_string(left + 1) + " more";
+    line = longer;
+  }
+  return line;
 }
 
 }  // namespace veldox

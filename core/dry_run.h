@@ -58,4 +58,10 @@ struct Preview {
 /// @param limit  how long it may take
 Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> limit = std::nullopt);
 
+/// A preview in a line: "Engine Size 326.7256 to 412.6692 cu in, ...". The largest relative
+/// changes come first, as many as fit, then "and N more"; or why the command cannot.
+/// @param fits  whether a line has room
+std::string TellPreview(const Preview& preview,
+                        const std::function<bool(const std::string&)>& fits);
+
 }  // namespace veldox

@@ -166,7 +166,19 @@ bool History::dirty() const {
   return context_.block.DataChanged != 0;
 }
 
+bool History::LeaveOpen() {
+  EndEntry();
+  if (!open_) return true;
+  TakeBlock();
+  if (context_.journal.Differs(open_->recording)) return false;
+  // The menu item or the list that asks for it has changed nothing.
+  open_->kind = Kind::None;
+  Close();
+  return true;
+}
+
 void History::Close() {
+  if (!open_) return;
   TakeBlock();
   OpenStep step = std::move(*open_);
   open_.reset();
@@ -265,9 +277,7 @@ void History::Exchange(TakenStep& step) {
 }
 
 void History::Undo() {
-  if (!begun_) return;
-  EndEntry();
-  if (open_) return;
+  if (!begun_ || !LeaveOpen()) return;
   TakeBlock();
   while (done_ > 0) {
     Settle();
@@ -284,9 +294,7 @@ void History::Undo() {
 }
 
 void History::Redo() {
-  if (!begun_) return;
-  EndEntry();
-  if (open_ || done_ == steps_.size()) return;
+  if (!begun_ || !LeaveOpen() || done_ == steps_.size()) return;
   TakeBlock();
   // What came between is not what the step was taken from.
   Recording since = std::exchange(between_, Recording(Recording::Scope::Between));
@@ -299,8 +307,7 @@ void History::Redo() {
 }
 
 void History::GoTo(std::size_t done) {
-  EndEntry();
-  if (open_) return;
+  if (!LeaveOpen()) return;
   while (done_ > done) Undo();
   while (done_ < std::min(done, steps_.size())) Redo();
 }

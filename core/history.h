@@ -85,6 +85,10 @@ class History {
   void Redo();
   /// Undoes or redoes until so many steps are done.
   void GoTo(std::size_t done);
+  /// A field is typed into and has not been left since.
+  bool IsTyping(const Control& control) const {
+    return open_ && open_->kind == Kind::Entry && open_->control == &control;
+  }
   /// How many steps are done now.
   std::size_t done();
   /// All steps in words, those that were undone behind.
@@ -109,6 +113,8 @@ class History {
 
   bool Open(Kind kind, std::string title, Control* control);
   void Close();
+  /// Ends what is going on so that steps can be undone; false while something is half done.
+  bool LeaveOpen();
   /// What has changed since the last step goes with that.
   void Settle();
   /// What the shared values have changed by since goes into what is recorded now.

@@ -263,7 +263,7 @@ void PickList::Choose(int row) {
   if (!HasRow(row) || RowAt(row).kind != PickRow::Kind::Choice) return;
   const History::Step step(*this, History::Kind::Other);
   const int index = shown_[static_cast<std::size_t>(row)];
-  Assign(picked_, Picked{index, offers_}, Aspect::Data);
+  Assign(picked_, Picked{index, offers_}, isOption() ? Aspect::Place : Aspect::Data);
   Assign(place_, PickPlace{index, place_.top}, Aspect::Place);
   Assign(current_, row, Aspect::Place);
   SetChosen(row);

@@ -70,6 +70,8 @@ class PickList : public ComboList {
       : PickList(frame, std::move(name), std::move(caption), std::move(help),
                  HandlerOf(frame, handler)) {}
 
+  PickList(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
+
   /// Heads of the columns in which windows show the rows: one of the names, then one for each
   /// figure.
   void SetHeads(std::vector<std::string> heads) { heads_ = std::move(heads); }
@@ -119,7 +121,6 @@ class PickList : public ComboList {
   void HoverRow(int row);
 
  private:
-  PickList(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
   /// The row picked from a list, which is another when other rows are offered.
   struct Picked {
     int index = -1;

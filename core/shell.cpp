@@ -54,6 +54,7 @@ Shell::Shell(ProgramContext& context)
   context.history.SetListener([this](bool putBack) {
     TellTitleChanged();
     if (putBack) ShowPutBack();
+    steps.Follow();
   });
 }
 
@@ -193,6 +194,7 @@ bool Shell::IsStep(const MenuItem& item) {
       &Shell::Graph,     &Shell::Notes,     &Shell::EntryAlig,
       &Shell::T_B_Style, &Shell::O_C_Style, &Shell::Co_Name,
       &Shell::Exit,      &Shell::Write,     &Shell::Print_Head_Location,
+      &Shell::Undo,      &Shell::Redo,      &Shell::Steps,
   };
   return std::find(kNoSteps.begin(), kNoSteps.end(), item.action) == kNoSteps.end();
 }

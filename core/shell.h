@@ -22,6 +22,7 @@
 #include "core/screen_printing.h"
 #include "core/screen_scaling.h"
 #include "core/settings.h"
+#include "core/steps_panel.h"
 #include "core/title_animation.h"
 
 namespace veldox {
@@ -112,8 +113,8 @@ class Shell : public Screen, public FileTaker {
 
   /// The panels that take the launcher's place while they are shown.
   std::vector<ScreenPart*> Panels() {
-    std::vector<ScreenPart*> panels{&notes,      &delimitedColumns, &graphOptions,
-                                    &appearance, &company,          &companyPlace};
+    std::vector<ScreenPart*> panels{&notes,   &delimitedColumns, &graphOptions, &appearance,
+                                    &company, &companyPlace,     &steps};
     panels.insert(panels.end(), toolPanels_.begin(), toolPanels_.end());
     return panels;
   }
@@ -130,6 +131,9 @@ class Shell : public Screen, public FileTaker {
   void Read();
   void Write();
   void Notes() { notes.Open(); }
+  void Undo() { context().history.Undo(); }
+  void Redo() { context().history.Redo(); }
+  void Steps() { steps.Open(); }
   void Clear();
   void Metric();
   void Printer() { printing.SetUpPrinter(); }
@@ -230,6 +234,7 @@ class Shell : public Screen, public FileTaker {
                              [this] { return OwnColors(); }};
   CompanyPanel company{*this};
   CompanyPlacePanel companyPlace{*this};
+  StepsPanel steps{*this};
 
   ScreenPrinting printing{context()};
 };

@@ -205,6 +205,7 @@ bool Table::IsBlock(std::string_view text) {
 }
 
 Table::Range Table::Paste(Place at, std::string_view text) {
+  const History::Step step(*this, History::Kind::Other);
   const FieldRules& rules = screen().context().rules;
   Range gone{at.row, at.column, at.row, at.column};
   Refusals refused;
@@ -246,6 +247,7 @@ Table::Range Table::Paste(Place at, std::string_view text) {
 }
 
 void Table::Empty(const Range& range) {
+  const History::Step step(*this, History::Kind::Other);
   for (int row = range.top; row <= range.bottom; ++row) {
     for (int column = range.left; column <= range.right; ++column) {
       Field* cell = Cell(row, column);

@@ -14,6 +14,7 @@
 #include "core/dry_run.h"
 #include "core/files.h"
 #include "core/key_table.h"
+#include "core/vary.h"
 
 namespace veldox {
 
@@ -146,6 +147,10 @@ void ScriptRunner::RunLine(std::string_view line) {
     TellHistory();
   } else if (verb == "preview") {
     TellPreview(Find<Command>(rest, "command"));
+  } else if (verb == "vary") {
+    TellVaried(rest);
+  } else if (verb == "seek") {
+    TellSought(rest);
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color", "printer"})) {
@@ -309,6 +314,50 @@ void ScriptRunner::TellPreview(Command& command) {
   if (preview.report) print_("report");
   if (preview.graph) print_("graph");
   for (const std::string& note : preview.notes) print_("note: " + EscapeText(note));
+}
+
+double ScriptRunner::TakeNumber(std::string_view& text) const {
+  const std::string_view word = TakeWord(text);
+  for (const DecimalMark mark : {program_.context().mark(), DecimalMark::Point}) {
+    if (IsNumber(word, mark)) return ParseNumber(word, mark);
+  }
+  throw ScriptError("no number: " + std::string(word));
+}
+
+void ScriptRunner::TellVaried(std::string_view text) {
+  auto& field = Find<Field>(TakeWord(text), "field");
+  ValueRange range;
+  range.from = TakeNumber(text);
+  range.to = TakeNumber(text);
+  range.by = TakeNumber(text);
+  auto& command = Find<Command>(TakeWord(text), "command");
+  std::vector<Control*> results;
+  while (!text.empty()) results.push_back(&FindControl(TakeWord(text)));
+  try {
+    for (const VariedLine& line : Vary(field, range, command, results)) {
+      std::string told = EscapeText(line.text);
+      for (const std::string& result : line.results) told += '\t' + EscapeText(result);
+      if (!line.error.empty()) told += "\terror: " + EscapeText(line.error);
+      print_(told);
+    }
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
+}
+
+void ScriptRunner::TellSought(std::string_view text) {
+  auto& field = Find<Field>(TakeWord(text), "field");
+  Sought sought;
+  sought.low = TakeNumber(text);
+  sought.high = TakeNumber(text);
+  auto& command = Find<Command>(TakeWord(text), "command");
+  Control& result = FindControl(TakeWord(text));
+  sought.target = TakeNumber(text);
+  try {
+    print_(EscapeText(Seek(field, sought, command, result)));
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
 }
 
 void ScriptRunner::TellPages() {

@@ -15,8 +15,10 @@
 #include "ui/file_drop.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
+#include "ui/preview_line.h"
 #include "ui/qt_text.h"
 #include "ui/sheet_stack.h"
+#include "ui/step_keys.h"
 #include "ui/window_picture.h"
 
 namespace veldox {
@@ -67,6 +69,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appea
   faces_.SetLook(WindowLook(appearance));
   Fill();
   AddPictureKeys(*this, screen);
+  AddStepKeys(*this, screen.context().history);
   if (auto* taker = dynamic_cast<FileTaker*>(&screen)) AcceptFiles(*this, *taker);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
@@ -197,6 +200,10 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
     row->addWidget(button, 0, Qt::AlignBottom);
   }
   foot->addLayout(row);
+  auto* preview = new PreviewLine(this);
+  faces_.look().DressLabel(*preview);
+  faces_.SetPreview([preview](Command* command) { preview->Follow(command); });
+  foot->addWidget(preview);
   return foot;
 }
 
