@@ -151,6 +151,8 @@ bool History::Open(Kind kind, std::string title, Control* control) {
 }
 
 void History::EndEntry() {
+  // A dry run moves the focus, and nobody has left the field.
+  if (context_.journal.isDry()) return;
   if (open_ && open_->kind == Kind::Entry) Close();
 }
 
@@ -159,7 +161,7 @@ void History::TakeBlock() {
 }
 
 void History::SetTitle(std::string title) {
-  if (open_) open_->title = std::move(title);
+  if (open_ && !context_.journal.isDry()) open_->title = std::move(title);
 }
 
 bool History::dirty() const {
@@ -167,6 +169,7 @@ bool History::dirty() const {
 }
 
 bool History::LeaveOpen() {
+  if (context_.journal.isDry()) return false;
   EndEntry();
   if (!open_) return true;
   TakeBlock();

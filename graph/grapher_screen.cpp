@@ -92,6 +92,7 @@ void Form8::Inform(Icon icon, const std::string& text, const std::string& boxTit
 }
 
 void Form8::OpenFile(const std::filesystem::path& file) {
+  const History::Step step(context(), History::Kind::Other, PathText(file.filename()));
   Perform([&] { RunGraphScript(file, ReadMode::NewLimits, plot_->scale()); });
 }
 

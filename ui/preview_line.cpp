@@ -25,7 +25,7 @@ PreviewLine::PreviewLine(QWidget* parent) : QLabel(parent) {
 }
 
 QSize PreviewLine::sizeHint() const {
-  return {0, fontMetrics().lineSpacing()};
+  return {0, fontMetrics().height()};
 }
 
 QSize PreviewLine::minimumSizeHint() const {

@@ -97,6 +97,11 @@ TEST_P(DryRuns, ChangeNothingToTheLastBitAndTellNobody) {
   int failing = 0;
   const std::vector<Command*> commands = Commands();
   ASSERT_GT(commands.size(), 400U);
+  // The user is typing into a field, and goes on afterwards.
+  auto& typed = static_cast<TextControl&>(*program_.shell().FindControl("Form1.Text5"));
+  typed.screen().MoveFocus(&typed);
+  typed.Edit("6400");
+  face.told = 0;
   ProgramState before(program_, ProgramState::Part::All);
   for (Command* command : commands) {
     const Preview preview = PreviewOf(*command);
@@ -105,6 +110,11 @@ TEST_P(DryRuns, ChangeNothingToTheLastBitAndTellNobody) {
     ProgramState after(program_, ProgramState::Part::All);
     ASSERT_EQ(ProgramState::Difference(before, after), "") << "by " << NameOf(*command);
   }
+  EXPECT_TRUE(program_.context().history.IsTyping(typed));
+  typed.Edit("6450");
+  EXPECT_EQ(program_.context().history.Told().size(), program_.context().history.done());
+  EXPECT_NE(program_.context().history.Told().back().find(" to 6450"), std::string::npos);
+  face.told = 0;
   EXPECT_GT(changing, 100);
   EXPECT_GT(failing, 20);
   EXPECT_EQ(face.told, 0);
