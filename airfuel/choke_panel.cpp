@@ -16,7 +16,10 @@ constexpr const char* kImpossibleGraph =
 }  // namespace
 
 ChokeValues ChokePanel::ReadValues() {
-  ReadFields({&page_.Text27, &page_.Text11, &Text83, &Text61, &mach_.Text52, &mach_.Text53});
+  ReadFields({&page_.Text27});
+  // The speed of most horsepower is the one that other screens work with now.
+  block().RPM = block().RPMMaxHorsePower;
+  ReadFields({&page_.Text11, &Text83, &Text61, &mach_.Text52, &mach_.Text53});
   const ParameterBlock& b = block();
   Require(b.RPMMaxHorsePower > 0, page_.Text27, kAboveZero);
   Require(b.UserVelocityfps > 0, Text83, kAboveZero);
@@ -40,8 +43,6 @@ ChokeValues ChokePanel::ReadValues() {
   for (const FlowPoint& point : flow_.ReadIntake()) {
     if (point.lift > 0) values.lifts.push_back(point.lift);
   }
-  // The speed of most horsepower is the one that other screens work with now.
-  block().RPM = b.RPMMaxHorsePower;
   return values;
 }
 

@@ -8,6 +8,7 @@
 #include "airfuel/flow_graphs.h"
 #include "airfuel/port_shape.h"
 #include "airfuel/report_table.h"
+#include "graph/axis_growth.h"
 
 namespace veldox {
 

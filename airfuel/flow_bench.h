@@ -39,6 +39,9 @@ struct PortValves {
   double count = 0;      ///< valves in a cylinder
   double seatAngle = 0;  ///< degrees
   double seatWidth = 0;  ///< inches
+
+  /// Both seat values are told.
+  bool HasSeat() const { return seatAngle > 0 && seatWidth > 0; }
 };
 
 /// Flow of a square inch without loss.

@@ -1,10 +1,10 @@
 #include "airfuel/flow_graphs.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <string_view>
 #include <utility>
+
+#include "graph/axis_growth.h"
 
 namespace veldox {
 
@@ -52,21 +52,12 @@ double ValueOf(FlowCurve curve, const FlowPort& port, const FlowPoint& point, do
   return point.flow;
 }
 
-}  // namespace
-
-double AxisLimit(double value) {
-  if (!(value > 0)) return 1;
-  if (!std::isfinite(value)) return value;  // the plot refuses it
-  constexpr std::array<double, 11> kLimits = {1, 1.2, 1.5, 2, 2.5, 3, 4, 5, 6, 8, 10};
-  constexpr double kDigits = 1 - 1e-12;  // what a limit may be off by the last digits
-  const int exponent = static_cast<int>(std::floor(std::log10(value)));
-  // Whole powers are exact, their fractions are not.
-  const double power = std::pow(10, std::abs(exponent));
-  const auto scaled = [&](double limit) { return exponent < 0 ? limit / power : limit * power; };
-  const auto found =
-      std::ranges::find_if(kLimits, [&](double limit) { return scaled(limit) >= value * kDigits; });
-  return found == kLimits.end() ? scaled(kLimits.back()) : scaled(*found);
+/// A curve needs two rows with lift.
+bool HasCurve(const FlowTable& table) {
+  return std::ranges::count_if(table, [](const FlowPoint& point) { return point.lift > 0; }) > 1;
 }
+
+}  // namespace
 
 FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values) {
   FlowPlot plot;
@@ -86,9 +77,17 @@ FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values) {
       highest = std::max(highest, y);
     }
     plot.curves.push_back(std::move(curve));
+    plot.ports.push_back(&port);
   };
-  if (graph.hasIntake) add(true, values.intake, values.intakeFlow);
-  if (graph.hasExhaust) add(false, values.exhaust, values.exhaustFlow);
+  const bool isOfBoth = graph.hasIntake && graph.hasExhaust;
+  const bool hasIntake = HasCurve(values.intakeFlow);
+  const bool hasExhaust = HasCurve(values.exhaustFlow);
+  if (graph.hasIntake && !(isOfBoth && !hasIntake && hasExhaust)) {
+    add(true, values.intake, values.intakeFlow);
+  }
+  if (graph.hasExhaust && !(isOfBoth && !hasExhaust && hasIntake)) {
+    add(false, values.exhaust, values.exhaustFlow);
+  }
   plot.frame.range = {0, AxisLimit(largestLift), 0, AxisLimit(highest)};
   plot.frame.xPointer = "<--- Lift";
   plot.frame.xName = "Lift";

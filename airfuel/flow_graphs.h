@@ -8,9 +8,6 @@
 
 namespace veldox {
 
-/// The limit of an axis that holds a value, with round numbers at ten lines of a grid.
-double AxisLimit(double value);
-
 /// What a flow graph shows over valve lift, at the curtain.
 enum class FlowCurve { Coefficient, Speed, FlowPerArea, Flow };
 
@@ -23,9 +20,11 @@ struct FlowGraph {
 struct FlowPlot {
   GraphFrame frame;
   std::vector<GraphCurve> curves;
+  std::vector<const FlowPort*> ports;  ///< that the curves belong to
 };
 
-/// The curves of a graph, a point a row with lift, on axes that hold them.
+/// The curves of a graph, a point a row with lift, on axes that hold them. Of two ports one that
+/// has no curve, for want of rows, is left out.
 FlowPlot PlotFlow(const FlowGraph& graph, const FlowReportValues& values);
 
 /// What a port would flow without loss through its curtain and throat, from no lift up to the

@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "core/units.h"
 #include "core/version.h"
+#include "graph/axis_growth.h"
 
 namespace veldox {
 
@@ -103,8 +104,9 @@ std::string NotesOn(const char* name, const FlowPort& port, const FlowTable& tab
 
 }  // namespace
 
-FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, Grapher& grapher)
-    : ScreenPart(screen), valves_(valves), mach_(mach), grapher_(grapher) {}
+FlowPanel::FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, GraphPanel& graphs,
+                     Grapher& grapher)
+    : ScreenPart(screen), valves_(valves), mach_(mach), graphs_(graphs), grapher_(grapher) {}
 
 void FlowPanel::Tell(const std::string& text, Icon icon) const {
   const ProgramContext& context = screen().context();
@@ -330,32 +332,40 @@ void FlowPanel::ReportPistonDemand() {
 
 void FlowPanel::Graph(const FlowGraph& graph, bool adds) {
   const FlowReportValues values = ReadFlow();
-  const FlowPlot plot = PlotFlow(graph, values);
+  FlowPlot plot = PlotFlow(graph, values);
+  if (const double largest = graphs_.ReadMaxLift(); largest > 0) plot.frame.range.xHigh = largest;
   // Flags of what was computed tell of numbers that are none.
   BuildReport([] { return std::string{}; }, kImpossibleGraph);
   for (const GraphCurve& curve : plot.curves) PlotEngine::RequireSeries(curve.points, curve.note);
-  if (adds && grapher_.HasGraph()) {
-    grapher_.AddToGraph(plot.curves);
+  if (adds && ShowsFlow(plot)) {
+    AxisRange range = grapher_.plot().scale();
+    for (const GraphCurve& curve : plot.curves) range = GrownBy(range, curve, plot.frame.range);
+    graphs_.AddTo(grapher_, plot.curves, range);
   } else {
-    grapher_.DrawGraph(plot.frame, plot.curves);
+    graphs_.Draw(grapher_, plot.frame, plot.curves);
     lastGraph_ = graph;
-    if (graph.curve == FlowCurve::Flow) DrawLimits(values, plot.frame.range);
+    if (graph.curve == FlowCurve::Flow) DrawLimits(values.testVelocity, plot);
   }
   grapher_.ShowGraph();
   NoteFlow(values);
 }
 
-void FlowPanel::DrawLimits(const FlowReportValues& values, const AxisRange& range) {
+bool FlowPanel::ShowsFlow(const FlowPlot& plot) const {
+  const PlotEngine& shown = grapher_.plot();
+  return grapher_.HasGraph() && shown.Caption(kXNameCaption) == plot.frame.xName &&
+         shown.Caption(kYPointerCaption) == plot.frame.yPointer;
+}
+
+void FlowPanel::DrawLimits(double testVelocity, const FlowPlot& plot) {
   PlotEngine& engine = grapher_.ChangePlot();
-  const auto draw = [&](const FlowPort& port, std::size_t series) {
-    const std::vector<GraphPoint> points = FlowLimit(port, values.testVelocity, range);
-    const Pen pen{engine.series()[series].color, 1, LineStyle::Dash};
-    for (std::size_t i = 1; i < points.size(); ++i) {
-      engine.PlotAdjustedLine(points[i - 1], points[i], pen);
+  for (std::size_t i = 0; i < plot.ports.size(); ++i) {
+    const std::vector<GraphPoint> points =
+        FlowLimit(*plot.ports[i], testVelocity, plot.frame.range);
+    const Pen pen{engine.series()[i].color, 1, LineStyle::Dash};
+    for (std::size_t j = 1; j < points.size(); ++j) {
+      engine.PlotAdjustedLine(points[j - 1], points[j], pen);
     }
-  };
-  draw(values.intake, 0);
-  draw(values.exhaust, 1);
+  }
 }
 
 void FlowPanel::GraphAgain() {

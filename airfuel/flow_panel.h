@@ -8,6 +8,7 @@
 #include "airfuel/flow_file.h"
 #include "airfuel/flow_graphs.h"
 #include "airfuel/flow_reports.h"
+#include "airfuel/graph_panel.h"
 #include "airfuel/mach_panel.h"
 #include "airfuel/valve_panel.h"
 #include "core/field_array.h"
@@ -25,7 +26,8 @@ namespace veldox {
 /// tables, reports and graphs; flow files of other programs.
 class FlowPanel : public ScreenPart {
  public:
-  FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, Grapher& grapher);
+  FlowPanel(Screen& screen, ValvePanel& valves, MachPanel& mach, GraphPanel& graphs,
+            Grapher& grapher);
 
   void Open() { Frame11.Open(); }
 
@@ -71,12 +73,15 @@ class FlowPanel : public ScreenPart {
   /// @param lines  each ended by a line break
   void ShowNotes(std::string lines);
   void Graph(const FlowGraph& graph, bool adds = false);
-  /// Draws dashed lines onto a graph of both ports' flow.
-  void DrawLimits(const FlowReportValues& values, const AxisRange& range);
+  /// True when the grapher shows a graph with the names of this one at its axes.
+  bool ShowsFlow(const FlowPlot& plot) const;
+  /// Draws dashed lines onto a graph of the ports' flow: what would pass without loss.
+  void DrawLimits(double testVelocity, const FlowPlot& plot);
   void Tell(const std::string& text, Icon icon = Icon::Information) const;
 
   ValvePanel& valves_;
   MachPanel& mach_;
+  GraphPanel& graphs_;
   Grapher& grapher_;
   int filterIndex_ = 1;
   Kept<std::string> source_{screen()};  ///< what is told of the file that was read
@@ -147,7 +152,7 @@ class FlowPanel : public ScreenPart {
       Entry(KeyRule::UnsignedReal, Unit::InchesWater, Holds(&P::TestDepression).NotConverted(),
             LeaveCheck::HasDigits),
       "The depression of the flow bench. It moves the coefficients; the flow of the table stays."};
-  Command Command50{TestFrame, "Command50(1)", "Valve Sizing",
+  Command Command50{TestFrame, "Command50(0)", "Valve Sizing",
                     "Get Valve Size, Valve Stem Size, Throat Information and Number of Valves.",
                     CommandWork([this] { valves_.Open(); })};
   Command Read0{TestFrame, "Read(0)", "&Read *.FLW File",

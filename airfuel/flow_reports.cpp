@@ -136,7 +136,8 @@ void AddSteps(ReportWriter& report, const FlowPort& port, const FlowTable& table
     std::size_t column = kFirstPerArea;
     for (const double flow : perArea) row.EndAt<".000">(ends[column++], flow);
     row.EndAt<".000">(ends[column++], point.lift / port.valves.size);
-    row.EndAt<"0.00">(ends[column++], point.lift * kMillimetresPerInch);
+    // Five digits do not fit under the two letters of the head.
+    row.EndAt<"0.00">(ends[column++] + 1, point.lift * kMillimetresPerInch);
     row.EndAt<".0000">(ends[column], point.flow * kCubicMetresPerSecondOfCfm);
     if (throatTotal) {
       const double area = FlowAreaAtLift(port.valves, point.lift, *throatTotal);

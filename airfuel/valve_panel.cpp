@@ -123,6 +123,8 @@ ValvePanel::Ports ValvePanel::ThroatAreas() {
   ports.exhaust.throatArea = ThroatArea(ports.exhaust.valves, Measure());
   Require(ports.intake.throatArea > 0, Text44, kNoThroat);
   Require(ports.exhaust.throatArea > 0, Text47, kNoThroat);
+  RequireResult(Text44, ports.intake.throatArea);
+  RequireResult(Text47, ports.exhaust.throatArea);
   return ports;
 }
 
@@ -135,14 +137,20 @@ void ValvePanel::McsaDefaults(Ports& ports) {
   ports.exhaust.mcsa = mcsa(block().ExhaustMCSA, ports.exhaust.valves, kExhaustMcsaPart);
 }
 
-void ValvePanel::RequireSeats(const Ports& ports) {
+void ValvePanel::RequireSeat(const PortValves& valves, Field& angle, Field& width) {
   constexpr double kRightAngle = 90;
-  const auto require = [](const PortValves& valves, Field& angle, Field& width) {
-    Require(valves.seatAngle > 0 && valves.seatAngle < kRightAngle, angle, kBetweenZeroAndNinety);
-    Require(SeatMinorDiameter(valves) > 0, width, kNoSeat);
-  };
-  require(ports.intake.valves, Text120, Text121);
-  require(ports.exhaust.valves, Text122, Text123);
+  Require(valves.seatAngle > 0 && valves.seatAngle < kRightAngle, angle, kBetweenZeroAndNinety);
+  Require(SeatMinorDiameter(valves) > 0, width, kNoSeat);
+}
+
+void ValvePanel::RequireSeats(const Ports& ports) {
+  RequireSeat(ports.intake.valves, Text120, Text121);
+  RequireSeat(ports.exhaust.valves, Text122, Text123);
+}
+
+void ValvePanel::RequireSeatsInUse(const Ports& ports) {
+  if (ports.intake.valves.HasSeat()) RequireSeat(ports.intake.valves, Text120, Text121);
+  if (ports.exhaust.valves.HasSeat()) RequireSeat(ports.exhaust.valves, Text122, Text123);
 }
 
 std::string ValvePanel::ThroatNotes(const Ports& ports) {

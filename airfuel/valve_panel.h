@@ -46,12 +46,15 @@ class ValvePanel : public ScreenPart {
   void McsaDefaults(Ports& ports);
   /// Requires seats that a flow area can be made of.
   void RequireSeats(const Ports& ports);
+  /// The same of those whose angle and width are both above 0.
+  void RequireSeatsInUse(const Ports& ports);
   /// What is odd about the throats, a line each; empty for nothing.
   static std::string ThroatNotes(const Ports& ports);
 
  private:
   ThroatMeasure Measure() const { return static_cast<ThroatMeasure>(Option1.chosen()); }
   void ShowThroats();
+  static void RequireSeat(const PortValves& valves, Field& angle, Field& width);
 
   // What was read last.
   double IntakeStemSize() const { return block().IntakeValveStemDiameter; }

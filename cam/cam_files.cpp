@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 
 #include "core/files.h"
 
@@ -40,6 +41,18 @@ std::optional<LiftFile> CamFiles::ReadCamLiftFile(const Screen& asker) {
 void CamFiles::StoreTables(const LiftFile& file, const std::string& title, bool areMillimetres) {
   StoreLifts(file, title, block());
   tablesAreMillimetres_ = areMillimetres;
+}
+
+LiftTable CamFiles::TableOf(CamSide side) const {
+  const ParameterBlock& b = block();
+  const bool isIntake = side == CamSide::Intake;
+  const int count = isIntake ? b.IntakeLiftCount : b.ExhaustLiftCount;
+  if (count <= 0) return {};
+  const LiftColumn& lifts = isIntake ? b.IntakeCamLift : b.ExhaustCamLift;
+  // The count of a Cam Doctor file is one more than the index of its closing zero.
+  const int last = b.LiftsOfCamDoctor != 0 ? count - 1 : count;
+  return {std::span(lifts).first(static_cast<std::size_t>(last) + 1),
+          isIntake ? b.CamStepDegrees.Intake : b.CamStepDegrees.Exhaust, count};
 }
 
 void CamFiles::ConvertTables(bool toMillimetres) {

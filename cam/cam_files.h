@@ -3,11 +3,15 @@
 #include <optional>
 #include <vector>
 
+#include "cam/lift_analysis.h"
 #include "cam/lift_file.h"
 #include "core/file_dialogs.h"
 #include "core/kept.h"
+#include "core/units.h"
 
 namespace veldox {
+
+enum class CamSide { Intake, Exhaust };
 
 /// A screen with lash fields, told when a lift file gives lashes.
 class LashTaker {
@@ -41,6 +45,10 @@ class CamFiles : public FileDialogs {
   /// Puts lifts into the shared tables, by StoreLifts.
   /// @throws CommandError (IndexOutOfRange, Overflow) with the tables as they were
   void StoreTables(const LiftFile& file, const std::string& title, bool areMillimetres);
+  /// The lobe lifts of a side in the shared tables.
+  LiftTable TableOf(CamSide side) const;
+  /// What of the tables' unit goes into an inch: 25.4 while they are millimetres.
+  double UnitsPerInch() const { return tablesAreMillimetres_ ? kMillimetresPerInch : 1; }
   /// Converts the lifts in the shared tables, unless they are in these units already.
   void ConvertTables(bool toMillimetres);
 

@@ -1,7 +1,6 @@
 #include "cam/cam_information_screen.h"
 
 #include <array>
-#include <span>
 #include <string_view>
 
 #include "cam/cam_card.h"
@@ -215,18 +214,6 @@ void Form2::ReadCamCard() {
 
 // ---------------------------------------------------------------- lift files
 
-LiftTable Form2::TableOf(Side side) const {
-  const ParameterBlock& b = block();
-  const bool isIntake = side == Side::Intake;
-  const int count = isIntake ? b.IntakeLiftCount : b.ExhaustLiftCount;
-  if (count <= 0) return {};
-  const LiftColumn& lifts = isIntake ? b.IntakeCamLift : b.ExhaustCamLift;
-  // The count of a Cam Doctor file is one more than the index of its closing zero.
-  const int last = b.LiftsOfCamDoctor != 0 ? count - 1 : count;
-  return {std::span(lifts).first(static_cast<std::size_t>(last) + 1),
-          isIntake ? b.CamStepDegrees.Intake : b.CamStepDegrees.Exhaust, count};
-}
-
 double Form2::UnitsPerInch() const {
   return metric() ? kMillimetresPerInch : 1;
 }
@@ -239,10 +226,10 @@ LiftAnalysis Form2::ReadAnalysis() {
   ReadFields({&Text14, &Text23, &Text22, &Text24, &Text17});
   MatchTables();
   const ParameterBlock& b = block();
-  const Side side = ChosenSide();
-  const bool isIntake = side == Side::Intake;
+  const CamSide side = ChosenSide();
+  const bool isIntake = side == CamSide::Intake;
   LiftAnalysis analysis;
-  analysis.table = TableOf(side);
+  analysis.table = files_.TableOf(side);
   analysis.ratio = isIntake ? b.RockerArmRatio : b.ExhaustRockerArmRatio;
   analysis.lash = isIntake ? b.IntakeLash : b.ExhaustLash;
   analysis.rpm = b.RPM;
@@ -262,7 +249,7 @@ LiftGraphInput Form2::ReadGraphInput(LiftGraph graph) {
   input.graph = graph;
   input.analysis = ReadAnalysis();
   const ParameterBlock& b = block();
-  input.exhaust = ChosenSide() == Side::Exhaust;
+  input.exhaust = ChosenSide() == CamSide::Exhaust;
   input.metric = metric();
   input.camDegrees = b.LiftsOfCamDoctor != 0;
   input.boxes = Check5.on();
@@ -309,7 +296,7 @@ void Form2::GraphFurtherFile() {
 
 void Form2::ReportLift(bool ofValve) {
   const LiftAnalysis analysis = ReadAnalysis();
-  const bool isExhaust = ChosenSide() == Side::Exhaust;
+  const bool isExhaust = ChosenSide() == CamSide::Exhaust;
   ShowReport(
       BuildReport([&] { return LiftReport(analysis, ofValve, isExhaust, Text25.text(), mark()); },
                   "The report cannot be computed: a number of it is too large."));
@@ -321,8 +308,8 @@ void Form2::ShowFigures() {
   MatchTables();
   std::string text;
   if (!block().CamFileTitle.empty()) text = block().CamFileTitle + "\r\n";
-  for (const Side side : {Side::Intake, Side::Exhaust}) {
-    text += side == Side::Intake ? "Intake: " : "\r\nExhaust: ";
+  for (const CamSide side : {CamSide::Intake, CamSide::Exhaust}) {
+    text += side == CamSide::Intake ? "Intake: " : "\r\nExhaust: ";
     try {
       text += FiguresText(side);
     } catch (const CommandError&) {
@@ -333,8 +320,8 @@ void Form2::ShowFigures() {
   LiftFigures.SetText(text);
 }
 
-std::string Form2::FiguresText(Side side) const {
-  const auto figures = FiguresOf(TableOf(side), UnitsPerInch());
+std::string Form2::FiguresText(CamSide side) const {
+  const auto figures = FiguresOf(files_.TableOf(side), UnitsPerInch());
   if (!figures) return "no lift data";
   const auto number = [this](double value) { return FormatValue<"0.0###">(value, mark()); };
   const auto degrees = [this](double value) { return FormatValue<"0.0">(value, mark()); };

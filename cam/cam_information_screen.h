@@ -31,8 +31,6 @@ class Form2 : public Screen, public LashTaker {
   void TakeLashes(std::optional<double> intake, std::optional<double> exhaust) override;
 
  private:
-  enum class Side { Intake, Exhaust };
-
   void SolveLobes();
   void SolveEvents();
   void SolveEventsForSeparation();
@@ -59,8 +57,7 @@ class Form2 : public Screen, public LashTaker {
   /// What turning the cam changes: the centerlines, the events and how the lobes stand.
   void StoreTurned(const CamLobes& lobes);
 
-  Side ChosenSide() const { return Option1.chosen() == 1 ? Side::Exhaust : Side::Intake; }
-  LiftTable TableOf(Side side) const;
+  CamSide ChosenSide() const { return Option1.chosen() == 1 ? CamSide::Exhaust : CamSide::Intake; }
   double UnitsPerInch() const;
   /// Parses what graphs and tables of the chosen side are made of.
   LiftAnalysis ReadAnalysis();
@@ -74,7 +71,7 @@ class Form2 : public Screen, public LashTaker {
   /// Brings the lift tables into the units of the screen, before anything is made of them.
   void MatchTables() { files_.ConvertTables(metric()); }
   void ShowFigures();
-  std::string FiguresText(Side side) const;
+  std::string FiguresText(CamSide side) const;
 
   Grapher& grapher_;
   CamFiles& files_;

@@ -54,4 +54,7 @@ class FieldTwin : public Field {
   Field& of_;
 };
 
+/// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
+Control& WithinReach(Control& control);
+
 }  // namespace veldox

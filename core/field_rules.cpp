@@ -143,37 +143,40 @@ bool FieldRules::FieldGotFocus(std::string_view text) const {
   return block_.FieldMouseDown != 1 && !text.empty();
 }
 
-bool FieldRules::Check(LeaveCheck check, TextControl& field) {
+bool FieldRules::Check(LeaveCheck check, TextControl& field, std::string_view consequence) {
   switch (check) {
     case LeaveCheck::None: return true;
-    case LeaveCheck::NotBlank: return CheckNotBlank(field);
-    case LeaveCheck::HasDigits: return CheckHasDigits(field);
-    case LeaveCheck::NotZero: return CheckNotZero(field);
+    case LeaveCheck::NotBlank: return CheckNotBlank(field, consequence);
+    case LeaveCheck::HasDigits: return CheckHasDigits(field, consequence);
+    case LeaveCheck::NotZero: return CheckNotZero(field, consequence);
   }
   return true;
 }
 
-bool FieldRules::CheckNotBlank(TextControl& field) {
+void FieldRules::Refuse(TextControl& field, const std::string& reason,
+                        std::string_view consequence) {
+  field.Focus();
+  Warn(consequence.empty() ? reason : reason + "\r\n" + std::string(consequence));
+}
+
+bool FieldRules::CheckNotBlank(TextControl& field, std::string_view consequence) {
   if (!field.text().empty()) return true;
-  field.Focus();
-  Warn(messages_.MsgNotBlank);
+  Refuse(field, messages_.MsgNotBlank, consequence);
   return false;
 }
 
-bool FieldRules::CheckHasDigits(TextControl& field) {
+bool FieldRules::CheckHasDigits(TextControl& field, std::string_view consequence) {
   if (!WithoutSigns(field.text()).empty()) return true;
-  field.Focus();
-  Warn(messages_.MsgNotBlank);
+  Refuse(field, messages_.MsgNotBlank, consequence);
   return false;
 }
 
-bool FieldRules::CheckNotZero(TextControl& field) {
+bool FieldRules::CheckNotZero(TextControl& field, std::string_view consequence) {
   const std::string rest = WithoutSigns(field.text());
   const bool zero =
       IsNumber(rest, DecimalMark::Point) && ParseNumber(rest, DecimalMark::Point) == 0;
   if (!rest.empty() && !zero) return true;
-  field.Focus();
-  Warn(messages_.MsgNotBlankOrZero);
+  Refuse(field, messages_.MsgNotBlankOrZero, consequence);
   return false;
 }
 

@@ -58,11 +58,12 @@ class FieldRules {
   /// True when entering a field has to select all of its text.
   bool FieldGotFocus(std::string_view text) const;
 
-  /// Runs a field's check on leaving it; false when the field keeps the focus.
-  bool Check(LeaveCheck check, TextControl& field);
-  bool CheckNotBlank(TextControl& field);
-  bool CheckHasDigits(TextControl& field);
-  bool CheckNotZero(TextControl& field);
+  /// Runs a field's check on leaving it; false when the field keeps the focus. The box then ends
+  /// in `consequence`: what is not done because of it.
+  bool Check(LeaveCheck check, TextControl& field, std::string_view consequence = {});
+  bool CheckNotBlank(TextControl& field, std::string_view consequence = {});
+  bool CheckHasDigits(TextControl& field, std::string_view consequence = {});
+  bool CheckNotZero(TextControl& field, std::string_view consequence = {});
   /// 1 after showing MsgNotBlank when the text holds nothing but "-", "." and ",", else 0.
   int TextHasDigits(std::string_view text);
 
@@ -77,6 +78,8 @@ class FieldRules {
  private:
   char32_t MarkKey() const;
   void Warn(const std::string& text);
+  /// Puts the focus back into a refused field and tells why.
+  void Refuse(TextControl& field, const std::string& reason, std::string_view consequence);
 
   ParameterBlock& block_;
   Host& host_;

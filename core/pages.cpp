@@ -30,6 +30,9 @@ constexpr int kCompanyNameSize = 14;
 constexpr int kHeaderSize = 10;
 constexpr int kFooterSize = 10;
 
+/// The sides of a column that is set off: half a point.
+constexpr int kHairline = 10;
+
 constexpr std::string_view kTextFontName = "Courier";
 constexpr std::string_view kHeaderFontName = "Arial";
 constexpr std::string_view kFooterFontName = "Tahoma";
@@ -109,8 +112,13 @@ void ReportPrinter::PrintReport(std::string_view report, int fontSize, const Pag
   if (lines.size() == 1) {
     PrintText(lines.front().text, false);
   } else {
-    std::for_each(lines.begin() + 1, lines.end(),
-                  [this](const MarkedLine& line) { PrintLine(line); });
+    const std::vector<SetOffColumn> columns = SetOffColumns(lines);
+    auto column = columns.begin();
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+      PrintLine(lines[i]);
+      while (column != columns.end() && column->endLine <= i) ++column;
+      if (column != columns.end() && column->firstLine <= i) PrintSidesOf(*column);
+    }
   }
   PrintFooter();
   surface_.EndJob();
@@ -138,6 +146,17 @@ void ReportPrinter::PrintLine(const MarkedLine& line) {
   if (landscape_ && y_ > kLastLineTopLandscape) y_ = kPageEndLandscape;
   if (y_ >= PageEnd()) NewPage();
   PrintText(line.text, line.mark == LineMark::Heading || line.mark == LineMark::Bold);
+}
+
+void ReportPrinter::PrintSidesOf(const SetOffColumn& column) {
+  const int character = TextWidth(textFont_, " ");
+  const int top = y_ - LineHeight(textFont_);
+  // In the middle of the blanks before and behind the column.
+  for (const std::size_t side :
+       {2 * column.begin - std::min<std::size_t>(column.begin, 1), 2 * column.end + 1}) {
+    const int x = kTextLeft + static_cast<int>(side) * character / 2;
+    surface_.PlaceLine(x, top, x, y_, kHairline);
+  }
 }
 
 void ReportPrinter::NewPage() {

@@ -63,6 +63,8 @@ class ReportPrinter {
 
  private:
   void PrintLine(const MarkedLine& line);
+  /// Draws both sides of a column along the line that was printed last.
+  void PrintSidesOf(const SetOffColumn& column);
   void NewPage();
   void PrintFooter();
   void PrintCompanyHeader();

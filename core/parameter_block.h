@@ -356,6 +356,17 @@ struct SharedNumbers {
   double RearTrackWidth{0};
   double FrontRollCenterHeight{0};
   double RearRollCenterHeight{0};
+  // What the chassis screen has found of them; no file holds it.
+  double LateralCG{0};
+  double SprungWeight{0};
+  double SprungHorizontalCG{0};
+  double SprungLateralCG{0};
+  double RollAxisHeight{0};
+  double RollAxisToCG{0};
+  double RollMoment{0};          ///< foot pounds
+  double FrontRollStiffness{0};  ///< foot pounds a degree
+  double RearRollStiffness{0};
+  double RollAngle{0};  ///< degrees
 
   // Curve and degree ranges
   std::int16_t TypeCurve{2};

@@ -101,8 +101,10 @@ constexpr std::array<ColorPartKey, 3> kGridColorKeys = {{
 /// they fill the columns of the first stage.
 struct NitrousKey {
   std::string_view key;
-  std::size_t column;
+  int column;
 };
+
+constexpr std::string_view kNitrousStages = "Nitrous MS";
 
 constexpr std::array<NitrousKey, 5> kNitrousKeys = {{
     {"nitrous hp", 1},
@@ -274,12 +276,22 @@ class ParameterFile::Writer {
         written_.bytes += row.key;
         EndLine();
         return;
-      case KeyForm::Number: Record(row.key, FormatSmart(value, mark_)); return;
+      case KeyForm::Number:
+        Record(row.key, value == 0 && KeepsTextAtZero(AsField(owner))
+                            ? FieldText(row, FormatSmart(0, mark_))
+                            : FormatSmart(value, mark_));
+        return;
       case KeyForm::NumberOrField:
         Record(row.key,
                value != 0 ? FormatSmart(value, mark_) : FieldText(row, FormatSmart(0, mark_)));
         return;
-      case KeyForm::Integer: WriteInteger(row, AsOptionGroup(owner), value); return;
+      case KeyForm::Integer:
+        if (value == 0 && KeepsTextAtZero(AsField(owner))) {
+          Record(row.key, FieldText(row, FormatInt(0, mark_)));
+        } else {
+          WriteInteger(row, AsOptionGroup(owner), value);
+        }
+        return;
       case KeyForm::IntegerOrField:
         Record(row.key, value != 0 ? FormatInt(value, mark_) : FieldText(row, FormatInt(0, mark_)));
         return;
@@ -305,6 +317,12 @@ class ParameterFile::Writer {
     }
   }
 
+  /// True for a field whose text stands as long as its value is 0, which nobody has set then.
+  static bool KeepsTextAtZero(const Field* field) {
+    return field != nullptr && Screen::SharedPlace(*field) != nullptr &&
+           (field->holds().zeroKeepsText() || !Screen::ShowsAtOpening(*field));
+  }
+
   /// False where no field tells the value: it is not there, or cleared.
   bool HasText(const Field* field) const {
     return field != nullptr && !(block_.FormsCleared == 1 && field->text().empty());
@@ -327,12 +345,11 @@ class ParameterFile::Writer {
   /// where that is a number. A field that the user has left empty is 0.
   double CellOf(const KeyRow& row, int index, int column) const {
     const double& value = row.cell(block_, index, column);
-    if (row.tableForm != TableForm::Fields && row.tableForm != TableForm::Smart &&
-        row.tableForm != TableForm::Pairs) {
-      return value;
-    }
     const Field* field = AsField(file_.OwnerOf(row, &value));
     if (field == nullptr) return value;
+    const bool tellsFields = row.tableForm == TableForm::Fields ||
+                             row.tableForm == TableForm::Smart || row.tableForm == TableForm::Pairs;
+    if (!tellsFields && (value != 0 || !KeepsTextAtZero(field))) return value;
     if (field->text().empty() && block_.FormsCleared == 0) return 0;
     if (!IsNumber(field->text(), mark_)) return value;
     return field->screen().InInches(*field, ParseNumber(field->text(), mark_));
@@ -650,7 +667,9 @@ class ParameterFile::Reader {
     if (std::string* text = TextOf(*row, block_)) {
       *text = Trim(value);
       namesFont_ = namesFont_ || !text->empty();
-      if (Field* field = AsField(file_.Owner(*row))) field->SetText(*text);
+      // What was written for want of a text is none.
+      Field* const field = AsField(file_.Owner(*row));
+      if (field != nullptr && *text != FormatSmart(0, mark_)) field->SetText(*text);
     } else if (row->form == KeyForm::Table) {
       ReadTableRow(*row, missing ? "0" : value);
     } else {
@@ -777,7 +796,7 @@ class ParameterFile::Reader {
     }
     for (const NitrousKey& nitrous : kNitrousKeys) {
       if (SameIgnoringCase(key, nitrous.key)) {
-        block_.NitrousMS.front()[nitrous.column] = number();
+        StoreCell(*FindKey(kNitrousStages), 0, nitrous.column, number());
         return true;
       }
     }

@@ -14,6 +14,8 @@ namespace {
 constexpr std::string_view kGiven = "given";
 /// A tip shows no more of a row.
 constexpr std::size_t kToldCharacters = 200;
+/// Messages quote no more of a row.
+constexpr std::size_t kQuotedRow = 120;
 
 bool IsName(const PickRow& row) {
   return row.kind == PickRow::Kind::Choice || row.kind == PickRow::Kind::NameOnly;
@@ -99,6 +101,25 @@ std::vector<std::string> PickedFigures(std::string_view row, std::size_t most) {
     rest.remove_prefix(end);
   }
   return figures;
+}
+
+void FailAtRow(ErrorKind kind, std::string_view what, std::string_view row,
+               const std::string& why) {
+  throw CommandError(kind,
+                     std::string(what) + " of the row \"" + Clipped(row, kQuotedRow) + "\" " + why);
+}
+
+double ReadFigure(std::string_view figure, std::string_view what, std::string_view row,
+                  double largest) {
+  double value = 0;
+  try {
+    value = ParseNumber(figure, DecimalMark::Point);
+  } catch (const CommandError& error) {
+    FailAtRow(error.kind(), what, row, error.message());
+  }
+  if (value <= 0) FailAtRow(ErrorKind::InvalidArgument, what, row, "must be above 0.");
+  if (value > largest) FailAtRow(ErrorKind::InvalidArgument, what, row, "is too large.");
+  return value;
 }
 
 PickList::PickList(Frame& frame, std::string name, std::string caption, std::string help,

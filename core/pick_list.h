@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/error.h"
 #include "core/screen.h"
 #include "data/tables.h"
 
@@ -57,6 +58,18 @@ std::vector<PickRow> UserPickRows(std::string_view text, const std::string& file
 /// The words behind the sign of a row: where the figures are apart.
 /// @param most  the last word takes the rest of the row
 std::vector<std::string> PickedFigures(std::string_view row, std::size_t most);
+
+/// Ends a pick with what is wrong with its row. @throws CommandError (of the kind)
+/// @param what  the figure at fault, as a message begins
+/// @param why  the rest of the message
+[[noreturn]] void FailAtRow(ErrorKind kind, std::string_view what, std::string_view row,
+                            const std::string& why);
+
+/// A figure of a row, which has a point whatever the system has.
+/// @param largest  what every figure of its kind is far below
+/// @throws CommandError that tells figure and row, for what is no number, not above 0 or too large
+double ReadFigure(std::string_view figure, std::string_view what, std::string_view row,
+                  double largest);
 
 /// A long list that a user narrows by typing and picks from. A row is shown when it holds
 /// every word typed, wherever they stand in it or in the headings over it; headings stay

@@ -36,6 +36,48 @@ std::vector<MarkedLine> ReportLines(std::string_view report) {
   return lines;
 }
 
+namespace {
+
+/// True for a row of numbers alone: no head, whose words may stand beside their column.
+bool IsRowOfNumbers(std::string_view line) {
+  return !line.empty() && line.find_first_not_of("0123456789.,-+ ") == std::string_view::npos;
+}
+
+/// Widens a column by the number of a line that lies under the arrow.
+void WidenBy(SetOffColumn& column, std::string_view line, std::size_t arrow) {
+  const auto isBlank = [line](std::size_t at) { return line[at] == ' '; };
+  std::size_t begin = arrow;
+  while (begin < std::min(arrow + kColumnArrow.size(), line.size()) && isBlank(begin)) ++begin;
+  if (begin >= arrow + kColumnArrow.size() || begin >= line.size()) return;
+  std::size_t end = begin;
+  while (begin > 0 && !isBlank(begin - 1)) --begin;
+  while (end < line.size() && !isBlank(end)) ++end;
+  column.begin = column.end == 0 ? begin : std::min(column.begin, begin);
+  column.end = std::max(column.end, end);
+}
+
+}  // namespace
+
+std::vector<SetOffColumn> SetOffColumns(const std::vector<MarkedLine>& lines) {
+  std::vector<SetOffColumn> columns;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const std::size_t arrow = lines[i].text.find(kColumnArrow);
+    if (arrow == std::string_view::npos) continue;
+    SetOffColumn column{i + 1, i + 1};
+    while (column.firstLine < lines.size() && !lines[column.firstLine].text.empty() &&
+           !IsRowOfNumbers(lines[column.firstLine].text)) {
+      ++column.firstLine;
+    }
+    column.endLine = column.firstLine;
+    while (column.endLine < lines.size() && IsRowOfNumbers(lines[column.endLine].text)) {
+      WidenBy(column, lines[column.endLine].text, arrow);
+      ++column.endLine;
+    }
+    if (column.end != 0) columns.push_back(column);
+  }
+  return columns;
+}
+
 std::string ReportBoxText(std::string_view report) {
   std::string text;
   text.reserve(report.size() + kLineBreak.size());

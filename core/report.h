@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,22 @@ struct MarkedLine {
 
 /// The lines of a report in order; a text without a line break is one line.
 std::vector<MarkedLine> ReportLines(std::string_view report);
+
+/// What stands over a column that a report sets off: that of the value that was entered.
+inline constexpr std::string_view kColumnArrow = "\\|/";
+
+/// A column of a report that is set off: the rows of numbers under its arrow and its heads.
+struct SetOffColumn {
+  std::size_t firstLine = 0;  ///< the first row
+  std::size_t endLine = 0;    ///< the line behind the last one
+  std::size_t begin = 0;      ///< first character of the widest number
+  std::size_t end = 0;        ///< behind its last one
+
+  bool operator==(const SetOffColumn&) const = default;
+};
+
+/// The columns of a report that an arrow points at, in order.
+std::vector<SetOffColumn> SetOffColumns(const std::vector<MarkedLine>& lines);
 
 /// The report as the report box shows it: without the marks at line ends.
 std::string ReportBoxText(std::string_view report);

@@ -26,6 +26,12 @@ class TextField : public Field {
       : Field(frame, std::move(name), std::move(label), {}, KeyRule::AnyText, std::move(help)) {}
 };
 
+/// Numbers over several lines, edited as text. They stand under each other.
+class NumberLines : public TextArea {
+ public:
+  using TextArea::TextArea;
+};
+
 /// Results over several lines, to be read and copied. It has no keys of its own.
 class ResultLines : public TextControl {
  public:

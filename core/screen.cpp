@@ -202,8 +202,8 @@ bool TextControl::Enter() {
   return screen().context().rules.FieldGotFocus(text_);
 }
 
-bool TextControl::Leave() {
-  return screen().context().rules.Check(leaveCheck_, *this);
+bool TextControl::Leave(std::string_view consequence) {
+  return screen().context().rules.Check(leaveCheck_, *this, consequence);
 }
 
 Field::Field(Frame& frame, std::string name, std::string label, std::string defaultText,
@@ -750,7 +750,8 @@ std::string NameInMessages(const Control& control) {
   return isElsewhere && !frame.empty() ? name + " (" + frame + ')' : name;
 }
 
-/// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
+}  // namespace
+
 Control& WithinReach(Control& control) {
   if (control.Reachable()) return control;
   for (Control* other : control.screen().controls()) {
@@ -760,11 +761,22 @@ Control& WithinReach(Control& control) {
   return control;
 }
 
-/// Marks what is at fault and gives it the keyboard; not where a panel lies over it, for nobody
-/// could type there.
+namespace {
+
+/// Turns to the page that a control stands on, where another one is shown.
+void TurnTo(const Control& control) {
+  for (Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {
+    auto* page = dynamic_cast<ScreenPage*>(frame);
+    if (page != nullptr && !page->visible()) page->Open();
+  }
+}
+
+/// Marks what is at fault and gives it the keyboard, on whatever page it stands; not where a panel
+/// lies over it, for nobody could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
   Control& place = WithinReach(control);
+  if (!place.Reachable()) TurnTo(place);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }
 
@@ -816,10 +828,19 @@ void Screen::TakeFocus(Control* control) {
 
 namespace {
 
-/// False where a field keeps the keyboard. One that a panel lies over cannot.
-bool MayLeave(Control* focus) {
+/// True for what a click does something with.
+bool IsClicked(const Control& control) {
+  return control.kind() == ControlKind::Command || control.kind() == ControlKind::CheckBox ||
+         control.kind() == ControlKind::OptionButton;
+}
+
+/// False where a field keeps the keyboard, which `to` would have got. One that a panel lies over
+/// cannot. Where a click goes nowhere because of it, the box says so.
+bool MayLeave(Control* focus, const Control* to) {
   auto* field = dynamic_cast<TextControl*>(focus);
-  return field == nullptr || !field->Reachable() || field->Leave();
+  if (field == nullptr || !field->Reachable()) return true;
+  if (to == nullptr || !IsClicked(*to)) return field->Leave();
+  return field->Leave("Nothing has been done for \"" + to->PlainCaption() + "\".");
 }
 
 }  // namespace
@@ -830,7 +851,7 @@ bool Screen::MoveFocus(Control* control) {
   const auto* command = dynamic_cast<const Command*>(control);
   const bool closes =
       command != nullptr && (command->role() == CommandRole::Closes || command == QuitCommand());
-  if (!closes && !MayLeave(focus_)) return false;
+  if (!closes && !MayLeave(focus_, control)) return false;
   TakeFocus(control);
   return true;
 }
@@ -879,10 +900,8 @@ Control* Screen::NextByEnter(const Control& from) const {
 Control* Screen::AccessKeyTarget(char key) const {
   Control* first = nullptr;
   for (Control* control : ReadingOrder()) {
-    const bool clicks = control->kind() == ControlKind::Command ||
-                        control->kind() == ControlKind::CheckBox ||
-                        control->kind() == ControlKind::OptionButton;
-    if (!clicks || control->accessKey() != key || !control->enabled() || !control->Reachable()) {
+    if (!IsClicked(*control) || control->accessKey() != key || !control->enabled() ||
+        !control->Reachable()) {
       continue;
     }
     if (focus_ != nullptr && control->frame() == focus_->frame()) return control;
@@ -908,7 +927,7 @@ Command* Screen::NextCalculation() {
 bool Screen::CalculateAgain() {
   Command* command = NextCalculation();
   if (command == nullptr) return false;
-  return MayLeave(focus_) && command->Click();
+  return MayLeave(focus_, command) && command->Click();
 }
 
 void Screen::PutAwayPanel() {
@@ -962,15 +981,32 @@ void Screen::ReadChoice(const ComboList& list) {
   *std::get<double*>(slot) = ParseNumber(list.chosenText(), DecimalMark::Point);
 }
 
+namespace {
+
+/// How a divisor is 0: as it was typed, or as the whole number that it counts as. Empty when it
+/// is not.
+std::string_view ZeroOf(Field& divisor, ParameterBlock& block, DecimalMark mark) {
+  if (!IsNumber(divisor.text(), mark)) return {};
+  if (ParseNumber(divisor.text(), mark) == 0) return "is 0";
+  const Holds::Slot slot = divisor.holds().In(block);
+  const auto* const* count = std::get_if<std::int16_t*>(&slot);
+  return count != nullptr && **count == 0 ? "counts as 0" : std::string_view();
+}
+
+}  // namespace
+
 void Screen::RequireResult(Field& field, double value, DividesBy divisors) const {
   const int flags = std::fetestexcept(FE_DIVBYZERO | FE_OVERFLOW | FE_INVALID);
   if (flags == 0 && std::isfinite(value)) return;
-  const std::string result = '"' + field.PlainCaption() + "\" cannot be computed";
+  // Named as it is called where the user sees it.
+  const std::string result = '"' + WithinReach(field).PlainCaption() + "\" cannot be computed";
   for (Field* divisor : divisors) {
-    if (IsNumber(divisor->text(), mark()) && ParseNumber(divisor->text(), mark()) == 0) {
-      throw CommandError(ErrorKind::DivisionByZero,
-                         "is 0, and " + result + " by dividing by 0. Please enter another value.",
-                         divisor);
+    const std::string_view zero = ZeroOf(*divisor, block(), mark());
+    if (!zero.empty()) {
+      throw CommandError(
+          ErrorKind::DivisionByZero,
+          std::string(zero) + ", and " + result + " by dividing by 0. Please enter another value.",
+          divisor);
     }
   }
   if ((flags & FE_DIVBYZERO) != 0) {

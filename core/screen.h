@@ -230,8 +230,9 @@ class TextControl : public Control {
   virtual char32_t FilterKey(char32_t key);
   /// True when entering has to select all of the text.
   bool Enter();
-  /// Runs the check on losing the focus; false when the field keeps the focus.
-  bool Leave();
+  /// Runs the check on losing the focus; false when the field keeps the focus, after a box that
+  /// ends in `consequence`: what is not done because of it.
+  bool Leave(std::string_view consequence = {});
 
  protected:
   TextControl(Frame& frame, ControlKind kind, std::string name, std::string caption,

@@ -89,6 +89,10 @@ class ScreenPart {
                                  const char* impossible) {
     return Screen::BuildReport(build, impossible);
   }
+  double AsShown(const Field& field, double inches) const { return screen_.AsShown(field, inches); }
+  double InInches(const Field& field, double shown) const { return screen_.InInches(field, shown); }
+  /// The Click of the "Metric" box, where that stands in the part.
+  void SwitchUnits() const { screen_.SwitchUnits(); }
   static void Require(bool holds, Field& field, const char* message) {
     Screen::Require(holds, field, message);
   }

@@ -294,6 +294,7 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   graphOptions.TellChanged();
   appearance.TellChanged();
   notes.ShowNotes();
+  if (read_) read_();
   return records;
 }
 

@@ -84,6 +84,8 @@ class Shell : public Screen, public FileTaker {
   void Open(Screen& screen);
   /// What else is done when the menu has opened a screen.
   void SetOpenListener(std::function<void(Screen&)> listener) { opened_ = std::move(listener); }
+  /// What else is done when a parameter file was read, for what no field shows.
+  void SetReadListener(std::function<void()> listener) { read_ = std::move(listener); }
   /// Reads a parameter file as the Read command does.
   void OpenFile(const std::filesystem::path& file) override;
   /// The given caption, the file that is worked on, and a mark while its data have changed.
@@ -203,6 +205,7 @@ class Shell : public Screen, public FileTaker {
   std::map<std::string, Handler, std::less<>> works_;  ///< of menu items, by their names
   ShellFace* shellFace_ = nullptr;
   std::function<void(Screen&)> opened_;
+  std::function<void()> read_;
   TitleAnimation titleAnimation_;
   ParameterFile parameterFile_;
   std::string versionLine_;

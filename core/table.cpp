@@ -200,6 +200,10 @@ std::string Table::CopyText(const Range& range) const {
   return text;
 }
 
+Table* Table::Of(const Control& control) {
+  return dynamic_cast<Table*>(control.whole());
+}
+
 bool Table::IsBlock(std::string_view text) {
   return text.find('\t') != std::string_view::npos || text.find('\n') != std::string_view::npos;
 }

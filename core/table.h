@@ -102,6 +102,8 @@ class Table : public Control {
   /// Empties the fields of a range that take input.
   void Empty(const Range& range);
 
+  /// The table that a control is a cell of, if it is one.
+  static Table* Of(const Control& control);
   /// True for a text that goes over several cells.
   static bool IsBlock(std::string_view text);
 

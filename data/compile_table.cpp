@@ -3,7 +3,7 @@
 //     compile_table TABLE.tsv FUNCTION OUTPUT.cpp
 //
 // The table is tab separated with one line of heads: group, kind, name, the figures, source. The
-// heads tell which kind of table it is.
+// heads tell which kind of table it is. A table of several lists has the list before the group.
 // What is wrong is told as "file:line: text", and nothing is written then.
 
 #include <algorithm>
@@ -57,6 +57,7 @@ const std::vector<Shape>& Shapes() {
         {"cylinders", Cell::Whole, 1, 64}},
        true},
       {"gearbox", {{"ratios", Cell::Numbers, 0.2, 20}}, true},
+      {"car", {{"cd", Cell::Number, 0.05, 2}, {"area", Cell::Number, 1, 100, true}}, true},
       {"unit",
        {{"option", Cell::Whole, 0, 63},
         {"of", Cell::Whole, 0, 63, true},
@@ -87,6 +88,10 @@ constexpr std::size_t kGroup = 0;
 constexpr std::size_t kKind = 1;
 constexpr std::size_t kName = 2;
 constexpr std::size_t kFirstFigure = 3;
+/// The head of the column before these in a table of several lists.
+constexpr std::string_view kList = "list";
+/// The kind of a row that stands for a group without rows; such a group may be without a name.
+constexpr std::string_view kEmptyGroup = "empty group";
 
 struct Row {
   int line;
@@ -97,8 +102,10 @@ struct Row {
 };
 
 struct Group {
+  std::string list;
   std::string name;
   std::vector<Row> rows;
+  bool isEmpty = false;
 };
 
 std::vector<std::string> Split(std::string_view line, char separator = '\t') {
@@ -184,6 +191,8 @@ class Table {
 
   void ReadHeads(std::string_view line) {
     heads_ = Split(line);
+    hasLists_ = heads_.front() == kList;
+    if (hasLists_) heads_.erase(heads_.begin());
     if (heads_.size() < kFirstFigure + 2 || heads_[kGroup] != "group" || heads_[kKind] != "kind" ||
         heads_[kName] != "name" || heads_.back() != "source") {
       Fail("the heads must be group, kind, name, the figures, source");
@@ -206,17 +215,45 @@ class Table {
   }
 
   void ReadRow(std::string_view line) {
-    const std::vector<std::string> cells = Split(line);
-    if (cells.size() != heads_.size()) {
-      Fail(std::to_string(cells.size()) + " cells instead of " + std::to_string(heads_.size()));
+    std::vector<std::string> cells = Split(line);
+    const std::size_t expected = heads_.size() + (hasLists_ ? 1 : 0);
+    if (cells.size() != expected) {
+      Fail(std::to_string(cells.size()) + " cells instead of " + std::to_string(expected));
     }
     for (const std::string& cell : cells) CheckText(cell);
+    std::string list;
+    if (hasLists_) {
+      list = std::move(cells.front());
+      cells.erase(cells.begin());
+      if (list.empty()) Fail("the list has no name");
+      BeginList(list);
+    }
+    if (cells[kKind] == kEmptyGroup) {
+      if (std::any_of(cells.begin() + kName, cells.end(),
+                      [](const std::string& cell) { return !cell.empty(); })) {
+        Fail("an empty group has no name of a row and no figures");
+      }
+      BeginGroup(list, cells[kGroup], true);
+      return;
+    }
     if (cells[kGroup].empty()) Fail("the group has no name");
-    if (groups_.empty() || groups_.back().name != cells[kGroup]) {
-      if (!names_.insert(cells[kGroup]).second) Fail("the group begins again: " + cells[kGroup]);
-      groups_.push_back({cells[kGroup], {}});
+    if (groups_.empty() || groups_.back().isEmpty || groups_.back().list != list ||
+        groups_.back().name != cells[kGroup]) {
+      BeginGroup(list, cells[kGroup], false);
     }
     groups_.back().rows.push_back(MakeRow(cells));
+  }
+
+  void BeginList(const std::string& list) {
+    if (!groups_.empty() && groups_.back().list == list) return;
+    if (!lists_.insert(list).second) Fail("the list begins again: " + list);
+  }
+
+  void BeginGroup(const std::string& list, const std::string& name, bool isEmpty) {
+    if (!name.empty() && !names_.emplace(list, name).second) {
+      Fail("the group begins again: " + name);
+    }
+    groups_.push_back({list, name, {}, isEmpty});
   }
 
   Row MakeRow(const std::vector<std::string>& cells) const {
@@ -323,7 +360,9 @@ class Table {
   std::vector<std::string> heads_;
   const Shape* shape_ = nullptr;
   std::vector<Group> groups_;
-  std::set<std::string> names_;
+  std::set<std::pair<std::string, std::string>> names_;  ///< of groups, behind their lists
+  std::set<std::string> lists_;
+  bool hasLists_ = false;
   int line_ = 0;
 };
 
@@ -338,7 +377,9 @@ std::string Quoted(std::string_view text) {
 
 std::string Joined(const std::vector<std::string>& cells) {
   std::string joined;
-  for (const std::string& cell : cells) joined += (joined.empty() ? "" : " ") + cell;
+  for (const std::string& cell : cells) {
+    if (!cell.empty()) joined += (joined.empty() ? "" : " ") + cell;
+  }
   return joined;
 }
 
@@ -350,7 +391,7 @@ std::string Source(const Table& table, std::string_view function) {
   std::size_t count = 0;
   for (const Group& group : table.groups()) {
     groups << "    {" << Quoted(group.name) << ", {kRows + " << count << ", " << group.rows.size()
-           << "}},\n";
+           << '}' << (group.list.empty() ? "" : ", " + Quoted(group.list)) << "},\n";
     for (const Row& row : group.rows) {
       rows << "    {TableRow::Kind::" << row.kind << ", " << Quoted(row.name) << ", "
            << Quoted(Joined(row.figures)) << ", " << Quoted(row.source) << ", {kCells + "

@@ -19,10 +19,12 @@ struct TableRow {
   std::span<const std::string_view> cells{};  ///< the figures one by one, some perhaps empty
 };
 
-/// The rows that belong together, in the order of the file.
+/// The rows that belong together, in the order of the file. A group may have no rows, and such a
+/// one no name.
 struct TableGroup {
   std::string_view name;
   std::span<const TableRow> rows;
+  std::string_view list{};  ///< the list it stands in, where the table has several
 };
 
 /// Production engines by make: bore, stroke and rod length in inches (a rod length of 0.0 is
@@ -32,6 +34,10 @@ std::span<const TableGroup> EngineTable();
 /// Transmissions by list: the ratios from first gear up. What is known of the primary drive and of
 /// the final drive stands in the name, as does the torque capacity. Made from gearboxes.tsv.
 std::span<const TableGroup> GearboxTable();
+
+/// Vehicles by list ("american" and "other") and make: the coefficient of drag and, where it is
+/// known, the frontal area in square feet. Made from drag.tsv.
+std::span<const TableGroup> DragTable();
 
 /// Units by the heading over them: index of the unit's option button, that of the unit it comes
 /// of (empty for one that others come of), and the steps from that unit to this one, such as

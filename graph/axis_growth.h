@@ -4,6 +4,19 @@
 
 namespace veldox {
 
+/// The limit of an axis that holds a value, with round numbers at ten lines of a grid.
+double AxisLimit(double value);
+
+/// Both ends of an axis.
+struct AxisSpan {
+  double low = 0;
+  double high = 0;
+};
+/// The ends of an axis that need not begin at 0: they hold both values, with round numbers at ten
+/// lines of a grid.
+/// @param low  not below 0
+AxisSpan AxisSpanOf(double low, double high);
+
 /// The axes of a graph that a curve is added to: an end that does not hold the curve moves to
 /// where it is on the axes of a graph of the curve alone, the others stay.
 inline AxisRange GrownBy(AxisRange range, const GraphCurve& curve, const AxisRange& own) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -32,6 +33,8 @@ struct GraphCurve {
   /// A line across the graph that the curve is read against, such as the lift a cam is rated at.
   /// It is drawn once, however many curves bring it, and is no curve itself.
   std::optional<double> standardLine = std::nullopt;
+  /// A colour of its own; the pens do not move on.
+  std::optional<CurveColorEntry> color = std::nullopt;
 };
 
 /// The grapher as other screens see it: a graph command computes its curves and hands
@@ -46,6 +49,10 @@ class Grapher {
   /// Clears the surface and draws a new graph; the first pen is green.
   /// @throws CommandError for limits or points that cannot be drawn
   virtual void DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) = 0;
+  /// The same for a graph that the plot engine draws in a way of its own.
+  /// @param draw  what is drawn into the frame; an engine that it has thrown in is not kept
+  virtual void DrawOwnGraph(const GraphFrame& frame,
+                            const std::function<void(PlotEngine&)>& draw) = 0;
   /// Draws curves onto the present graph with the next pens; axes stay.
   /// @throws CommandError for points that cannot be drawn, or without a graph
   virtual void AddToGraph(std::span<const GraphCurve> curves) = 0;

@@ -124,7 +124,7 @@ void Form8::KeepFirstLimits() {
 void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
   if (curves.empty()) PlotEngine::RequireSeries({});
   for (const GraphCurve& curve : curves) {
-    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints);
+    next.PlotSeries(curve.points, {}, curve.moves, curve.fewestPoints, curve.color);
     if (!curve.note.empty()) next.SetCurveNote(curve.note + "  " + next.series().back().name);
     if (curve.boxes) {
       const Color color = next.ShownColor(next.series().back());
@@ -144,6 +144,10 @@ void Form8::DrawStandardLine(PlotEngine& next, double level) {
 }
 
 void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) {
+  DrawOwnGraph(frame, [curves](PlotEngine& next) { AddCurves(next, curves); });
+}
+
+void Form8::DrawOwnGraph(const GraphFrame& frame, const std::function<void(PlotEngine&)>& draw) {
   PlotEngine next(block());
   next.SetScale(frame.range);
   next.crankAngleAxis = frame.crankAngle;
@@ -156,7 +160,7 @@ void Form8::DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curve
   if (frame.zeroLine && frame.range.yLow < 0 && frame.range.yHigh > 0) {
     next.PlotAdjustedLine({frame.range.xLow, 0}, {frame.range.xHigh, 0}, {}, true);
   }
-  AddCurves(next, curves);
+  draw(next);
   underOverlay_ = std::nullopt;
   Label1.SetCaption("");
   Commit(std::move(next), Shown::Other);

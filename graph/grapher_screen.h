@@ -44,6 +44,7 @@ class Form8 : public Screen, public Grapher, public FileTaker {
 
   // Grapher
   void DrawGraph(const GraphFrame& frame, std::span<const GraphCurve> curves) override;
+  void DrawOwnGraph(const GraphFrame& frame, const std::function<void(PlotEngine&)>& draw) override;
   void AddToGraph(std::span<const GraphCurve> curves) override;
   void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) override;
   bool HasGraph() const override { return plot_->hasAxes(); }

@@ -331,9 +331,14 @@ void PlotEngine::RequireSeries(std::span<const GraphPoint> points, std::string_v
 }
 
 void PlotEngine::PlotSeries(std::span<const GraphPoint> points, std::string note,
-                            std::span<const std::size_t> moves, std::size_t fewest) {
+                            std::span<const std::size_t> moves, std::size_t fewest,
+                            const std::optional<CurveColorEntry>& color) {
   RequireSeries(points, note.empty() ? Caption(kTitleCaption) : note, fewest);
-  CurveColor();
+  if (color) {
+    CurveInColor(*color);
+  } else {
+    CurveColor();
+  }
   PlotSeriesRecord& series = series_.back();
   series.note = std::move(note);
   series.points.assign(points.begin(), points.end());
@@ -447,16 +452,16 @@ void PlotEngine::DrawDyno(std::span<const DynoRow> rows, const DynoTexts& texts)
     CurveColorEntry color;
   };
   const std::array<DynoCurve, 4> curves = {{
-      {&DynoRow::horsepower, *ColorByName("green")},
       {&DynoRow::torque, *ColorByName("blue")},
-      {&DynoRow::otherHorsepower, *ColorByName("red")},
       {&DynoRow::otherTorque, *ColorByName("yellow")},
+      {&DynoRow::horsepower, *ColorByName("green")},
+      {&DynoRow::otherHorsepower, *ColorByName("red")},
   }};
   std::array<std::vector<GraphPoint>, 4> points;
   for (std::size_t i = 0; i < curves.size(); ++i) {
     points[i].reserve(rows.size());
     for (const DynoRow& row : rows) points[i].push_back({row.rpm, row.*curves[i].column});
-    RequireSeries(points[i], i % 2 == 0 ? "Horsepower" : "Torque");
+    RequireSeries(points[i], i < 2 ? "Torque" : "Horsepower");
   }
   SetCaption(kXPointerCaption, "<--- RPM");
   SetCaption(kXNameCaption, "RPM");
@@ -480,13 +485,13 @@ void PlotEngine::DrawDyno(std::span<const DynoRow> rows, const DynoTexts& texts)
 void PlotEngine::DrawDynoGraph(std::span<const DynoRow> rows) {
   DrawDyno(rows,
            {{"Green is HP - Blue is Torque", "Red is Corrected HP - Yellow is Corrected Torque"},
-            {"HP   ", "Torque   ", "Corrected HP   ", "Corrected Torque   "}});
+            {"Torque   ", "Corrected Torque   ", "HP   ", "Corrected HP   "}});
 }
 
 void PlotEngine::DrawNitrousGraph(std::span<const DynoRow> rows, double shot) {
   DrawDyno(rows,
            {{"Green is HP - Blue is Torque     ", "Red is Nitrous HP - Yellow is Nitrous Torque"},
-            {"HP   ", "Torque   ", "Nitrous HP   ", "Nitrous Torque   "}});
+            {"Torque   ", "Nitrous Torque   ", "HP   ", "Nitrous HP   "}});
   SetCaption(13, FormatValue<"0">(shot, mark()) + " HP Nitrous Shot");
 }
 

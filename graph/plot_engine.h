@@ -198,9 +198,11 @@ class PlotEngine {
   /// CurveColor, PlotPoint for the first point and PlotLine for the rest.
   /// @param moves   indices of further points that no line leads to
   /// @param fewest  how many points the curve needs: 0 for one that may be empty
+  /// @param color   in place of the next pen
   /// @throws CommandError (InvalidArgument) for fewer
   void PlotSeries(std::span<const GraphPoint> points, std::string note = {},
-                  std::span<const std::size_t> moves = {}, std::size_t fewest = kFewestCurvePoints);
+                  std::span<const std::size_t> moves = {}, std::size_t fewest = kFewestCurvePoints,
+                  const std::optional<CurveColorEntry>& color = std::nullopt);
   /// Throws what PlotSeries would, so that a graph can be checked before the old one goes.
   /// @param curve  its name, which a refusal tells
   static void RequireSeries(std::span<const GraphPoint> points, std::string_view curve = {},

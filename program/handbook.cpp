@@ -7,6 +7,7 @@
 #include "core/pick_list.h"
 #include "core/results.h"
 #include "core/table.h"
+#include "core/text.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -35,8 +36,7 @@ std::string Caption(std::string_view caption) {
     if (caption[i] == '&' && i + 1 < caption.size()) continue;
     plain += caption[i];
   }
-  plain.erase(plain.find_last_not_of(' ') + 1);
-  return plain;
+  return std::string(Trim(plain));
 }
 
 std::string Units(const Field& field) {
@@ -153,10 +153,9 @@ class ScreenPages {
 
   void AddCommand(const Command& command, std::string& commands) const {
     if (!command.isBuilt()) return;
-    const std::string array = command.name().substr(0, command.name().find('('));
     commands += "- **" + Plain(Caption(command.caption())) + "**" + Help(command) + "\n";
-    for (const std::string& note : notes_.Of(screen_.name(), array)) {
-      commands += "  - *Formula:* " + Plain(note) + "\n";
+    for (const std::string& note : notes_.Of(screen_.name(), command.name())) {
+      commands += "  - *In words:* " + Plain(note) + "\n";
     }
   }
 

@@ -6,6 +6,7 @@
 #include "cam/cam_files.h"
 #include "cam/cam_generator_screen.h"
 #include "cam/cam_information_screen.h"
+#include "chassis/corner_weights_screen.h"
 #include "chassis/springs_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
@@ -16,6 +17,8 @@
 #include "reference/weather_screen.h"
 #include "twostroke/expansion_chamber_screen.h"
 #include "twostroke/port_timing_screen.h"
+#include "vehicle/acceleration_screen.h"
+#include "vehicle/drag_finder_screen.h"
 #include "vehicle/elapsed_time_screen.h"
 #include "vehicle/gear_screen.h"
 #include "vehicle/gearbox_finder_screen.h"
@@ -45,13 +48,15 @@ Program::Program(Host& host)
   AddScreen<Form12>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form21>(displacement);
   AddScreen<Form16>();
+  AddScreen<Form6>();
   AddScreen<Form11>();
   AddScreen<Form18>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form9>();
   AddScreen<Form10>();
   AddScreen<Form14>(static_cast<Grapher&>(*grapher_));
   AddScreen<Form17>();
-  AddScreen<Form4>(static_cast<Grapher&>(*grapher_));
+  auto& airflow = AddScreen<Form4>(static_cast<Grapher&>(*grapher_), *camFiles_);
+  camFiles_->AddLashTaker(airflow);
   displacement.SetEngineFinder([this] { shell_->Choose(*Shell::FindMenuItem("Engine_Spec")); });
   AddScreen<Form7>();
   AddScreen<Form33>(*camFiles_);
@@ -60,10 +65,14 @@ Program::Program(Host& host)
   auto& gearboxFinder = AddScreen<Form19>();
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
+  auto& acceleration = AddScreen<Form13>(static_cast<Grapher&>(*grapher_));
+  gearboxFinder.AddTaker(acceleration);
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
+  AddScreen<Form20>().AddTaker(acceleration);
   about_ = &AddScreen<Form15>();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
+  shell_->SetReadListener([&acceleration] { acceleration.Torques.Follow(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {

@@ -1,6 +1,7 @@
 #include "script/model_driver.h"
 
 #include "core/pick_list.h"
+#include "core/table.h"
 
 namespace veldox {
 
@@ -41,8 +42,13 @@ void ModelDriver::ChooseMenu(const MenuItem& item) {
 
 void ModelDriver::Set(TextControl& field, const std::string& text) {
   if (!field.enabled() || !field.screen().MoveFocus(&field)) return;
-  field.Edit(text);
   selected_ = nullptr;
+  Table* table = Table::Of(field);
+  if (table != nullptr && Table::IsBlock(text)) {
+    table->Paste(table->PlaceOf(field), text);
+  } else {
+    field.Edit(text);
+  }
 }
 
 bool ModelDriver::TabInto(Control& control) {

@@ -12,6 +12,7 @@
 #include <system_error>
 
 #include "core/dry_run.h"
+#include "core/field_copy.h"
 #include "core/files.h"
 #include "core/key_table.h"
 #include "core/vary.h"
@@ -195,17 +196,17 @@ void ScriptRunner::Touch(std::string_view verb, std::string_view target, std::st
     if (item == nullptr) throw ScriptError("no such menu item: " + std::string(target));
     driver_.ChooseMenu(*item);
   } else if (verb == "set") {
-    driver_.Set(Find<TextControl>(target, "field"), UnescapeText(text));
+    driver_.Set(FindField(target), UnescapeText(text));
   } else if (verb == "type") {
     Control& control = FindControl(target);
-    if (control.kind() != ControlKind::PickList) Find<TextControl>(target, "field");
-    driver_.Type(control, ParseKeys(UnescapeText(text)));
+    const bool isList = control.kind() == ControlKind::PickList;
+    driver_.Type(isList ? control : FindField(target), ParseKeys(UnescapeText(text)));
   } else if (verb == "leave") {
-    driver_.Leave(Find<TextControl>(target, "field"));
+    driver_.Leave(FindField(target));
   } else if (verb == "press") {
     const std::vector<Key> keys = ParseKeys(UnescapeText(text));
     if (keys.size() != 1) throw ScriptError("press takes one key");
-    driver_.Press(FindControl(target), keys.front());
+    driver_.Press(WithinReach(FindControl(target)), keys.front());
   } else if (verb == "check" || verb == "uncheck") {
     auto& box = Find<CheckBox>(target, "check box");
     if (box.on() != (verb == "check")) driver_.Click(box);
@@ -432,6 +433,10 @@ T& ScriptRunner::Find(std::string_view name, const char* what) {
   auto* found = dynamic_cast<T*>(&FindControl(name));
   if (found == nullptr) throw ScriptError(std::string(name) + " is no " + what);
   return *found;
+}
+
+TextControl& ScriptRunner::FindField(std::string_view name) {
+  return static_cast<TextControl&>(WithinReach(Find<TextControl>(name, "field")));
 }
 
 namespace {

@@ -46,6 +46,8 @@ class ScriptRunner {
   void RequireNothingPrepared() const;
 
   Control& FindControl(std::string_view name);
+  /// The field that takes what is typed under a name: a panel may show one of another page again.
+  TextControl& FindField(std::string_view name);
   template <class T>
   T& Find(std::string_view name, const char* what);
 

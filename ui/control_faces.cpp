@@ -278,8 +278,9 @@ TextAreaFace::TextAreaFace(FaceSet& set, TextControl& area, QWidget* parent)
       area_(area),
       edit_(static_cast<LinesEdit*>(widget())) {
   set.look().DressEntry(*edit_);
-  // Results have their numbers under each other.
-  if (area.rule() == KeyRule::OutputOnly) edit_->setFont(FixedPitchFont(edit_->font()));
+  // Results and tables have their numbers under each other.
+  if (area.rule() == KeyRule::OutputOnly || dynamic_cast<const NumberLines*>(&area) != nullptr)
+    edit_->setFont(FixedPitchFont(edit_->font()));
 }
 
 void TextAreaFace::Follow() {

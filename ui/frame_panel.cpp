@@ -35,6 +35,16 @@ int Widest(const std::vector<QWidget*>& widgets) {
   return widest;
 }
 
+bool IsSheet(const Control& frame) {
+  return dynamic_cast<const Panel*>(&frame) != nullptr ||
+         dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+}
+
+/// True for a frame that stands beside all pages of its screen.
+bool IsBesidePages(const Frame& frame) {
+  return !frame.screen().pages().empty() && frame.frame() == nullptr && !IsSheet(frame);
+}
+
 /// The frames of a row, each column as high as it must be.
 QWidget* BuildFrameRow(FaceSet& faces, const FrameRow& row,
                        const std::vector<const Control*>& placed, int gap, QWidget* parent) {
@@ -109,6 +119,7 @@ FramePanel::FramePanel(FaceSet& faces, Frame& frame, const std::vector<const Con
     : QGroupBox(ToQt(frame.caption()), parent),
       grid_(new QGridLayout(this)),
       asksForCare_(dynamic_cast<const CautionFrame*>(&frame) != nullptr),
+      isBesidePages_(IsBesidePages(frame)),
       ground_(faces.look().frameGround()) {
   faces.look().DressFrame(*this);
   grid_->setContentsMargins(0, 0, 0, 0);
@@ -153,7 +164,8 @@ void FramePanel::Place(FaceSet& faces, Control& control) {
       break;
     }
     case ControlKind::PickList:
-      grid_->setRowStretch(row, 1);
+      // The list's own policy makes the row grow; a stretch of the row would keep the place of
+      // one that is put away.
       grows_ = true;
       grid_->addWidget(faces.Make<PickListFace>(static_cast<PickList&>(control), this).panel(), row,
                        0, 1, 3);
@@ -225,7 +237,7 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
   const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
   const int count = static_cast<int>(filled.size());
-  const int columns = std::clamp(grows_ ? count : fitting, 1, kMostCommandsInRow);
+  const int columns = std::clamp(grows_ || isBesidePages_ ? count : fitting, 1, kMostCommandsInRow);
   for (int i = 0; i < count; ++i) {
     const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.
@@ -273,15 +285,6 @@ void FramePanel::Align(int labelWidth, int unitWidth) {
   grid_->setColumnMinimumWidth(0, labelWidth);
   grid_->setColumnMinimumWidth(2, unitWidth);
 }
-
-namespace {
-
-bool IsSheet(const Control& frame) {
-  return dynamic_cast<const Panel*>(&frame) != nullptr ||
-         dynamic_cast<const ScreenPage*>(&frame) != nullptr;
-}
-
-}  // namespace
 
 FrameFace::FrameFace(FaceSet& set, Frame& frame, FramePanel* panel) : Face(set, frame, panel) {}
 

@@ -34,6 +34,7 @@ class FramePanel : public QGroupBox {
   std::vector<QWidget*> labels_;
   std::vector<Unit> units_;
   bool asksForCare_;
+  bool isBesidePages_;  ///< its commands take no height from the pages
   std::optional<QColor> ground_;
   bool grows_ = false;         ///< holds something that takes all the room there is
   bool growsToAnEnd_ = false;  ///< holds a table that takes room until all its rows are in sight

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -256,9 +257,32 @@ void ReportPanel::Follow() {
   if (box_.text() == shown_) return;
   shown_ = box_.text();
   edit_->Show(ToQtLines(box_.text()));
+  SetOff(SetOffColumns(ReportLines(box_.report())));
   heads_->SetReport(box_.report());
   edit_->moveCursor(QTextCursor::Start);
   find_->hide();
+}
+
+void ReportPanel::SetOff(const std::vector<SetOffColumn>& columns) {
+  constexpr int kTint = 48;  // of 255: the text on it stays as easy to read
+  QColor tint = ThemeColors(palette()).accent;
+  tint.setAlpha(kTint);
+  QList<QTextEdit::ExtraSelection> cells;
+  for (const SetOffColumn& column : columns) {
+    QTextBlock row = edit_->document()->findBlockByNumber(static_cast<int>(column.firstLine));
+    for (std::size_t line = column.firstLine; line < column.endLine && row.isValid(); ++line) {
+      const int length = row.length() - 1;  // without the line break
+      QTextEdit::ExtraSelection cell;
+      cell.cursor = QTextCursor(row);
+      cell.cursor.setPosition(row.position() + std::min(static_cast<int>(column.begin), length));
+      cell.cursor.setPosition(row.position() + std::min(static_cast<int>(column.end), length),
+                              QTextCursor::KeepAnchor);
+      cell.format.setBackground(tint);
+      cells.push_back(cell);
+      row = row.next();
+    }
+  }
+  edit_->setExtraSelections(cells);
 }
 
 void ReportPanel::showEvent(QShowEvent* event) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/report.h"
 #include "ui/face.h"
 #include "ui/field_edit.h"
 
@@ -95,6 +96,8 @@ class ReportPanel : public QWidget {
  private:
   QPushButton* AddButton(QBoxLayout& row, const char* caption, const char* tip);
   void SaveAsPdf();
+  /// Gives the columns that arrows point at a ground of their own.
+  void SetOff(const std::vector<SetOffColumn>& columns);
 
   ReportBox& box_;
   WindowLook look_;

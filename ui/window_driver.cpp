@@ -11,6 +11,7 @@
 #include <QPixmap>
 
 #include "core/files.h"
+#include "core/table.h"
 #include "script/script_host.h"
 #include "ui/field_edit.h"
 #include "ui/menu_rows.h"
@@ -140,6 +141,11 @@ void WindowDriver::Set(TextControl& field, const std::string& text) {
     return;
   }
   if (!Enter(field, *widget, Qt::OtherFocusReason)) return;
+  const bool fillsTable = Table::Of(field) != nullptr && Table::IsBlock(text);
+  if (fillsTable) {
+    model_.Set(field, text);
+    return Settle();
+  }
   if (auto* edit = dynamic_cast<FieldEdit*>(widget)) edit->Replace(ToQt(text));
   if (auto* lines = dynamic_cast<LinesEdit*>(widget)) lines->Replace(ToQtLines(text));
   Settle();

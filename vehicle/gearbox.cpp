@@ -5,7 +5,6 @@
 #include "core/error.h"
 #include "core/numbers.h"
 #include "core/pick_list.h"
-#include "core/text.h"
 
 namespace veldox {
 
@@ -13,8 +12,6 @@ namespace {
 
 /// Far beyond every gear, and far within what the screens can hold.
 constexpr double kLargestRatio = 1000;
-/// Messages quote no more of a row.
-constexpr std::size_t kQuotedRow = 120;
 /// One name has 117 teeth misprinted: its own ratio of 1.8281 is 117 to 64.
 constexpr std::string_view kMisprintedTeeth = " PT-177/64";
 constexpr std::int16_t kTeethMeant = 117;
@@ -33,15 +30,7 @@ class RowReader {
   }
 
   double Ratio(std::string_view text, std::string_view what) const {
-    double value = 0;
-    try {
-      value = ParseNumber(text, DecimalMark::Point);
-    } catch (const CommandError& error) {
-      Fail(error.kind(), what, error.message());
-    }
-    if (value <= 0) Fail(ErrorKind::InvalidArgument, what, "must be above 0.");
-    if (value > kLargestRatio) Fail(ErrorKind::InvalidArgument, what, "is too large.");
-    return value;
+    return ReadFigure(text, what, row_, kLargestRatio);
   }
 
   std::optional<double> RatioOf(std::string_view tag, std::string_view what) const {
@@ -60,8 +49,7 @@ class RowReader {
   }
 
   [[noreturn]] void Fail(ErrorKind kind, std::string_view what, const std::string& why) const {
-    throw CommandError(
-        kind, std::string(what) + " of the row \"" + Clipped(row_, kQuotedRow) + "\" " + why);
+    FailAtRow(kind, what, row_, why);
   }
 
  private:

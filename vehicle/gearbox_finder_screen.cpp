@@ -151,7 +151,7 @@ void Form19::StoreGearbox(const Gearbox& gearbox) {
     b.PinionGear = gearbox.finalTeeth->driving;
   }
   b.AutomaticTrans = gearbox.isAutomatic ? 1 : 0;
-  for (std::size_t i = 0; i < kMostGears; ++i) {
+  for (std::size_t i = 0; i < b.TGear.size(); ++i) {
     b.TGear[i] = i < gearbox.ratios.size() ? gearbox.ratios[i] : 0;
   }
 }

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -38,7 +39,8 @@ class AirflowScreen : public testing::Test {
   TestHost host_;
   std::unique_ptr<ProgramContext> context_ = std::make_unique<ProgramContext>(host_);
   Form8 grapher_{*context_};
-  Form4 form_{*context_, grapher_};
+  CamFiles camFiles_{*context_};
+  Form4 form_{*context_, grapher_, camFiles_};
   AirflowPage& page_ = form_.Page;
   InjectorPanel& injectors_ = form_.Injectors;
   ParameterBlock& block_ = context_->block;
@@ -174,7 +176,8 @@ TEST_F(AirflowScreen, LetsNoClickThroughWhileAFieldIsEmpty) {
   Set(page_.Text1, "");
   host_.Answer(Button::OK);
   EXPECT_FALSE(Click(page_.Command8));
-  EXPECT_EQ(host_.messages.back().text, "Note: This field can not be blank.");
+  EXPECT_EQ(host_.messages.back().text,
+            "Note: This field can not be blank.\r\nNothing has been done for \"Carb Size\".");
   EXPECT_EQ(host_.messages.back().icon, Icon::Warning);
   EXPECT_EQ(form_.focus(), &page_.Text1);
   Set(page_.Text1, "0");
@@ -435,6 +438,209 @@ TEST_F(AirflowScreen, AStemThatIsPickedGoesIntoItsField) {
   EXPECT_EQ(valves.Combo1.chosen(), -1);
   valves.Combo1.Pick(3);
   EXPECT_EQ(valves.Text43.text(), ".2756");
+}
+
+// ---------------------------------------------------------------- port time area
+
+/// A lobe that rises and falls by .04 inches every 10 crank degrees, up to .4 over 200 degrees.
+LiftFile StraightLobe(double unit = 1) {
+  LiftFile file;
+  file.step = 10;
+  for (LiftSide* side : {&file.intake, &file.exhaust}) {
+    side->step = 10;
+    for (int i = 0; i <= 20; ++i) side->lifts.push_back(.04 * (i <= 10 ? i : 20 - i) * unit);
+  }
+  file.intakeLash = .05;
+  file.exhaustLash = .05;
+  return file;
+}
+
+TEST_F(AirflowScreen, TimeAreaTellsWhichCamIsLoaded) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  EXPECT_TRUE(Click(form_.Command48));
+  EXPECT_EQ(panel.CamNotes.text().substr(0, 18), "No cam is loaded: ");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(Click(panel.Command71));
+  EXPECT_FALSE(form_.Text78.showsReport());
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  panel.Command53.Click();
+  EXPECT_TRUE(Click(form_.Command48));
+  EXPECT_EQ(panel.CamNotes.text().substr(0, 12), "straight.cmm");
+  EXPECT_TRUE(Click(panel.Command71));
+  EXPECT_TRUE(form_.Text78.showsReport());
+  EXPECT_EQ(form_.Text78.fontSize(), 8);
+}
+
+TEST_F(AirflowScreen, TimeAreaShowsTheLashesOfTheCamScreen) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  block_.IntakeLash = .018;
+  block_.ExhaustLash = .02;
+  block_.RockerArmRatio = 1.65;
+  form_.CopyShared();
+  EXPECT_EQ(panel.Text88.text(), "0.018");
+  EXPECT_EQ(panel.Text91.text(), "0.02");
+  EXPECT_EQ(panel.Text92.text(), "1.65");
+  form_.TakeLashes(.0125, std::nullopt);
+  EXPECT_EQ(panel.Text88.text(), "0.0125");
+  EXPECT_EQ(panel.Text91.text(), "0.02");
+  EXPECT_TRUE(Click(form_.Command48));
+  EXPECT_TRUE(panel.Metric.Click());
+  form_.TakeLashes(std::nullopt, .02);
+  EXPECT_EQ(panel.Text91.text(), "0.508");
+}
+
+TEST_F(AirflowScreen, SetLiftTableTakesTheDurationsOfTheCam) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  FlowPanel& flow = form_.Flow;
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text92, "1.5");
+  Set(panel.Text88, ".06");
+  Set(flow.Text48[2], ".24");
+  EXPECT_TRUE(Click(panel.Command87));
+  // .24 at the valve is .2 at the lobe, from 50 to 150 degrees; .1 is .10667, from 26.667.
+  EXPECT_EQ(panel.Text95[2].text(), "0.24");
+  EXPECT_NEAR(block_.IntakeLiftTable[2].Flow, 100, 1e-9);
+  EXPECT_NEAR(block_.IntakeLiftTable[0].Flow, 200 - 2 * (.16 / 1.5) * 250, 1e-9);
+  // The lobe has .54 for the valve: .55 is not reached.
+  EXPECT_EQ(panel.Text96[5].text(), "0.0");
+  EXPECT_EQ(block_.LiftTable[2], .24);
+  EXPECT_TRUE(panel.IntakeTable.IsDimmed(5));
+  EXPECT_FALSE(panel.IntakeTable.IsDimmed(2));
+}
+
+TEST_F(AirflowScreen, LiftTablesInMillimetersGiveTheSameReport) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  EXPECT_TRUE(Click(form_.Command48));
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(panel.Command71));
+  const std::string inches = form_.Text78.report();
+  form_.Text78.CloseReport();
+  LiftFile metric = StraightLobe(25.4);
+  camFiles_.StoreTables(metric, "straight.cmm", true);
+  EXPECT_TRUE(Click(panel.Command71));
+  EXPECT_EQ(form_.Text78.report(), inches);
+}
+
+TEST_F(AirflowScreen, CamDoctorFilesAreInCamDegreesAndBeginAnywhere) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  LiftFile file = StraightLobe();
+  file.format = LiftFormat::CamDoctor;
+  for (LiftSide* side : {&file.intake, &file.exhaust}) {
+    side->step = 2;
+    side->lifts.insert(side->lifts.begin(), 5, 0.0);
+    // The count is one more than the index of the closing zero.
+    side->lifts.push_back(0);
+  }
+  camFiles_.StoreTables(file, "tester.c1", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text88, "0");
+  Set(panel.Text85, "30");
+  const auto has = [&](const char* text) {
+    return panel.CamNotes.text().find(text) != std::string::npos;
+  };
+  // 20 steps of 4 crank degrees.
+  EXPECT_TRUE(has("Intake: every 4.0 crank degrees\r\n  Open 30.0 BTDC, close -130.0 ABDC"))
+      << panel.CamNotes.text();
+  EXPECT_TRUE(panel.Skip.Click());
+  EXPECT_TRUE(has("Open 10.0 BTDC, close -110.0 ABDC")) << panel.CamNotes.text();
+}
+
+TEST_F(AirflowScreen, CamshaftsOfTheirOwnAreAdvancedAlone) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text88, "0");
+  Set(panel.Text91, "0");
+  Set(panel.Text85, "30");
+  Set(panel.Text87, "70");
+  Set(panel.Text74, "4");
+  Set(panel.Text75, "-3");
+  const auto has = [&](const char* text) {
+    return panel.CamNotes.text().find(text) != std::string::npos;
+  };
+  EXPECT_TRUE(has("Open 34.0 BTDC"));
+  EXPECT_TRUE(has("Open 74.0 BBDC"));
+  EXPECT_TRUE(panel.Dohc.Click());
+  EXPECT_TRUE(has("Open 34.0 BTDC"));
+  EXPECT_TRUE(has("Open 67.0 BBDC"));
+}
+
+TEST_F(AirflowScreen, MetricChangesTheTimeAreaPanelAlone) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text88, ".02");
+  EXPECT_TRUE(panel.Metric.Click());
+  EXPECT_EQ(panel.Text88.text(), "0.508");
+  EXPECT_EQ(panel.Text95[2].text(), "2.54");
+  EXPECT_EQ(panel.Text68.text(), "1.27");
+  EXPECT_EQ(form_.Flow.Text48[0].text(), ".100");
+  EXPECT_EQ(form_.Valves.Text42.text(), "2.02");
+  EXPECT_EQ(form_.Mach.Text52.text(), "4.000");
+  EXPECT_EQ(block_.IntakeLash, .02);
+  EXPECT_EQ(block_.Bore, 4);
+  EXPECT_TRUE(panel.Metric.Click());
+  EXPECT_EQ(panel.Text88.text(), ".02");
+  EXPECT_EQ(panel.Text95[2].text(), ".100");
+}
+
+TEST_F(AirflowScreen, ACamBeyondAllNumbersSpoilsNoCommand) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(1e300), "huge.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text92, "1e20");
+  Set(panel.Text93, "1e20");
+  // The notes are made anew while the lashes are converted.
+  EXPECT_TRUE(panel.Metric.Click());
+  EXPECT_EQ(panel.Text68.text(), "1.27");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(Click(panel.Command111));
+}
+
+TEST_F(AirflowScreen, GraphsHaveTheMarksOfTheirOptions) {
+  GraphPanel& graphs = form_.Graphs;
+  FlowPanel& flow = form_.Flow;
+  EXPECT_TRUE(Click(form_.Command69));
+  EXPECT_TRUE(graphs.ShowDots.Click());
+  EXPECT_TRUE(graphs.Circle.Click());
+  Set(graphs.Text67, ".8");
+  graphs.Command91.Click();
+  EXPECT_TRUE(Click(form_.Command35));
+  EXPECT_TRUE(flow.Command61[0].Click());
+  const PlotEngine& plot = grapher_.plot();
+  EXPECT_EQ(plot.XHigh, .8);
+  EXPECT_EQ(plot.boxes().size(), kFlowRows);
+  EXPECT_EQ(plot.circles().size(), kFlowRows);
+  EXPECT_EQ(plot.series()[0].starts.size(), 1U);
+  // Without lines and circles there are dots; a further curve has its own.
+  graphs.ShowDots.SetOn(false);
+  graphs.Circle.SetOn(false);
+  graphs.Line.SetOn(false);
+  EXPECT_TRUE(flow.Command61[0].Click());
+  EXPECT_EQ(grapher_.plot().boxes().size(), kFlowRows);
+  EXPECT_EQ(grapher_.plot().circles().size(), 0U);
+  EXPECT_EQ(grapher_.plot().series()[0].starts.size(), kFlowRows);
+  EXPECT_TRUE(flow.Command64.Click());
+  EXPECT_EQ(grapher_.plot().boxes().size(), 2 * kFlowRows);
+}
+
+TEST_F(AirflowScreen, TimeAreaGraphsAreOfThePortsThatAreChosen) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  panel.Option6.Choose(1);
+  EXPECT_TRUE(Click(panel.Command67));
+  EXPECT_EQ(grapher_.plot().series().size(), 2U);
+  form_.Graphs.Option5.Choose(2);
+  EXPECT_TRUE(panel.Command67.Click());
+  ASSERT_EQ(grapher_.plot().series().size(), 1U);
+  EXPECT_LT(grapher_.plot().series()[0].points.front().x, -180);
+  // A further curve stands on the same axes.
+  const AxisRange axes = grapher_.plot().scale();
+  panel.Option6.Choose(13);
+  EXPECT_TRUE(panel.Command68.Click());
+  EXPECT_EQ(grapher_.plot().series().size(), 2U);
+  EXPECT_EQ(grapher_.plot().scale(), axes);
 }
 
 }  // namespace

@@ -149,6 +149,17 @@ TEST(Pages, BoldLinesAreNotRepeated) {
   EXPECT_EQ(Body(pages[1])[0].text.substr(0, 3), "row");
 }
 
+TEST(Pages, AColumnUnderAnArrowStandsBetweenLines) {
+  const Page page = Print("prompt\r\n          \\|/\r\n  1.1   12.222   3.3\r\n\r\nend").at(0);
+  ASSERT_EQ(page.lines.size(), 2U);
+  // Characters 8 to 13 of 120 twips each, in the second printed line; half a character apart.
+  EXPECT_EQ(page.lines[0].fromX, 150 + 7 * 120 + 60);
+  EXPECT_EQ(page.lines[0].toX, page.lines[0].fromX);
+  EXPECT_EQ(page.lines[1].fromX, 150 + 14 * 120 + 60);
+  EXPECT_EQ(page.lines[0].fromY, kFirst + kLine);
+  EXPECT_EQ(page.lines[0].toY, kFirst + 2 * kLine);
+}
+
 TEST(Pages, LandscapeBreaksAt11700AndHasItsFooterAt12175) {
   const auto pages = Print("prompt" + Rows(60), {}, true);
   ASSERT_EQ(pages.size(), 2U);

@@ -1013,12 +1013,15 @@ TEST(ParameterFileOwners, ReadingPutsFallbackValuesIntoTheirFields) {
 TEST(ParameterFileOwners, LiteralTextGoesToItsFieldAsItStands) {
   Program program;
   OwnerScreen screen(program.context);
-  Field& smooth = screen.AddField("Form13", "N");
+  Field& smooth = screen.AddField("Form13.Text40", "N");
   program.file.BindOwners(screen.Finder(), screen.Itself());
   EXPECT_EQ(Value(program.Bytes(), "Smooth HP Graph"), "N");
   program.Read("Smooth HP Graph = Y\r\n");
   EXPECT_EQ(smooth.text(), "Y");
   EXPECT_EQ(program.block.SmoothHPGraph, "Y");
+  // Without a text, files have had 0.0.
+  program.Read("Smooth HP Graph = 0.0\r\n");
+  EXPECT_EQ(smooth.text(), "Y");
   program.Read("Smooth HP Graph =  \r\n");
   EXPECT_EQ(smooth.text(), "");
   EXPECT_EQ(program.block.SmoothHPGraph, "");

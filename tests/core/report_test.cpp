@@ -33,6 +33,29 @@ TEST(Report, ATextWithoutALineBreakIsOneLine) {
               ElementsAre(MarkedLine{"a", LineMark::None}, MarkedLine{"", LineMark::None}));
 }
 
+TEST(Report, TheNumbersUnderAnArrowAreSetOffToTheEndOfTheirBlock) {
+  const std::vector<MarkedLine> lines = ReportLines(
+      "prompt\r\n"
+      "          \\|/^\r\n"
+      "Head     at its own place^\r\n"
+      "  1.10   2.20   3.30^\r\n"
+      "  1.1   12.222   3.3^\r\n"
+      "\r\n"
+      "  4.0    5.0     6.0^\r\n"
+      "     \\|/^\r\n"
+      " 1.5  -12^\r\n"
+      " 2^");
+  EXPECT_THAT(SetOffColumns(lines),
+              ElementsAre(SetOffColumn{3, 5, 8, 14}, SetOffColumn{8, 10, 6, 9}));
+}
+
+TEST(Report, AnArrowOverNothingSetsNothingOff) {
+  EXPECT_THAT(SetOffColumns(ReportLines("prompt\r\n     \\|/\r\n 1\r\n\r\n    2000")),
+              testing::IsEmpty());
+  EXPECT_THAT(SetOffColumns(ReportLines("prompt\r\n     \\|/\r\n    word")), testing::IsEmpty());
+  EXPECT_THAT(SetOffColumns(ReportLines("prompt\r\n 1  \\|/")), testing::IsEmpty());
+}
+
 TEST(Report, OnlyTheLastCharacterOfALineIsAMark) {
   EXPECT_EQ(ReportBoxText("a_b^c~d\r\nx__\r\ny"), "a_b^c~d\r\nx_\r\ny");
 }

@@ -181,6 +181,56 @@ TEST_F(CompileOtherTable, OfGearboxes) {
        {"Manual\tgearbox\tX\t3.0 1.0\t", "the figures have no source"}});
 }
 
+TEST_F(CompileTable, WritesTheListsOfGroups) {
+  EXPECT_EQ(Compile("list\tgroup\tkind\tname\tcd\tarea\tsource\n"
+                    "home\tAMC\tcar\t'75 A\t0.32\t\tmaker\n"
+                    "home\tGM\tempty group\t\t\t\t\n"
+                    "home\t\tempty group\t\t\t\t\n"
+                    "home\t\tempty group\t\t\t\t\n"
+                    "away\tAMC\tcar\t'75 B\t0.33\t19.5\tmaker\n"
+                    "away\tAMC\tcar\t'75 C\t\t\t\n"),
+            "");
+  ASSERT_TRUE(passed_);
+  std::ifstream file(folder_ / "t.cpp");
+  std::ostringstream text;
+  text << file.rdbuf();
+  EXPECT_THAT(text.str(), HasSubstr("    {\"AMC\", {kRows + 0, 1}, \"home\"},\n"
+                                    "    {\"GM\", {kRows + 1, 0}, \"home\"},\n"
+                                    "    {\"\", {kRows + 1, 0}, \"home\"},\n"
+                                    "    {\"\", {kRows + 1, 0}, \"home\"},\n"
+                                    "    {\"AMC\", {kRows + 1, 2}, \"away\"},\n"));
+  // No blank stands for a figure that is not there.
+  EXPECT_THAT(text.str(), HasSubstr("\"'75 A\", \"0.32\", \"maker\", {kCells + 0, 2}"));
+  EXPECT_THAT(text.str(), HasSubstr("\"'75 B\", \"0.33 19.5\", \"maker\", {kCells + 2, 2}"));
+  EXPECT_THAT(text.str(), HasSubstr("{TableRow::Kind::NameOnly, \"'75 C\""));
+}
+
+TEST_F(CompileTable, RefusesMalformedLists) {
+  const std::string heads = "list\tgroup\tkind\tname\tcd\tarea\tsource\n";
+  const std::string good =
+      "home\tAMC\tcar\t'75 A\t0.32\t19\tmaker\nhome\tGM\tempty group\t\t\t\t\n";
+  const std::vector<std::pair<std::string, std::string>> bad{
+      {"home\tBMW\tcar\tX\t\t19\tmaker\n", "cd \"\" is not a number"},
+      {"home\tBMW\tcar\tX\t3.2\t\tmaker\n", "cd \"3.2\" is out of range"},
+      {"home\tBMW\tcar\tX\t0.3\t0\tmaker\n", "area \"0\" is out of range"},
+      {"home\tBMW\tcar\tX\t0.3\t19\t\n", "the figures have no source"},
+      {"home\tBMW\tempty group\tX\t\t\t\n", "an empty group has no name of a row"},
+      {"home\tBMW\tempty group\t\t0.3\t\t\n", "an empty group has no name of a row"},
+      {"home\tGM\tcar\tX\t0.3\t\tmaker\n", "the group begins again: GM"},
+      {"home\tAMC\tcar\tX\t0.3\t\tmaker\n", "the group begins again: AMC"},
+      {"home\t\tcar\tX\t0.3\t\tmaker\n", "the group has no name"},
+      {"\tBMW\tcar\tX\t0.3\t\tmaker\n", "the list has no name"},
+      {"BMW\tcar\tX\t0.3\t\tmaker\n", "6 cells instead of 7"}};
+  for (const auto& [row, words] : bad) {
+    const std::string said = Compile(heads + good + row);
+    EXPECT_FALSE(passed_) << row;
+    EXPECT_THAT(said, HasSubstr("t.tsv:4: " + words)) << row;
+  }
+  EXPECT_THAT(Compile(heads + good + "away\tGM\tcar\tX\t0.3\t\tmaker\n" +
+                      "home\tBMW\tcar\tX\t0.3\t\tmaker\n"),
+              HasSubstr("t.tsv:5: the list begins again: home"));
+}
+
 TEST_F(CompileOtherTable, OfTextsThatMayBeLeftOut) {
   Check("hose\ttube\tthread",
         {"AN\tdash\t-2\t\t1/8\t5/16-24\tSAE", "AN\tdash\t-72\t\t4-1/2\t\tSAE"},

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -303,6 +304,20 @@ TEST_F(Form8Test, ACurveBringsItsStandardLineOnceAndItsBoxes) {
   form_.AddToGraph({&curve, 1});
   EXPECT_EQ(plot.lines().size(), 2U);
   EXPECT_EQ(plot.series().size(), 3U);
+}
+
+TEST_F(Form8Test, ACurveOfAColourOfItsOwnTakesNoPen) {
+  std::array<GraphCurve, 3> curves;
+  for (GraphCurve& curve : curves) curve.points = {{0, 0}, {1, 0.3}};
+  curves[1].note = "drag";
+  curves[1].color = CurveColorOf(25);
+  form_.DrawGraph({{0, 3, 0, 0.4}, false, "", "", "", "", false}, curves);
+  const auto& series = form_.plot().series();
+  ASSERT_EQ(series.size(), 3U);
+  EXPECT_EQ(series[0].name, "Green");
+  EXPECT_EQ(series[1].Legend(), "drag  Dark Blue");
+  EXPECT_EQ(series[1].color, CurveColorOf(25).color);
+  EXPECT_EQ(series[2].name, "Blue");
 }
 
 TEST_F(Form8Test, AxesGrowForACurveThatBringsItsRange) {

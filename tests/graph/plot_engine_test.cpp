@@ -581,13 +581,15 @@ TEST_F(PlotEngineTest, GraphsADynoRun) {
   EXPECT_THAT(plot_.Titles(), ElementsAre("HorsePower Torque", "Green is HP - Blue is Torque",
                                           "Red is Corrected HP - Yellow is Corrected Torque"));
   ASSERT_EQ(plot_.series().size(), 4U);
-  EXPECT_EQ(plot_.series()[2].name, "Red");
-  EXPECT_EQ(plot_.series()[2].note, "Corrected HP   520.0");
+  EXPECT_EQ(plot_.series()[0].name, "Blue");
+  EXPECT_EQ(plot_.series()[0].note, "Torque   500.0");
+  EXPECT_EQ(plot_.series()[3].name, "Red");
+  EXPECT_EQ(plot_.series()[3].note, "Corrected HP   520.0");
   plot_.Clear();
   plot_.SetScale({1000, 7000, 0, 700});
   plot_.DrawNitrousGraph(rows, 150);
   EXPECT_EQ(plot_.Caption(13), "150 HP Nitrous Shot");
-  EXPECT_EQ(plot_.series()[3].note, "Nitrous Torque   520.0");
+  EXPECT_EQ(plot_.series()[1].note, "Nitrous Torque   520.0");
   EXPECT_THROW(plot_.DrawDynoGraph({}), CommandError);
 }
 

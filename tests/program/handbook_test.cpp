@@ -84,7 +84,7 @@ TEST_F(HandbookTest, TellsFieldsCommandsAndFormulas) {
   EXPECT_THAT(notes.Of("Form1", "Command2"), IsEmpty());
   const std::string book = ComposeHandbook(program_.shell(), {{"Form1", "Of engines."}}, notes);
   EXPECT_THAT(book, HasSubstr("| Bore | in / mm | number | 4.000 |\n"));
-  EXPECT_THAT(book, HasSubstr("  - *Formula:* Swept volume of a \\*cylinder\\*.\n"));
+  EXPECT_THAT(book, HasSubstr("  - *In words:* Swept volume of a \\*cylinder\\*.\n"));
   EXPECT_THAT(book,
               HasSubstr("![Engine Displacement Calculator](handbook/Form1.png)\n\nOf engines.\n"));
   EXPECT_THAT(book, HasSubstr("- **Stroke**: Calculate Stroke needed from"));
@@ -97,7 +97,24 @@ TEST(FormulaNotesTest, AFunctionWithWordsOfItsOwnTakesNoneOfTheOneAboveIt) {
       "double Coils(double k);\n");
   notes.AddRoutines("\nvoid Form1::Solve() {\n  Show(Rate(1), Wire(2), Coils(3));\n}\n");
   notes.AddDeclarations("Command Command1{Frame1, \"Command1\", \"&X\", \"help\", &Form1::Solve};");
-  EXPECT_THAT(notes.Of("Form1", "Command1"), ElementsAre("The rate.", "The wire.", "The wire."));
+  EXPECT_THAT(notes.Of("Form1", "Command1"), ElementsAre("The rate.", "The wire."));
+}
+
+TEST(FormulaNotesTest, APanelsCommandHasTheFormulasOfItsFolder) {
+  FormulaNotes notes;
+  notes.AddHeader("/// Of runners.\ndouble Length(double d);\n", "airfuel");
+  notes.AddHeader("/// Of pipes.\ndouble Length(double d);\n", "twostroke");
+  notes.AddHeader("/// A report.\nstd::string Sheet(double d);\n", "airfuel");
+  notes.AddDeclarations("\nclass Form4 : public Screen {\n  MachPanel Mach{*this, Page};\n};",
+                        "airfuel");
+  notes.AddDeclarations(
+      "\nclass MachPanel : public ScreenPart {\n"
+      "  Command CommandF7{Frame7, \"CommandF7(1)\", \"&X\", \"help\", "
+      "Runs(&MachPanel::Solve)};\n};",
+      "airfuel");
+  notes.AddRoutines("\nvoid MachPanel::Solve() {\n  Show(Length(1), Sheet(2));\n}\n");
+  EXPECT_THAT(notes.Of("Form4", "CommandF7(1)"), ElementsAre("Of runners."));
+  EXPECT_THAT(notes.Of("Form5", "CommandF7(1)"), IsEmpty());
 }
 
 TEST_F(HandbookTest, AScreenThatKnowsNoInchesTellsMetricUnitsAlone) {

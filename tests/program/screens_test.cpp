@@ -75,6 +75,8 @@ TEST_F(Screens, DeclareTheValuesThatTheKeyTableSaysTheyOwn) {
     if (control->kind() != ControlKind::Field && control->kind() != ControlKind::ComboList) {
       continue;
     }
+    // Its text, which is no number, is the value itself.
+    if (row.form == KeyForm::FieldLiteral) continue;
     const void* place = Screen::SharedPlace(*control);
     ASSERT_NE(place, nullptr) << row.owner << " does not say that it holds " << row.key;
     EXPECT_EQ(FindKeyOfSlot(block, place), &row) << row.owner << " holds another value";

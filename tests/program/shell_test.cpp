@@ -125,12 +125,17 @@ TEST_F(ShellTest, OpeningCopiesTheSharedValuesAndSetsTheTag) {
   EXPECT_EQ(block().CurrentScreenTag, "CubicIn");
 }
 
-TEST_F(ShellTest, ItemsWhoseScreenIsNotThereAreDisabledAndDoNothing) {
-  program_.Start();
-  EXPECT_FALSE(shell().MenuEnabled(*Shell::FindMenuItem("CHASSIS")));
-  Choose("CHASSIS");
-  Choose("LrgScrRes");
-  EXPECT_TRUE(host_.messages.empty());
+TEST(ShellWithoutScreens, ItemsWhoseScreenIsNotThereAreDisabledAndDoNothing) {
+  const TemporaryFolder folder;
+  TestHost host;
+  host.folder = folder.path();
+  ProgramContext context(host);
+  Shell shell(context);
+  shell.Start();
+  EXPECT_FALSE(shell.MenuEnabled(*Shell::FindMenuItem("CHASSIS")));
+  shell.Choose(*Shell::FindMenuItem("CHASSIS"));
+  shell.Choose(*Shell::FindMenuItem("LrgScrRes"));
+  EXPECT_TRUE(host.messages.empty());
 }
 
 TEST_F(ShellTest, TheMenuTreeIsWhole) {

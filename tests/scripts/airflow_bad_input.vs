@@ -26,6 +26,11 @@ set Form4.Text20 210.0
 click Form4.Command99
 get Form4.Text10
 messages
+pause a count of cylinders that rounds to none is named
+set Form4.Text29 .45
+click Form4.Command6
+click Form4.Command15
+messages
 pause no cylinders: nothing is shown
 set Form4.Text29 0
 click Form4.Command6

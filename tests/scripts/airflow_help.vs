@@ -91,8 +91,8 @@ show Form4.Text78
 get Form4.Command55
 hover Form4.Command55
 show Form4.Text78
-get Form4.Command50(0)
-hover Form4.Command50(0)
+get Form4.Command50(3)
+hover Form4.Command50(3)
 show Form4.Text78
 get Form4.Command80
 hover Form4.Command80

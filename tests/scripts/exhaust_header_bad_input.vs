@@ -113,3 +113,17 @@ click Form4.Command60
 set Form4.Text48(0) .2
 click Form4.Command60
 messages
+pause a field of the page that a panel shows again is checked there, and can be filled again
+type Form4.Text27 {BS}{TAB}
+messages
+click Form4.Command57
+messages
+type Form4.Text27 7000{TAB}
+set Form4.Text27 
+click Form4.Command57
+messages
+set Form4.Text27 7100
+get Form4.Text27
+click Form4.Command57
+messages
+value RPM

@@ -50,7 +50,7 @@ value AirFuel Option2
 value Test Depression
 value Intake Valve Size
 pause more valves: some of the exhaust's figures count the intake's
-click Form4.Command50(1)
+click Form4.Command50(0)
 state Form4.Frame8
 set Form4.Text62 2
 set Form4.Text63 3
@@ -113,4 +113,20 @@ get Form4.Text50(0)
 click Form4.Command51
 show Form4.Text78
 press Form4.Text78 x
+messages
+pause a column from a bench sheet fills downward; a graph of both ports draws the one that has rows
+set Form4.Text48(0) .1\n.2\n.3
+set Form4.Text49(0) 66\n120\n170
+get Form4.Text48(2)
+get Form4.Text49(2)
+click Form4.Command63
+plot
+pause a further curve goes onto a graph of flow, and begins one of its own on any other
+click Form4.Command91(9)
+click Form4.Command39
+click Form4.CommandF7(7)
+click Form4.Command91(6)
+click Form4.Command35
+click Form4.Command64
+plot
 messages

@@ -46,13 +46,13 @@ click Form4.Command51
 set Form4.Text123 .08
 messages
 pause a throat that is given in another measure
-click Form4.Command50(1)
+click Form4.Command50(0)
 choose Form4.Option1(2)
 click Form4.Command91(4)
 click Form4.Command33
 show Form4.FlowNotes
 get Form4.IntakeThroatArea
-click Form4.Command50(1)
+click Form4.Command50(0)
 choose Form4.Option1(0)
 click Form4.Command91(4)
 set Form4.Text44 1.84

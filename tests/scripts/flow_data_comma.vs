@@ -16,7 +16,7 @@ get Form4.Text51(0)
 click Form4.Command51
 show Form4.Text78
 press Form4.Text78 x
-click Form4.Command50(1)
+click Form4.Command50(0)
 select Form4.Combo1 .3110
 get Form4.Text43
 get Form4.Combo1

@@ -5,7 +5,7 @@ pause written before any command has read them
 set Form4.Text49(0) 88.5
 set Form4.Text48(31) 1.25
 choose Form4.Option2(3)
-click Form4.Command50(1)
+click Form4.Command50(0)
 set Form4.Text44 .9
 set Form4.Text123 .09
 set Form4.Text63 2
@@ -29,7 +29,7 @@ set Form4.Text114 1
 set Form4.Text54 1
 click Form4.Command35
 choose Form4.Option2(0)
-click Form4.Command50(1)
+click Form4.Command50(0)
 choose Form4.Option1(0)
 answer No
 file flow_kept.prm

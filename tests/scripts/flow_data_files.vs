@@ -120,7 +120,7 @@ messages
 pause many points are told; Frame8 is read first
 click Form4.Command66
 click Form4.Command91(9)
-click Form4.Command50(0)
+click Form4.Command50(3)
 set Form4.Text42 wide
 click Form4.Command91(4)
 click Form4.Command35

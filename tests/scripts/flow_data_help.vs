@@ -13,7 +13,7 @@ hover Form4.Command51
 get Form4.Text78
 hover Form4.Command95
 get Form4.Text78
-hover Form4.Command50(1)
+hover Form4.Command50(0)
 get Form4.Text78
 hover Form4.Option2(4)
 get Form4.Text78
@@ -21,7 +21,7 @@ get Form4.Command66
 get Form4.Read(0)
 get Form4.Command33
 get Form4.Command64
-click Form4.Command50(1)
+click Form4.Command50(0)
 state Form4.Frame11
 state Form4.Frame8
 get Form4.McsaFrame

@@ -39,7 +39,7 @@ set Form4.Text62 3
 set Form4.Text63 2
 set Form4.Text42 1.1
 set Form4.Text45 1.15
-click Form4.Command50(1)
+click Form4.Command50(0)
 choose Form4.Option1(1)
 click Form4.Command91(4)
 set Form4.Text44 .78

@@ -1,6 +1,6 @@
 # Valves and throats: stems from the list, three measures of a throat.
 menu AIRFUEL
-click Form4.Command50(0)
+click Form4.Command50(3)
 state Form4.Frame8
 rows Form4.Combo1
 get Form4.Combo1

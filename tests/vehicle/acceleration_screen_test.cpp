@@ -1,0 +1,230 @@
+#include "vehicle/acceleration_screen.h"
+
+#include <gtest/gtest.h>
+
+#include "core/parameter_file.h"
+#include "program/program.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+class AccelerationScreenTest : public testing::Test {
+ protected:
+  void SetUp() override { program_.Start(); }
+
+  void Open() { program_.shell().Choose(*Shell::FindMenuItem("ACCELERATION")); }
+  Form13& screen() { return static_cast<Form13&>(*program_.shell().FindScreen("Form13")); }
+  ParameterBlock& block() { return program_.context().block; }
+  void ReadFile(const std::string& name) {
+    program_.shell().parameterFile().ReadParameterFile(std::string(VELDOX_SOURCE_DIR) + '/' + name);
+  }
+
+  TestHost host_;
+  Program program_{host_};
+};
+
+TEST_F(AccelerationScreenTest, OpensWithTheStartsValuesAndTheFieldsOwn) {
+  Open();
+  AccelerationPage& page = screen().Page;
+  EXPECT_EQ(page.Text21.text(), "24.0");
+  EXPECT_EQ(page.Text49.text(), "12.0");
+  EXPECT_EQ(page.Text41.text(), "3.25");
+  EXPECT_EQ(page.Text45.text(), "444.0");
+  // Nobody has set these: 0 in the shared values leaves the field's text.
+  EXPECT_EQ(page.Text67.text(), "1.00");
+  EXPECT_EQ(page.Text69.text(), "5200");
+  EXPECT_EQ(page.Text28.text(), "6.5");
+  EXPECT_EQ(page.Text42.text(), "5.0");
+  EXPECT_EQ(screen().Shifts.Text22[0].text(), "10000");
+  EXPECT_EQ(screen().Shifts.Text2[4].text(), "0.87");
+  EXPECT_EQ(screen().Shifts.Text2[5].text(), "0.0");
+}
+
+TEST_F(AccelerationScreenTest, ShiftsAreKeptByTheGearThatIsLeft) {
+  Open();
+  screen().Shifts.Text22[0].SetText("7100");
+  screen().Shifts.Text52[16].SetText("0.4");
+  screen().Shifts.ReadGearTables();
+  EXPECT_EQ(block().ShiftRPM[1], 7100);
+  EXPECT_EQ(block().ShiftTime[17], 0.4);
+  const AccelerationInputs inputs = screen().Inputs.ReadRun();
+  EXPECT_EQ(inputs.shiftRpm[0], 7100);
+  EXPECT_EQ(inputs.shiftTime[16], 0.4);
+}
+
+TEST_F(AccelerationScreenTest, GearsAndShiftsBehindTheLastGearAreDimmed) {
+  Open();
+  EXPECT_FALSE(screen().Shifts.Gears.IsDimmed(4));
+  EXPECT_TRUE(screen().Shifts.Gears.IsDimmed(5));
+  // The last gear's shift RPM ends the run.
+  EXPECT_FALSE(screen().Shifts.Shifts.IsDimmed(4));
+  EXPECT_TRUE(screen().Shifts.Shifts.IsDimmed(5));
+}
+
+TEST_F(AccelerationScreenTest, TimedStagesFollowTheGearStages) {
+  Open();
+  screen().Stages.TimedText90[0].SetText("60");
+  screen().Stages.TimedText94[6].SetText("9.5");
+  EXPECT_EQ(screen().Find("Text90(7)"), &screen().Stages.TimedText90[0]);
+  EXPECT_EQ(screen().Find("Text94(13)"), &screen().Stages.TimedText94[6]);
+  EXPECT_TRUE(screen().Stages.Command9.Reachable() == false);
+  screen().Stages.ReadStages();
+  EXPECT_EQ(block().NitrousMS[7][0], 60);
+  EXPECT_EQ(block().NitrousMS[13][4], 9.5);
+  EXPECT_EQ(block().NitrousMS[0], (NitrousStage{1, 110, 1, 100, 1}));
+  EXPECT_EQ(block().NitrousMS[1][0], 9);
+}
+
+TEST_F(AccelerationScreenTest, WhatNobodyHasSetIsWrittenFromItsField) {
+  ParameterFile& file = program_.shell().parameterFile();
+  const std::string text = file.Compose().bytes;
+  for (const char* line :
+       {"\r\nTire Rolling Resistance = 0.015\r\n", "\r\nTrack BP = 29.92126\r\n",
+        "\r\nShift Torque = 2350\r\n", "\r\nThrottle Stop RPM = 4000\r\n",
+        "\r\nLaunch RPM = 5200\r\n", "\r\nShift RPM 1-2 = 10000\r\n",
+        "\r\nShift Time 17-18 = 0.05\r\n", "\r\nPower Loss 17 = 6.0\r\n",
+        "\r\nNitrous MS = 1 110.0 1.0 100.0 1.0\r\n", "\r\nCoefficient of Mu = 5.0\r\n"}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line;
+  }
+}
+
+TEST_F(AccelerationScreenTest, AChangedTorqueCurveAsksToBeSaved) {
+  Open();
+  block().DataChanged = 0;
+  screen().Page.Text72.SetText("500");
+  EXPECT_TRUE(screen().Page.Command8.Click());
+  EXPECT_EQ(block().DataChanged, 1);
+  // Torque first, by the old RPM: power at 5000 RPM is power at 5500 RPM times 1.1 squared.
+  EXPECT_EQ(block().AccelRpm[0], 5500);
+  EXPECT_NEAR(block().AccelTorque[0], 700 * 5500.0 / 5000, 1e-9);
+  block().DataChanged = 0;
+  screen().Page.Text67.SetText("1.25");
+  EXPECT_TRUE(screen().Page.Command14.Click());
+  EXPECT_EQ(block().DataChanged, 1);
+  EXPECT_NEAR(block().AccelTorque[0], 700 * 5500.0 / 5000 / 1.25, 1e-9);
+}
+
+TEST_F(AccelerationScreenTest, FuelIsScaledWithTheCurveAndTheRestStays) {
+  Open();
+  ReadFile("samples/road_race_four.prm");
+  screen().Page.Text72.SetText("-1000");
+  EXPECT_TRUE(screen().Page.Command8.Click());
+  EXPECT_EQ(block().AccelRpm[0], 2000);
+  EXPECT_NEAR(block().AccelTorque[0], 121.5 * 2 / 3, 1e-9);
+  EXPECT_NEAR(block().AccelFuel[0], 33.8 * 2 / 3, 1e-9);
+  EXPECT_EQ(block().AccelBsfc[0], 0.487);
+  EXPECT_EQ(block().AccelAirFuel[0], 13.1);
+}
+
+TEST_F(AccelerationScreenTest, APointAt0RpmStaysWhereItIs) {
+  Open();
+  block().AccelRpm[0] = 0;
+  screen().Page.Text72.SetText("-1000");
+  EXPECT_TRUE(screen().Page.Command8.Click());
+  EXPECT_EQ(block().AccelRpm[0], 0);
+  EXPECT_EQ(block().AccelTorque[0], 700);
+  EXPECT_EQ(block().AccelRpm[1], 4500);
+}
+
+TEST_F(AccelerationScreenTest, TheTorquePanelFollowsTheTableUnlessItWasEdited) {
+  Open();
+  TorqueTablePanel& panel = screen().Torques;
+  panel.Open();
+  panel.TorqueText.Edit("3000 300\r\n4000 310");
+  block().AccelTorque[0] = 701;
+  panel.Open();
+  EXPECT_EQ(panel.TorqueText.text(), "3000 300\r\n4000 310") << "what was typed is not lost";
+  EXPECT_TRUE(panel.ShowTorque.Click());
+  EXPECT_NE(panel.TorqueText.text().find("701"), std::string::npos);
+  block().AccelTorque[0] = 702;
+  panel.Open();
+  EXPECT_NE(panel.TorqueText.text().find("702"), std::string::npos);
+}
+
+TEST_F(AccelerationScreenTest, TheTorquePanelShowsTheTableOfAFileThatIsRead) {
+  Open();
+  TorqueTablePanel& panel = screen().Torques;
+  panel.Open();
+  host_.Answer(Button::OK);  // of the records read
+  program_.shell().OpenFile(std::string(VELDOX_SOURCE_DIR) + "/tests/scripts/cars/truck.prm");
+  EXPECT_EQ(panel.TorquePeaks.caption(),
+            "In use: 13 points from 1000 to 3400 RPM; most torque 865.0 lb-ft at 1800 RPM, most "
+            "power 417.6 HP at 3000 RPM.");
+}
+
+TEST_F(AccelerationScreenTest, ATableThatWasOnlyLookedAtKeepsAllItsDigits) {
+  Open();
+  block().AccelTorque[0] = 700.123456789;
+  screen().Torques.Open();
+  EXPECT_TRUE(screen().Torques.TakeTorque.Click());
+  EXPECT_EQ(block().AccelTorque[0], 700.123456789);
+}
+
+TEST_F(AccelerationScreenTest, AGearboxReachesTheClosedScreen) {
+  Gearbox gearbox;
+  gearbox.ratios = {2.8, 1.9};
+  gearbox.isAutomatic = true;
+  block().TGear.fill(0);
+  block().TGear[0] = 2.8;
+  block().TGear[1] = 1.9;
+  screen().TakeGearbox(gearbox);
+  EXPECT_EQ(screen().Shifts.Text2[0].text(), "2.8");
+  EXPECT_EQ(screen().Shifts.Text2[2].text(), "0.0");
+  EXPECT_TRUE(screen().Page.Check1.on());
+  EXPECT_FALSE(screen().Page.Check2.on());
+  Open();
+  EXPECT_EQ(screen().Shifts.Text2[1].text(), "1.9");
+}
+
+/// A car's run as forces integrated in steps of 0.2 milliseconds give it, apart from the program.
+struct IntegratedRun {
+  const char* file;
+  double et60;
+  double et8;
+  double et;
+};
+
+class CarRunTest : public AccelerationScreenTest,
+                   public testing::WithParamInterface<IntegratedRun> {};
+
+TEST_P(CarRunTest, AgreesWithItsForcesIntegratedInTime) {
+  Open();
+  ReadFile(GetParam().file);
+  ASSERT_TRUE(screen().Command25.Click());
+  EXPECT_NEAR(block().ET60 / GetParam().et60, 1, 2e-4);
+  EXPECT_NEAR(block().ET8 / GetParam().et8, 1, 2e-4);
+  EXPECT_NEAR(block().ET / GetParam().et, 1, 2e-4);
+  EXPECT_EQ(block().VerticalCG, 21);
+  EXPECT_EQ(block().WheelBase, 108);
+  EXPECT_TRUE(screen().Text58.showsReport());
+  EXPECT_EQ(screen().Text58.fontSize(), 9);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cars, CarRunTest,
+    testing::Values(IntegratedRun{"tests/scripts/cars/stock_car.prm", 1.99603, 8.21223, 12.82224},
+                    IntegratedRun{"tests/scripts/cars/truck.prm", 1.86910, 9.10083, 14.43345},
+                    IntegratedRun{"tests/scripts/cars/salt_flats.prm", 1.90617, 7.02307, 10.44012},
+                    IntegratedRun{"samples/small_block_drag.prm", 1.35322, 5.88687, 9.19842},
+                    IntegratedRun{"samples/motorcycle.prm", 1.65694, 6.21197, 9.44622},
+                    IntegratedRun{"samples/road_race_four.prm", 1.74193, 7.25088, 11.34065}),
+    [](const auto& tested) {
+      const std::string file = tested.param.file;
+      const auto from = file.rfind('/') + 1;
+      return file.substr(from, file.rfind('.') - from);
+    });
+
+TEST_F(AccelerationScreenTest, AKartWithACvtAgreesWithConstantPowerIntegratedInTime) {
+  Open();
+  ReadFile("tests/scripts/cars/kart.prm");
+  ASSERT_TRUE(screen().Command25.Click());
+  EXPECT_NEAR(block().ET60 / 3.00708, 1, 2e-4);
+  ASSERT_TRUE(screen().Command13.Click());
+  EXPECT_NEAR(block().ET60 / 1.544248, 1, 2e-4);
+  EXPECT_NEAR(block().ET8 / 7.886699, 1, 2e-4);
+  EXPECT_NEAR(block().ET / 13.165109, 1, 2e-4);
+}
+
+}  // namespace
+}  // namespace veldox

@@ -1,0 +1,1046 @@
+#include "vehicle/acceleration.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include "core/numbers.h"
+#include "core/step_bound.h"
+
+namespace veldox {
+
+namespace {
+
+constexpr double kStandardGravity = 32.17405;  // feet a second squared
+constexpr double kFeetASecondPerMph = 1.4666666666666666;
+constexpr double kPowerOfTorque = 5252;  // foot pounds x RPM of a horsepower
+constexpr double kInchesInFoot = 12;
+constexpr double kInchTurnsPerMph = 168.06762;  // speed of a radius in inches at an RPM
+constexpr double kAeroPower = 146625;           // square feet x MPH cubed of a horsepower
+constexpr double kPoundMphOfHp = 375;
+constexpr double kHoodPressure = 9266.1264;     // from pounds a cubic foot and feet a second
+constexpr double kAtmosphere = 14.69595;        // psi
+constexpr double kStandardPressure = 29.92126;  // inches of mercury
+constexpr double kStandardDensity = 0.076501;   // pounds a cubic foot
+constexpr double kLargestDensity = 0.1;         // above it a number is a pressure
+constexpr double kRadiansPerDegree = 0.017453292519943278;
+constexpr double kLastDirection = 359;
+
+constexpr double kFirstWheelRpm = 100;
+constexpr double kLaunchStep = 0.25;  // RPM
+constexpr int kSubSteps = 400;
+/// Equal RPM are told by this part of a step: sums of steps are not exact.
+constexpr double kStepTolerance = 1e-3;
+
+constexpr double kFeetInMile = 5280;
+constexpr double kQuarterMile = 1320;
+constexpr double kOutOfGearFeet = 1325;
+constexpr double kExtensionFeet = 1260;
+constexpr double kFineChartSeconds = 45;
+constexpr double kFineChartFeet = 6600;
+
+// The car that rolls out
+constexpr double kRollOutStep = 0.025;  // MPH
+constexpr double kRollOutDensity = 0.076474;
+constexpr double kLeastRearEndLoss = 5;
+
+/// Steps of speed of a CVT's run, feet a second.
+constexpr double kCvtStep = 0.01;
+constexpr int kMostCvtSteps = 20'000'000;
+constexpr int kMostRollOutSteps = 2'000'000;
+
+/// Points of a curve between its rows.
+constexpr int kLaunchSampleSteps = 100;
+constexpr int kCvtSampleSteps = 50;
+/// A gear's curve has about this many points, and some in each interval of a short table.
+constexpr int kGearSamples = 600;
+constexpr int kMostIntervalSamples = 40;
+
+// Bounds that keep a run within steps and speeds that there are
+constexpr double kMostRpm = 1e6;
+constexpr double kLeastRpmGap = 0.01;
+constexpr double kMostMph = 10000;
+constexpr double kMostValue = 1e9;
+
+constexpr double kNever = std::numeric_limits<double>::max();
+
+double DensityFactorOf(double trackPressure) {
+  return trackPressure / (trackPressure > kLargestDensity ? kStandardPressure : kStandardDensity);
+}
+
+double AirDensityOf(double trackPressure) {
+  return trackPressure > kLargestDensity ? trackPressure / kStandardPressure * kStandardDensity
+                                         : trackPressure;
+}
+
+double Kept(double percentLost) {
+  return 1 - percentLost / 100;
+}
+
+/// A nitrous stage, ready for a step.
+struct StageRamp {
+  double horsepower = 0;
+  double start = 0;
+  double startPercent = 100;
+  double full = 0;
+  double stop = kNever;
+  double slope = 1;  ///< of RPM or seconds a percent
+
+  /// @param at  RPM or seconds
+  double At(double at) const {
+    if (at < start || (at >= stop && stop < kNever)) return 0;
+    if (at >= full || startPercent >= 100) return horsepower;
+    return horsepower * ((at - start) / slope + startPercent) / 100;
+  }
+};
+
+StageRamp RampOf(double horsepower, double start, double startPercent, double full, double stop) {
+  StageRamp ramp{horsepower, start, startPercent, full, stop};
+  if (startPercent < 100 && full > start) ramp.slope = (full - start) / (100 - startPercent);
+  return ramp;
+}
+
+/// The stages that act in one gear.
+class ActiveStages {
+ public:
+  ActiveStages() = default;
+  ActiveStages(const AccelerationInputs& inputs, double gear) {
+    if (!inputs.nitrous) return;
+    for (std::size_t i = 0; i < kNitrousStages; ++i) {
+      const auto& stage = inputs.nitrousStages[i];
+      if (i >= kGearStages) {
+        if (stage[0] != 0) Add(RampOf(stage[0], stage[1], stage[2], stage[3], stage[4]), true);
+      } else if (stage[0] == gear && stage[0] != kUnusedStageGear) {
+        Add(RampOf(stage[1], stage[2], stage[3], stage[4], kNever), false);
+      }
+    }
+  }
+
+  /// Horsepower of all of them.
+  double At(double rpm, double elapsed) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) sum += ramps_[i].At(i < byRpm_ ? rpm : elapsed);
+    return sum;
+  }
+  /// Horsepower with the timed stages in full.
+  double AtFullTime(double rpm) const {
+    double sum = 0;
+    for (std::size_t i = 0; i < count_; ++i) {
+      sum += i < byRpm_ ? ramps_[i].At(rpm) : ramps_[i].horsepower;
+    }
+    return sum;
+  }
+  double Shot() const { return AtFullTime(kNever); }
+
+ private:
+  void Add(const StageRamp& ramp, bool byTime) {
+    ramps_[count_++] = ramp;
+    if (!byTime) byRpm_ = count_;
+  }
+
+  std::array<StageRamp, kNitrousStages> ramps_;
+  std::size_t count_ = 0;
+  std::size_t byRpm_ = 0;  ///< of them, which come first
+};
+
+/// The car in a step.
+struct Moment {
+  double rpm = 0;
+  double torque = 0;
+  double mph = 0;
+  double speedFps = 0;
+  double lastSpeedFps = 0;
+  double meanSpeedFps = 0;
+  double power = 0;
+  double aeroHp = 0;
+  double rollHp = 0;
+  double netHp = 0;
+  double nitrousHp = 0;
+  double hoodPressure = 0;
+  double acceleration = 0;
+  double lastTimeStep = 0;  ///< of the last step that took time
+  double lastRpmStep = 0;   ///< its rise in RPM
+  double elapsed = 0;
+  double distance = 0;
+  double limitedFeet = 0;  ///< where the tires limited the thrust last
+  std::size_t steps = 0;
+};
+
+/// The run itself. Whatever happens in a step is in plain numbers of this object.
+class Run {
+ public:
+  Run(const AccelerationInputs& inputs, RunSink& sink);
+
+  RunResult Launched();
+  RunResult EachGear();
+  RunResult Cvt();
+
+ private:
+  void ReadGearTables(std::size_t gear);
+  void ReadNitrous(double gear);
+  void FindLaunch();
+  void LaunchPhase();
+  bool ShiftGear(std::size_t to);
+  void RunGear(bool shifts);
+  void Step(double rpm, double torque);
+  void Resist(double mph);
+  void Power(double power);
+  double AddNitrous();
+  void Move(double dV, double thrust);
+  bool Happens();
+  void Happen();
+  void TakeTopSpeed(double feetASecond);
+  void EndRollout(bool late);
+  void TakeMarks();
+  void WriteDueRows();
+  void WriteChartRow();
+  void ForceRow();
+  void ThrottleStop();
+  RunRow Row() const;
+  void Sample();
+  void BeginClock();
+  void Restart();
+
+  RunResult Finish(RunEnd end);
+  void HoldSpeed(double feetASecond);
+  bool RollOut();
+
+  void WalkTo(double rpm, double step, double torqueStep);
+  double TableRpm(std::size_t i) const { return in_.tableRpm[i]; }
+  double TableTorque(std::size_t i) const { return in_.tableTorque[i]; }
+  std::size_t LastPoint() const { return in_.tableRpm.size() - 1; }
+
+  const AccelerationInputs& in_;
+  RunSink& sink_;
+  const bool sampled_;
+
+  // The car
+  double tireDiameter_;
+  double windDirection_;
+  double mass_;
+  double perMass_;
+  double tractionLimit_;
+  double headWind_;
+  double densityFactor_;
+  double aeroFactor_;  ///< horsepower of MPH cubed
+  double rollFactor_;  ///< horsepower of MPH
+  double hoodFactor_;  ///< psi of feet a second squared
+
+  // The present gear
+  std::size_t gear_ = 0;
+  double gearRatio_ = 1;
+  double growth_ = 0;
+  double overallRatio_ = 1;
+  double rollRadiusFt_ = 1;
+  double speedFactor_ = 1;
+  double efficiency_ = 1;
+  double efficiencyRaw_ = 1;
+  double powerFactor_ = 0;   ///< horsepower at the wheels of RPM x torque
+  double thrustFactor_ = 0;  ///< pounds of horsepower / RPM
+  double shiftRpm_ = kNoShiftRpm;
+  double stallRpm_ = 0;  ///< 0 without a converter
+
+  // The place in the table
+  std::size_t index_ = 0;
+  double currentRpm_ = 0;
+  double torqueNow_ = 0;
+  double rpmStep_ = 0;
+
+  // Nitrous of the present gear
+  ActiveStages stages_;
+  double nitrousFactor_ = 1;
+
+  Moment now_;
+
+  // Marks and rows
+  bool launching_ = false;
+  bool varies_ = false;  ///< the engine keeps its speed
+  bool clockRuns_ = false;
+  bool stopDone_ = false;
+  bool rowAfterShift_ = false;
+  std::size_t mark_ = 0;  ///< the next one: those of the strip, then the further ones
+  double nextMark_ = 0;   ///< feet; before the clock runs the end of the rollout
+  double nextChartSpeed_ = 5;
+  double nextChartMile_ = kFeetInMile;
+  double lastRowAt_ = 0;
+  double lastRowElapsed_ = -1;
+  int sampleSteps_ = 0;
+  int untilSample_ = 0;
+
+  // What is told of the run
+  RunResult result_;
+  bool gains_ = false;  ///< the last step gained speed
+};
+
+Run::Run(const AccelerationInputs& inputs, RunSink& sink)
+    : in_(inputs),
+      sink_(sink),
+      sampled_(sink.TakesSamples()),
+      tireDiameter_(inputs.tireDiameter),
+      windDirection_(std::min(inputs.windDirection, kLastDirection)),
+      mass_(inputs.carWeight / kStandardGravity),
+      perMass_(kStandardGravity / inputs.carWeight),
+      tractionLimit_(TractionLimit(inputs.carWeight, inputs.frictionMu)),
+      headWind_(inputs.windSpeed * std::cos(windDirection_ * kRadiansPerDegree)),
+      densityFactor_(DensityFactorOf(inputs.trackPressure)),
+      aeroFactor_(inputs.frontalArea * inputs.dragCoefficient / kAeroPower * densityFactor_),
+      rollFactor_(inputs.carWeight * inputs.rollingResistance / kPoundMphOfHp),
+      hoodFactor_(AirDensityOf(inputs.trackPressure) / kHoodPressure) {
+  if (windDirection_ < inputs.windDirection) sink.WindDirectionLowered(windDirection_);
+  if (tireDiameter_ / 2 < inputs.tireRollingRadius) {
+    sink.Message(
+        "Tire Rolling Radius is Greater Than Half of the Tire Diameter! Tire Diameter set to "
+        "Radius * 2");
+    tireDiameter_ = 2 * inputs.tireRollingRadius;
+    sink.TireDiameterRaised(tireDiameter_);
+  }
+}
+
+void Run::ReadNitrous(double gear) {
+  stages_ = ActiveStages(in_, gear);
+}
+
+void Run::ReadGearTables(std::size_t gear) {
+  gear_ = gear;
+  gearRatio_ = in_.transRatio[gear];
+  growth_ = in_.tireGrowth[gear];
+  const double grown = 1 + growth_ / 100;
+  overallRatio_ = in_.rearGearRatio * gearRatio_ * (in_.usesPrimaryDrive ? in_.primaryDrive : 1);
+  rollRadiusFt_ = grown * in_.tireRollingRadius / kInchesInFoot;
+  const double driveRadius = grown * tireDiameter_ / 2;
+  speedFactor_ = driveRadius / (overallRatio_ * kInchTurnsPerMph);
+  if (in_.automatic) speedFactor_ *= Kept(in_.converterSlippage);
+  efficiencyRaw_ = Kept(in_.gearLoss[gear]) * Kept(in_.rearEndLoss);
+  efficiency_ = efficiencyRaw_ / in_.dynoCorrection;
+  powerFactor_ = efficiency_ / kPowerOfTorque;
+  thrustFactor_ = kPowerOfTorque * overallRatio_ / rollRadiusFt_;
+  shiftRpm_ = gear < kShifts ? in_.shiftRpm[gear] : kNoShiftRpm;
+  stallRpm_ = in_.automatic ? in_.converterStallSpeed : 0;
+  nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
+  ReadNitrous(static_cast<double>(gear + 1));
+}
+
+inline double Run::AddNitrous() {
+  Moment& m = now_;
+  m.nitrousHp = stages_.At(m.rpm, m.elapsed);
+  return m.nitrousHp * nitrousFactor_;
+}
+
+void Run::BeginClock() {
+  clockRuns_ = true;
+  now_.elapsed = 0;
+  mark_ = 0;
+  nextMark_ = kStripMarks[0];
+}
+
+void Run::EndRollout(bool late) {
+  sink_.RolloutEnds(now_.elapsed);
+  if (late) sink_.Message("Abnormal ET Reset -- Final ET MAY NOT be Correct");
+  BeginClock();
+}
+
+void Run::TakeMarks() {
+  while (now_.distance >= nextMark_) {
+    const RunMark taken{now_.elapsed - (now_.distance - nextMark_) / now_.speedFps, now_.mph};
+    if (mark_ < kStripMarks.size()) {
+      result_.strip[mark_] = taken;
+      WriteChartRow();
+    } else {
+      result_.further[mark_ - kStripMarks.size()] = taken;
+    }
+    ++mark_;
+    const std::size_t further = mark_ - kStripMarks.size();
+    nextMark_ = mark_ < kStripMarks.size() ? kStripMarks[mark_]
+                : further < kFurtherMarks  ? FurtherMarkFeet(further)
+                                           : kNever;
+  }
+}
+
+inline void Run::Move(double dV, double thrust) {
+  Moment& m = now_;
+  const bool limited = thrust > tractionLimit_;
+  if (limited) thrust = tractionLimit_;
+  m.acceleration = thrust * perMass_;
+  // A car that gains no speed stands still in time and distance: what is left of the table goes by
+  // without it.
+  if (!(m.acceleration > 0)) return;
+  const double dT = dV / m.acceleration;
+  if (dT > 0) {
+    m.elapsed += dT;
+    m.distance += dT * m.meanSpeedFps;
+    m.lastTimeStep = dT;
+    m.lastRpmStep = rpmStep_;
+  }
+  if (limited) m.limitedFeet = m.distance;
+}
+
+inline bool Run::Happens() {
+  const Moment& m = now_;
+  return --untilSample_ <= 0 || m.distance >= nextMark_ || m.mph >= nextChartSpeed_ ||
+         m.distance >= nextChartMile_ || rowAfterShift_ || (m.acceleration > 0) != gains_;
+}
+
+void Run::Happen() {
+  if ((now_.acceleration > 0) != gains_) {
+    if (gains_) {
+      TakeTopSpeed(2 * now_.meanSpeedFps - now_.speedFps);
+    } else {
+      gains_ = true;
+    }
+  }
+  if (now_.distance >= nextMark_) {
+    if (!clockRuns_) EndRollout(!launching_ && !varies_);
+    TakeMarks();
+  }
+  if (rowAfterShift_) {
+    WriteChartRow();
+    rowAfterShift_ = false;
+  }
+  WriteDueRows();
+  if (untilSample_ <= 0) Sample();
+}
+
+void Run::TakeTopSpeed(double feetASecond) {
+  gains_ = false;
+  result_.topSpeed = feetASecond / kFeetASecondPerMph;
+  result_.topSpeedRpm = varies_ ? now_.rpm : result_.topSpeed / speedFactor_;
+  result_.topSpeedGear = static_cast<int>(gear_) + 1;
+  result_.topSpeedTime = now_.elapsed;
+  result_.topSpeedFeet = now_.distance;
+}
+
+inline void Run::Resist(double mph) {
+  Moment& m = now_;
+  const double air = mph + headWind_;
+  m.aeroHp = air * air * mph * aeroFactor_;
+  m.rollHp = rollFactor_ * mph;
+}
+
+inline void Run::Power(double power) {
+  Moment& m = now_;
+  m.power = power;
+  if (in_.hoodScoop) {
+    m.hoodPressure = m.meanSpeedFps * m.meanSpeedFps * hoodFactor_;
+    m.power *= (m.hoodPressure + kAtmosphere) / kAtmosphere;
+  }
+  m.netHp = m.power - m.aeroHp - m.rollHp;
+  if (in_.nitrous) m.netHp += AddNitrous();
+}
+
+inline void Run::Step(double rpm, double torque) {
+  Moment& m = now_;
+  ++m.steps;
+  m.rpm = rpm;
+  m.torque = torque;
+  m.mph = rpm * speedFactor_;
+  m.speedFps = m.mph * kFeetASecondPerMph;
+  const double dV = m.speedFps - m.lastSpeedFps;
+  m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
+  m.lastSpeedFps = m.speedFps;
+  Resist(m.mph);
+  Power(rpm * torque * powerFactor_);
+  // The thrust of the net torque; a converter below its stall speed multiplies both alike.
+  double thrust = rpm > 0 ? m.netHp / rpm * thrustFactor_ : 0;
+  if (rpm <= stallRpm_) thrust += (1 - rpm / stallRpm_) * thrust * (in_.torqueMultiplier - 1);
+  Move(dV, thrust);
+}
+
+RunRow Run::Row() const {
+  RunRow row;
+  row.gear = static_cast<int>(gear_) + 1;
+  row.rpm = now_.rpm;
+  row.mph = now_.mph;
+  row.feetASecond = now_.speedFps;
+  row.torque = now_.torque;
+  row.aeroHp = now_.aeroHp;
+  row.rollHp = now_.rollHp;
+  row.elapsed = now_.elapsed;
+  row.distance = now_.distance;
+  row.acceleration = now_.acceleration;
+  row.nitrousHp = now_.nitrousHp;
+  row.hoodPressure = now_.hoodPressure;
+  row.engineHp = now_.power;
+  if (now_.lastTimeStep > 0) row.rpsRate = now_.lastRpmStep / now_.lastTimeStep;
+  if (varies_) {
+    if (now_.mph > 0)
+      row.wheelThrust = (now_.netHp + now_.aeroHp + now_.rollHp) * kPoundMphOfHp / now_.mph;
+    return row;
+  }
+  row.wheelForce = overallRatio_ * now_.torque * efficiency_ / rollRadiusFt_;
+  if (now_.rpm > 0) {
+    row.wheelTorque =
+        (now_.netHp + now_.aeroHp + now_.rollHp) * kPowerOfTorque / now_.rpm * overallRatio_;
+    row.wheelThrust = row.wheelTorque / rollRadiusFt_;
+  }
+  return row;
+}
+
+void Run::WriteChartRow() {
+  const double at = varies_ ? now_.mph : now_.rpm;
+  if (at == lastRowAt_) return;
+  // Of a car past its top speed one row tells all.
+  if (!(now_.acceleration > 0) && now_.elapsed == lastRowElapsed_) return;
+  lastRowAt_ = at;
+  lastRowElapsed_ = now_.acceleration > 0 ? -1 : now_.elapsed;
+  sink_.Row(Row());
+}
+
+void Run::ForceRow() {
+  now_.acceleration = 0;
+  lastRowElapsed_ = -1;
+  WriteChartRow();
+}
+
+void Run::ThrottleStop() {
+  stopDone_ = true;
+  sink_.ThrottleStopStarts();
+  const double before = now_.acceleration;
+  lastRowAt_ = now_.rpm - 1;
+  ForceRow();
+  now_.elapsed += in_.throttleStopTime;
+  now_.distance += now_.speedFps * in_.throttleStopTime;
+  lastRowAt_ = now_.rpm - 2;
+  ForceRow();
+  now_.acceleration = before;
+  sink_.ThrottleStopEnds();
+}
+
+void Run::WriteDueRows() {
+  if (now_.mph < nextChartSpeed_ && now_.distance < nextChartMile_) return;
+  WriteChartRow();
+  if (now_.mph >= nextChartSpeed_) {
+    const bool coarse =
+        launching_ || (now_.elapsed < kFineChartSeconds && now_.distance < kFineChartFeet);
+    nextChartSpeed_ = Floor(now_.mph) + (coarse ? 5 : 1);
+  }
+  if (now_.distance >= nextChartMile_) nextChartMile_ = Floor(now_.distance) + kFeetInMile;
+}
+
+void Run::Sample() {
+  if (!sampled_) return;
+  untilSample_ = sampleSteps_;
+  if (now_.mph > 0) sink_.Sample(Row());
+}
+
+void Run::Restart() {
+  now_.distance = -in_.rollout / kInchesInFoot;
+  untilSample_ = sampled_ ? 0 : std::numeric_limits<int>::max();
+  const int perInterval =
+      std::clamp(kGearSamples / static_cast<int>(LastPoint()), 1, kMostIntervalSamples);
+  sampleSteps_ = kSubSteps / perInterval;
+}
+
+void Run::WalkTo(double rpm, double step, double torqueStep) {
+  while (currentRpm_ <= rpm + step * kStepTolerance) {
+    currentRpm_ += step;
+    torqueNow_ += torqueStep;
+  }
+  currentRpm_ -= step;
+  torqueNow_ -= torqueStep;
+}
+
+void Run::FindLaunch() {
+  index_ = 0;
+  currentRpm_ = TableRpm(0);
+  torqueNow_ = TableTorque(0);
+  if (in_.launchRpm >= TableRpm(LastPoint())) {
+    sink_.Message("Launch RPM to High -- Not Used");
+    return;
+  }
+  launching_ = true;
+  if (in_.launchRpm < TableRpm(0)) {
+    sink_.Message("Launch RPM Lower than any RPM in table -- Not Used");
+    return;
+  }
+  std::size_t above = 1;
+  while (TableRpm(above) <= in_.launchRpm) ++above;
+  index_ = above - 1;
+  currentRpm_ = TableRpm(index_);
+  torqueNow_ = TableTorque(index_);
+  const double gap = TableRpm(above) - TableRpm(index_);
+  const double subSteps = gap >= 500   ? 1000
+                          : gap >= 400 ? 800
+                          : gap >= 300 ? 600
+                          : gap >= 200 ? 400
+                                       : 200;
+  WalkTo(in_.launchRpm, gap / subSteps, (TableTorque(above) - TableTorque(index_)) / subSteps);
+}
+
+void Run::LaunchPhase() {
+  rpmStep_ = kLaunchStep;
+  const int everyStep = sampleSteps_;
+  sampleSteps_ = kLaunchSampleSteps;
+  for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
+    Step(wheelRpm, torqueNow_);
+    if (Happens()) Happen();
+  }
+  sampleSteps_ = everyStep;
+  launching_ = false;
+}
+
+void Run::RunGear(bool shifts) {
+  const double shiftRpm = shifts ? shiftRpm_ : kNever;
+  double stopRpm = shifts && in_.throttleStop && !stopDone_ ? in_.throttleStopRpm : kNever;
+  double rpm = currentRpm_, torque = torqueNow_;
+  for (; index_ < LastPoint(); ++index_) {
+    const double next = TableRpm(index_ + 1);
+    const double rpmStep = (next - TableRpm(index_)) / kSubSteps;
+    const double rise = TableTorque(index_ + 1) - TableTorque(index_);
+    const double torqueStep = rise / kSubSteps;
+    const double tolerance = rpmStep * kStepTolerance;
+    const double last = std::min(next, shiftRpm) + tolerance;
+    rpmStep_ = rpmStep;
+    // An interval that the last one's step has passed over gives its rise all the same.
+    if (rpm > next + tolerance) torque += rise;
+    while (rpm <= last) {
+      if (rpm >= stopRpm) {
+        stopRpm = kNever;
+        ThrottleStop();
+      }
+      Step(rpm, torque);
+      rpm += rpmStep;
+      torque += torqueStep;
+      if (Happens()) Happen();
+    }
+    WriteChartRow();
+    Sample();
+    // The next step would be above the RPM to shift at, or the last one was just there.
+    if (rpm <= next + tolerance || std::abs(now_.rpm - shiftRpm) <= tolerance) break;
+  }
+}
+
+bool Run::ShiftGear(std::size_t to) {
+  const double time = in_.shiftTime[to - 1];
+  if (gains_) TakeTopSpeed(now_.speedFps);
+  now_.elapsed += time;
+  Resist(now_.mph);
+  now_.distance +=
+      (now_.speedFps - (std::sqrt(time) * ((now_.aeroHp + now_.rollHp) * 10) / mass_) / 2) * time;
+  ReadGearTables(to);
+  const int number = static_cast<int>(to);
+  std::size_t point = 0;
+  while (point <= LastPoint() && TableRpm(point) * speedFactor_ < now_.mph) ++point;
+  if (point > LastPoint()) {
+    sink_.GearTooShort(number, number + 1);
+    ReadGearTables(to - 1);
+    return false;
+  }
+  const bool belowTable = point == 0;
+  index_ = belowTable ? 0 : point - 1;
+  currentRpm_ = TableRpm(index_);
+  torqueNow_ = TableTorque(index_);
+  const double step = (TableRpm(index_ + 1) - TableRpm(index_)) / kSubSteps;
+  const double torqueStep = (TableTorque(index_ + 1) - TableTorque(index_)) / kSubSteps;
+  while (currentRpm_ * speedFactor_ < now_.mph) {
+    currentRpm_ += step;
+    torqueNow_ += torqueStep;
+  }
+  sink_.GearChange(number, number + 1, belowTable);
+  rowAfterShift_ = true;
+  untilSample_ = sampled_ ? 0 : untilSample_;
+  return true;
+}
+
+RunResult Run::Launched() {
+  Restart();
+  ReadGearTables(0);
+  FindLaunch();
+  if (launching_) LaunchPhase();
+  RunGear(true);
+  for (std::size_t gear = 1; gear < kGears && in_.transRatio[gear] > 0; ++gear) {
+    if (!ShiftGear(gear)) return Finish(RunEnd::GearTooShort);
+    RunGear(true);
+  }
+  return Finish(now_.acceleration > 0 ? RunEnd::Gearing : RunEnd::Power);
+}
+
+RunResult Run::EachGear() {
+  for (std::size_t gear = 0; gear < kGears && in_.transRatio[gear] > 0; ++gear) {
+    Restart();
+    ReadGearTables(gear);
+    now_.elapsed = 0;
+    now_.distance = 0;
+    nextMark_ = kNever;
+    index_ = 0;
+    currentRpm_ = TableRpm(0);
+    torqueNow_ = TableTorque(0);
+    now_.lastSpeedFps = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
+    lastRowAt_ = lastRowElapsed_ = -1;
+    nextChartSpeed_ = nextChartMile_ = 0;
+    RunGear(false);
+  }
+  result_.last = Row();
+  result_.steps = now_.steps;
+  result_.tireDiameter = tireDiameter_;
+  result_.windDirection = windDirection_;
+  return result_;
+}
+
+RunResult Run::Cvt() {
+  Restart();
+  ReadNitrous(1);
+  efficiencyRaw_ = Kept(in_.cvtLoss);
+  efficiency_ = efficiencyRaw_ / in_.dynoCorrection;
+  nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
+  varies_ = true;
+  sampleSteps_ = kCvtSampleSteps;
+  std::size_t above = 1;
+  while (above < LastPoint() && TableRpm(above) < in_.cvtRpm) ++above;
+  const double low = TableRpm(above - 1);
+  const double part = (in_.cvtRpm - low) / (TableRpm(above) - low);
+  now_.torque = TableTorque(above - 1) + part * (TableTorque(above) - TableTorque(above - 1));
+  now_.rpm = in_.cvtRpm;
+  const double enginePower = now_.rpm * now_.torque * efficiency_ / kPowerOfTorque;
+  const double end = FurtherMarkFeet(kFurtherMarks - 1);
+  StepBound bound(kMostCvtSteps);
+  Moment& m = now_;
+  while (m.distance < end) {
+    bound.Step();
+    ++m.steps;
+    m.lastSpeedFps = m.speedFps;
+    m.speedFps = static_cast<double>(m.steps) * kCvtStep;
+    m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
+    m.mph = m.speedFps / kFeetASecondPerMph;
+    // The forces stand for the whole step: at its mean speed power and thrust give the same energy.
+    const double meanMph = m.meanSpeedFps / kFeetASecondPerMph;
+    Resist(meanMph);
+    Power(enginePower);
+    Move(kCvtStep, m.netHp * kPoundMphOfHp / meanMph);
+    if (Happens()) Happen();
+    if (!(m.acceleration > 0)) break;
+  }
+  WriteChartRow();
+  Sample();
+  return Finish(now_.acceleration > 0 ? RunEnd::Distance : RunEnd::Power);
+}
+
+void Run::HoldSpeed(double feetASecond) {
+  // The clock of a car that has not left the rollout begins at its end.
+  const double elapsed = clockRuns_ ? now_.elapsed : now_.distance / feetASecond;
+  for (std::size_t i = static_cast<std::size_t>(StripMark::Feet600); i < kStripMarks.size(); ++i) {
+    RunMark& mark = result_.strip[i];
+    if (mark.reached()) continue;
+    mark.time = elapsed - (now_.distance - kStripMarks[i]) / feetASecond;
+    mark.mph = feetASecond / kFeetASecondPerMph;
+  }
+}
+
+bool Run::RollOut() {
+  const auto taken = result_.strip;
+  if (in_.rearEndLoss < kLeastRearEndLoss) {
+    efficiencyRaw_ -= (kLeastRearEndLoss - in_.rearEndLoss) / 100;
+  }
+  if (!(efficiencyRaw_ > 0)) return false;
+  sink_.ExtensionBegins();
+  const double area = in_.frontalArea * in_.dragCoefficient;
+  nextChartSpeed_ = 0;
+  double nextRow = Floor(now_.mph) - 5;
+  StepBound bound(kMostRollOutSteps);
+  now_.torque = now_.power = now_.nitrousHp = 0;
+  while (now_.distance < kQuarterMile) {
+    bound.Step();
+    now_.mph -= kRollOutStep;
+    if (!(now_.mph > 0)) break;
+    now_.speedFps = now_.mph * kFeetASecondPerMph;
+    now_.rpm = now_.mph / speedFactor_;
+    const double dV = now_.lastSpeedFps - now_.speedFps;
+    now_.meanSpeedFps = (now_.lastSpeedFps + now_.speedFps) / 2;
+    now_.lastSpeedFps = now_.speedFps;
+    Resist(now_.mph);
+    const double deceleration = now_.rollHp / mass_ + (now_.speedFps * now_.speedFps *
+                                                       densityFactor_ * kRollOutDensity * area) /
+                                                          (2 * in_.carWeight) / efficiencyRaw_;
+    if (!(deceleration > 0)) break;
+    now_.acceleration = -deceleration;
+    now_.elapsed += dV / deceleration;
+    now_.distance += dV / deceleration * now_.meanSpeedFps;
+    lastRowElapsed_ = -1;
+    if (now_.distance >= nextMark_) {
+      if (!clockRuns_) EndRollout(true);
+      TakeMarks();
+    }
+    if (now_.mph <= nextRow) {
+      WriteChartRow();
+      nextRow = Floor(now_.mph) - 5;
+    }
+  }
+  if (now_.distance >= kQuarterMile) return true;
+  // What the car has not reached so is told at constant speed; the row stays as its last word.
+  result_.strip = taken;
+  return false;
+}
+
+RunResult Run::Finish(RunEnd end) {
+  result_.tireDiameter = tireDiameter_;
+  result_.windDirection = windDirection_;
+  result_.steps = now_.steps;
+  result_.last = Row();
+  result_.end = end;
+  if (now_.limitedFeet > 0) result_.tractionLimitedFeet = now_.limitedFeet;
+  if (gains_) TakeTopSpeed(now_.speedFps);
+  if (!(result_.topSpeed > 0)) {
+    result_.end = RunEnd::NoThrust;
+    return result_;
+  }
+  // A car whose power has ended keeps its top speed, whatever the table goes on to.
+  const bool powerEnded = end == RunEnd::Power;
+  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : now_.speedFps;
+  const double rpm = now_.rpm;
+  const double left = kQuarterMile - now_.distance;
+  if (now_.distance < kOutOfGearFeet && !varies_) {
+    const double gained = powerEnded || !(now_.acceleration > 0) ? 0 : 2 * now_.acceleration * left;
+    const double speed = std::sqrt(std::max(0.0, lastFps * lastFps + gained)) / kFeetASecondPerMph;
+    const double ratio = gearRatio_ * (in_.usesPrimaryDrive ? in_.primaryDrive : 1);
+    result_.tryRearGearRatio = (in_.automatic ? Kept(in_.converterSlippage) : 1) * rpm *
+                               tireDiameter_ * (1 + growth_ / 100) /
+                               (2 * kInchTurnsPerMph * speed * ratio);
+  }
+  if (left <= 0) return result_;
+  const double elapsed = now_.elapsed, distance = now_.distance;
+  const bool clockRan = clockRuns_;
+  if (now_.distance < kExtensionFeet && !powerEnded && RollOut()) {
+    result_.rest = RunRest::Deceleration;
+  } else {
+    now_.elapsed = elapsed;
+    now_.distance = distance;
+    clockRuns_ = clockRan;
+    HoldSpeed(lastFps);
+    result_.rest = RunRest::ConstantVelocity;
+  }
+  return result_;
+}
+
+// ---------------------------------------------------------------- what a run asks of its inputs
+
+std::string Ordinal(std::size_t index) {
+  const std::size_t number = index + 1;
+  const char* ending = number == 1 ? "st" : number == 2 ? "nd" : number == 3 ? "rd" : "th";
+  return std::to_string(number) + ending;
+}
+
+std::string ShiftCaption(std::size_t index) {
+  return std::to_string(index + 1) + " - " + std::to_string(index + 2);
+}
+
+void Require(bool holds, RunField field, std::size_t index, const char* reason) {
+  if (!holds) throw RunInputError(field, index, reason);
+}
+void Require(bool holds, RunField field, const char* reason) {
+  Require(holds, field, 0, reason);
+}
+
+bool Usable(double value) {
+  return std::abs(value) <= kMostValue;
+}  // no for what is no number
+
+constexpr const char* kMustBePositive = "must be above 0.";
+constexpr const char* kMustNotBeNegative = "must not be below 0.";
+constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
+constexpr const char* kMustBeNumber = "must be a number of usual size.";
+
+void RequireNumber(double value, RunField field, std::size_t index = 0) {
+  Require(Usable(value), field, index, kMustBeNumber);
+}
+void RequirePositive(double value, RunField field, std::size_t index = 0) {
+  RequireNumber(value, field, index);
+  Require(value > 0, field, index, kMustBePositive);
+}
+void RequireNotNegative(double value, RunField field, std::size_t index = 0) {
+  RequireNumber(value, field, index);
+  Require(value >= 0, field, index, kMustNotBeNegative);
+}
+void RequireLoss(double value, RunField field, std::size_t index = 0) {
+  Require(value >= 0 && value < 100, field, index, kMustBeLoss);
+}
+
+void RequireTable(const AccelerationInputs& in) {
+  constexpr RunField field = RunField::TorqueTable;
+  Require(!in.tableRpm.empty(), field, "has no rows. A run needs at least two.");
+  Require(in.tableRpm.size() > 1, field, "has only one row. A run needs at least two.");
+  Require(in.tableRpm.size() == in.tableTorque.size(), field,
+          "must have as many torques as engine speeds.");
+  for (std::size_t i = 0; i < in.tableRpm.size(); ++i) {
+    const double rpm = in.tableRpm[i];
+    const auto refuse = [&](const std::string& reason) {
+      throw RunInputError(field, i, reason + " in row " + std::to_string(i + 1) + ".");
+    };
+    if (!(rpm >= 0 && rpm <= kMostRpm)) refuse("must have an RPM from 0 to 1000000");
+    if (!Usable(in.tableTorque[i])) refuse("must have a torque of usual size");
+    if (i > 0 && !(rpm >= in.tableRpm[i - 1] + kLeastRpmGap)) {
+      refuse("must be in ascending order by RPM, which it is not");
+    }
+  }
+}
+
+void RequireCar(const AccelerationInputs& in) {
+  RequireTable(in);
+  RequirePositive(in.tireRollingRadius, RunField::TireRollingRadius);
+  RequirePositive(in.tireDiameter, RunField::TireDiameter);
+  RequirePositive(in.dynoCorrection, RunField::DynoCorrection);
+  RequirePositive(in.carWeight, RunField::CarWeight);
+  RequireNotNegative(in.dragCoefficient, RunField::DragCoefficient);
+  RequireNotNegative(in.frontalArea, RunField::FrontalArea);
+  RequireNotNegative(in.rollingResistance, RunField::RollingResistance);
+  RequireNotNegative(in.rollout, RunField::Rollout);
+  RequirePositive(in.frictionMu, RunField::FrictionMu);
+  Require(in.frictionMu < kFrictionLimit, RunField::FrictionMu,
+          "must be below 36 / 7 (5.142857), where the car would turn over.");
+  RequireNotNegative(in.trackPressure, RunField::TrackPressure);
+  RequireNumber(in.windSpeed, RunField::WindSpeed);
+  RequireNumber(in.windDirection, RunField::WindDirection);
+  if (!in.nitrous) return;
+  for (std::size_t i = 0; i < kNitrousStages; ++i) {
+    for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
+      if (!Usable(in.nitrousStages[i][k])) {
+        throw RunInputError(RunField::Nitrous, i, kMustBeNumber).InColumn(k);
+      }
+    }
+  }
+}
+
+void RequireGears(const AccelerationInputs& in, RunKind kind) {
+  const double primary = in.usesPrimaryDrive ? in.primaryDrive : 1;
+  const double slip = in.automatic ? Kept(in.converterSlippage) : 1;
+  const double inches = std::max(in.tireDiameter, 2 * in.tireRollingRadius);
+  RequirePositive(in.transRatio[0], RunField::TransRatio);
+  for (std::size_t i = 0; i < kGears && (i == 0 || in.transRatio[i] != 0); ++i) {
+    const double ratio = in.transRatio[i];
+    RequirePositive(ratio, RunField::TransRatio, i);
+    RequireLoss(in.gearLoss[i], RunField::GearLoss, i);
+    RequireNumber(in.tireGrowth[i], RunField::TireGrowth, i);
+    Require(in.tireGrowth[i] > -100, RunField::TireGrowth, i, "must be above -100 percent.");
+    const double speed = in.tableRpm.back() * (1 + in.tireGrowth[i] / 100) * inches / 2 * slip /
+                         (ratio * in.rearGearRatio * primary * kInchTurnsPerMph);
+    Require(speed <= kMostMph, RunField::TransRatio, i,
+            "is too small: with these gears and tires the car would go beyond 10000 MPH.");
+    if (kind != RunKind::Launched) continue;
+    Require(i == 0 || ratio <= in.transRatio[i - 1], RunField::TransRatio, i,
+            "must not be above that of the gear before it.");
+    if (i >= kShifts) continue;
+    RequirePositive(in.shiftRpm[i], RunField::ShiftRpm, i);
+    RequireNotNegative(in.shiftTime[i], RunField::ShiftTime, i);
+  }
+}
+
+}  // namespace
+
+RunInputError::RunInputError(RunField field, std::size_t index, std::string reason)
+    : CommandError(ErrorKind::InvalidArgument, CaptionOf(field, index) + ' ' + reason),
+      field_(field),
+      index_(index),
+      reason_(std::move(reason)) {}
+
+std::string CaptionOf(RunField field, std::size_t index) {
+  switch (field) {
+    case RunField::TorqueTable: return "The torque table";
+    case RunField::TransRatio: return "Trans Gear Ratio " + Ordinal(index);
+    case RunField::TireGrowth: return "Tire Growth " + Ordinal(index);
+    case RunField::GearLoss: return "Power Loss " + Ordinal(index);
+    case RunField::ShiftRpm: return "Shift RPM " + ShiftCaption(index);
+    case RunField::ShiftTime: return "Shift Time " + ShiftCaption(index);
+    case RunField::RearGearRatio: return "Rear Gear Ratio";
+    case RunField::PrimaryDrive: return "Primary Gear Ratio";
+    case RunField::TireDiameter: return "Tire Diameter";
+    case RunField::TireRollingRadius: return "Tire Rolling Radius";
+    case RunField::ConverterSlippage: return "% Converter Slippage";
+    case RunField::ConverterStallSpeed: return "Converter Stall Speed";
+    case RunField::TorqueMultiplier: return "Torque Multiplier";
+    case RunField::RearEndLoss: return "% Rear End Power Loss";
+    case RunField::CarWeight: return "Vehicle Weight plus driver";
+    case RunField::DragCoefficient: return "Coefficient of Drag (CD)";
+    case RunField::FrontalArea: return "Frontal Area Sq.Ft.";
+    case RunField::RollingResistance: return "Tire Rolling Resistance";
+    case RunField::DynoCorrection: return "Dyno Correct Factor";
+    case RunField::LaunchRpm: return "Launch RPM";
+    case RunField::Rollout: return "Rollout Distance inches";
+    case RunField::FrictionMu: return "Coefficient of Mu";
+    case RunField::TrackPressure: return "Track - BP or Air Density";
+    case RunField::WindSpeed: return "Wind Speed";
+    case RunField::WindDirection: return "Wind Direction";
+    case RunField::ThrottleStopRpm: return "Throttle S RPM";
+    case RunField::ThrottleStopTime: return "Throttle S Time";
+    case RunField::CvtRpm: return "CVT RPM";
+    case RunField::CvtLoss: return "CVT Power Loss";
+    case RunField::Nitrous: return "Nitrous stage " + std::to_string(index + 1);
+  }
+  return {};
+}
+
+std::string FurtherMarkName(std::size_t index) {
+  const std::size_t quarters = index + 2;
+  std::string name;
+  if (quarters >= 4) name = std::to_string(quarters / 4);
+  constexpr std::array<const char*, 4> kFractions = {"", "1/4", "1/2", "3/4"};
+  if (quarters % 4 != 0) {
+    if (!name.empty()) name += ' ';
+    name += kFractions[quarters % 4];
+  }
+  return name + " Mile";
+}
+
+double RunResult::EighthMileMph() const {
+  return (at(StripMark::Feet660).mph + at(StripMark::Feet600).mph) / 2;
+}
+
+double RunResult::QuarterMileMph() const {
+  return (at(StripMark::Feet1320).mph + at(StripMark::Feet1290).mph) / 2;
+}
+
+double NitrousShot(const AccelerationInputs& inputs, int gear) {
+  return ActiveStages(inputs, gear).Shot();
+}
+
+double EngineNitrous(const AccelerationInputs& inputs, int gear, double rpm) {
+  const double horsepower = ActiveStages(inputs, gear).AtFullTime(rpm);
+  if (!inputs.nitrousAtWheels) return horsepower;
+  const auto index = static_cast<std::size_t>(std::clamp(gear, 1, static_cast<int>(kGears)) - 1);
+  RequireLoss(inputs.gearLoss[index], RunField::GearLoss, index);
+  RequireLoss(inputs.rearEndLoss, RunField::RearEndLoss);
+  return horsepower / (Kept(inputs.gearLoss[index]) * Kept(inputs.rearEndLoss));
+}
+
+double TractionLimit(double carWeight, double mu) {
+  constexpr double kRearShare = 0.5;
+  return (carWeight * kRearShare * mu) / (1 - (kRunCenterOfGravity / kRunWheelBase) * mu);
+}
+
+void RequireRun(const AccelerationInputs& inputs, RunKind kind) {
+  RequireCar(inputs);
+  RequirePositive(inputs.rearGearRatio, RunField::RearGearRatio);
+  if (inputs.usesPrimaryDrive) RequirePositive(inputs.primaryDrive, RunField::PrimaryDrive);
+  RequireLoss(inputs.rearEndLoss, RunField::RearEndLoss);
+  if (inputs.automatic) {
+    RequireLoss(inputs.converterSlippage, RunField::ConverterSlippage);
+    RequireNotNegative(inputs.converterStallSpeed, RunField::ConverterStallSpeed);
+    RequireNotNegative(inputs.torqueMultiplier, RunField::TorqueMultiplier);
+  }
+  RequireGears(inputs, kind);
+  if (kind == RunKind::EachGear) return;
+  RequireNotNegative(inputs.launchRpm, RunField::LaunchRpm);
+  if (inputs.throttleStop) {
+    RequireNotNegative(inputs.throttleStopRpm, RunField::ThrottleStopRpm);
+    RequireNotNegative(inputs.throttleStopTime, RunField::ThrottleStopTime);
+  }
+}
+
+void RequireCvtRun(const AccelerationInputs& inputs) {
+  RequireCar(inputs);
+  RequireLoss(inputs.cvtLoss, RunField::CvtLoss);
+  Require(inputs.cvtRpm >= inputs.tableRpm.front() && inputs.cvtRpm <= inputs.tableRpm.back(),
+          RunField::CvtRpm, "must lie within the RPM of the torque table.");
+  RequirePositive(inputs.cvtRpm, RunField::CvtRpm);
+}
+
+RunResult SimulateRun(const AccelerationInputs& inputs, RunSink& sink, RunKind kind) {
+  RequireRun(inputs, kind);
+  Run run(inputs, sink);
+  return kind == RunKind::Launched ? run.Launched() : run.EachGear();
+}
+
+RunResult SimulateCvtRun(const AccelerationInputs& inputs, RunSink& sink) {
+  RequireCvtRun(inputs);
+  return Run(inputs, sink).Cvt();
+}
+
+}  // namespace veldox
