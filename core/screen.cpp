@@ -245,7 +245,7 @@ void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& f
   Assign(shown_,
          Shown{file.isWhole ? std::string(kNoPrompt) + report : std::move(report), fontSize, file,
                std::move(picture), true},
-         Aspect::Data);
+         reportAspect());
   SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) Assign(before_, screen().focus(), Aspect::Place);
@@ -260,7 +260,7 @@ void ReportBox::ShowSentence(std::string sentence) {
 }
 
 void ReportBox::CloseReport() {
-  if (shown_.isThere) Assign(shown_, Shown{}, Aspect::Data);
+  if (shown_.isThere) Assign(shown_, Shown{}, reportAspect());
   Assign(sentence_, std::string{}, Aspect::Place);
   Control* before = before_;
   if (before != nullptr) Assign(before_, nullptr, Aspect::Place);

@@ -332,6 +332,8 @@ class ReportBox : public TextControl {
   /// The report is what counts, and its text follows of it.
   Aspect textAspect() const override { return Aspect::Place; }
   Aspect visibility() const override { return Aspect::Place; }
+  /// A report is part of the data that its screen works out.
+  virtual Aspect reportAspect() const { return Aspect::Data; }
 
  private:
   struct Shown {

@@ -53,7 +53,7 @@ TEST(FileComparison, AKeyThatTheFileLacksIsNoneOfIts) {
   // Read over the present state, the file's own stroke is that state's.
   const FileContents there = ContentsOf("Bore = 4.125\nStroke = 3.25\nNotes = theirs");
   const FileContents asRead = ContentsOf("bore = 4.1250\nNotes = theirs");
-  const FileComparison comparison = Compare(here, there, &asRead);
+  const FileComparison comparison = Compare(here, OfFile(there, asRead));
   EXPECT_THAT(comparison.differences, ElementsAre(KeyDifference{"Bore", "Bore", "4.0", "4.125"},
                                                   KeyDifference{"Stroke", "Stroke", "3.25", "-"}));
   EXPECT_TRUE(comparison.notesDiffer);
