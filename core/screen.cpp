@@ -334,7 +334,11 @@ void CheckBox::SetOn(bool on) {
 }
 
 bool CheckBox::Click() {
-  if (!enabled() || !Reachable()) return false;
+  return Reachable() && TurnOver();
+}
+
+bool CheckBox::TurnOver() {
+  if (!enabled()) return false;
   SetOn(!on_);
   const bool done = handler_ == nullptr || screen().Perform(handler_);
   if (done) {
@@ -615,7 +619,7 @@ void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
       SwitchBlankUnits(false);
-    } else if (!box->Click()) {
+    } else if (!box->TurnOver()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
     }
