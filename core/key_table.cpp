@@ -23,8 +23,7 @@ constexpr KeyRow Comment(std::string_view line) {
   return {line, KeyForm::Comment, {}, {}};
 }
 
-template <class T>
-constexpr KeyRow Key(std::string_view key, KeyForm form, T P::*member, std::string_view owner) {
+constexpr KeyRow Key(std::string_view key, KeyForm form, KeyMember member, std::string_view owner) {
   return {key, form, member, owner};
 }
 

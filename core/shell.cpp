@@ -1,6 +1,7 @@
 #include "core/shell.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -46,9 +47,21 @@ bool IsThere(const std::filesystem::path& file) {
 Shell::Shell(ProgramContext& context)
     : Screen(context, "Main", context.rules.messages().MessageTitle, ""), parameterFile_(context) {
   appearance.SetListener([this] {
-    if (shellFace_ != nullptr) shellFace_->AppearanceChanged();
+    shownAppearance_ = AppearanceOf(block());
+    if (shellFace_ != nullptr && !this->context().journal.isDry()) shellFace_->AppearanceChanged();
   });
   context.rules.SetChangeListener([this] { TellTitleChanged(); });
+  context.history.SetListener([this](bool putBack) {
+    TellTitleChanged();
+    if (putBack) ShowPutBack();
+    steps.Follow();
+  });
+}
+
+void Shell::ShowPutBack() {
+  TellMenuChanged();
+  graphOptions.TellListener();
+  if (AppearanceOf(block()) != shownAppearance_) appearance.TellListener();
 }
 
 Screen* Shell::FindScreen(std::string_view screenName) {
@@ -174,8 +187,22 @@ bool Shell::MenuEnabled(const MenuItem& item) {
   return false;
 }
 
+bool Shell::IsStep(const MenuItem& item) {
+  if (item.kind != MenuKind::Action && item.kind != MenuKind::RecentFile) return false;
+  // These open a panel or work on the file alone.
+  constexpr std::array kNoSteps = {
+      &Shell::Graph,     &Shell::Notes,     &Shell::EntryAlig,
+      &Shell::T_B_Style, &Shell::O_C_Style, &Shell::Co_Name,
+      &Shell::Exit,      &Shell::Write,     &Shell::Print_Head_Location,
+      &Shell::Undo,      &Shell::Redo,      &Shell::Steps,
+  };
+  return std::find(kNoSteps.begin(), kNoSteps.end(), item.action) == kNoSteps.end();
+}
+
 void Shell::Choose(const MenuItem& item) {
   if (!MenuEnabled(item)) return;
+  const History::Step step(context(), IsStep(item) ? History::Kind::Other : History::Kind::None,
+                           std::string(item.caption));
   if (item.kind == MenuKind::Screen) {
     Open(*FindScreen(item.screen));
   } else if (item.kind == MenuKind::List || item.kind == MenuKind::Submenu) {
@@ -196,6 +223,7 @@ void Shell::Choose(const MenuItem& item) {
 }
 
 void Shell::Open(Screen& screen) {
+  const History::Step step(context(), History::Kind::None);
   if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
@@ -211,11 +239,11 @@ void Shell::Open(Screen& screen) {
 }
 
 void Shell::TellMenuChanged() {
-  if (shellFace_ != nullptr) shellFace_->MenuChanged();
+  if (shellFace_ != nullptr && !context().journal.isDry()) shellFace_->MenuChanged();
 }
 
 void Shell::TellTitleChanged() {
-  if (shellFace_ != nullptr) shellFace_->TitleChanged();
+  if (shellFace_ != nullptr && !context().journal.isDry()) shellFace_->TitleChanged();
 }
 
 std::string Shell::WindowTitle() const {
@@ -281,6 +309,7 @@ void Shell::SettleChanges() {
 void Shell::ReadFile(const std::filesystem::path& file) {
   context().HandOver(nullptr);
   const int records = TakeFile(file);
+  context().history.SetTitle(PathText(file.filename()));
   ShowFile(file, records, " Records Read");
 }
 
@@ -290,6 +319,7 @@ void Shell::Read() {
 }
 
 void Shell::OpenFile(const std::filesystem::path& file) {
+  const History::Step step(context(), History::Kind::Other);
   Perform([&] {
     SettleChanges();
     ReadFile(file);
@@ -337,6 +367,7 @@ void Shell::Write() {
   }
   block().DataChanged = 0;
   ShowFile(path, records, " Records Written");
+  context().history.Saved();
 }
 
 void Shell::Hover(Control* control) {
@@ -368,6 +399,7 @@ void Shell::Clear() {
 
 void Shell::Metric() {
   block().MetricMenuOn = block().MetricMenuOn != 0 ? 0 : -1;
+  context().history.SetTitle(MenuCaption(*FindMenuItem("Metric")));
   TellMenuChanged();
 }
 

@@ -22,6 +22,7 @@
 #include "core/screen_printing.h"
 #include "core/screen_scaling.h"
 #include "core/settings.h"
+#include "core/steps_panel.h"
 #include "core/title_animation.h"
 
 namespace veldox {
@@ -114,8 +115,8 @@ class Shell : public Screen, public FileTaker {
 
   /// The panels that take the launcher's place while they are shown.
   std::vector<ScreenPart*> Panels() {
-    std::vector<ScreenPart*> panels{&notes,      &delimitedColumns, &graphOptions,
-                                    &appearance, &company,          &companyPlace};
+    std::vector<ScreenPart*> panels{&notes,   &delimitedColumns, &graphOptions, &appearance,
+                                    &company, &companyPlace,     &steps};
     panels.insert(panels.end(), toolPanels_.begin(), toolPanels_.end());
     return panels;
   }
@@ -132,6 +133,9 @@ class Shell : public Screen, public FileTaker {
   void Read();
   void Write();
   void Notes() { notes.Open(); }
+  void Undo() { context().history.Undo(); }
+  void Redo() { context().history.Redo(); }
+  void Steps() { steps.Open(); }
   void Clear();
   void Metric();
   void Printer() { printing.SetUpPrinter(); }
@@ -178,6 +182,10 @@ class Shell : public Screen, public FileTaker {
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
+  /// Shows what other values than those of controls have been put back.
+  void ShowPutBack();
+  /// Whether what a menu item changes can be undone as a step.
+  static bool IsStep(const MenuItem& item);
   void TellMenuChanged();
   void TellTitleChanged();
   /// Asks about unsaved data. @throws CommandError (Cancelled, File) where they were to be saved
@@ -205,6 +213,7 @@ class Shell : public Screen, public FileTaker {
   bool ended_ = false;
   ScreenScaling scaling_;
   Settings settings_;
+  Appearance shownAppearance_;
 
  public:
   // The title, its name line for the parameter file, and the help line
@@ -228,6 +237,7 @@ class Shell : public Screen, public FileTaker {
                              [this] { return OwnColors(); }};
   CompanyPanel company{*this};
   CompanyPlacePanel companyPlace{*this};
+  StepsPanel steps{*this};
 
   ScreenPrinting printing{context()};
 };
