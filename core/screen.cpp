@@ -369,7 +369,11 @@ void CheckBox::SetOn(bool on) {
 }
 
 bool CheckBox::Click() {
-  if (!enabled() || !Reachable()) return false;
+  return Reachable() && TurnOver();
+}
+
+bool CheckBox::TurnOver() {
+  if (!enabled()) return false;
   const History::Step step(*this, History::Kind::Other);
   SetOn(!on_);
   const bool done = handler_ == nullptr || screen().Perform(handler_);
@@ -663,7 +667,7 @@ void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
       SwitchBlankUnits(false);
-    } else if (!box->Click()) {
+    } else if (!box->TurnOver()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
     }

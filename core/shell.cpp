@@ -236,7 +236,7 @@ void Shell::Open(Screen& screen) {
     if (block().FormsCleared == 1) {
       screen.SwitchBlankUnits(true);
     } else {
-      box->Click();
+      box->TurnOver();
     }
   }
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
