@@ -169,7 +169,7 @@ void FlowPanel::NoteFlow(const FlowReportValues& values) {
   const auto figures = static_cast<FlowFigures>(Option2.chosen());
   ShowText(
       FlowNotes,
-      source_ + ValvePanel::ThroatNotes(ports) +
+      *source_ + ValvePanel::ThroatNotes(ports) +
           NotesOn("Intake", values.intake, values.intakeFlow, figures, values.testVelocity) +
           NotesOn("Exhaust", values.exhaust, values.exhaustFlow, figures, values.testVelocity));
 }
@@ -220,7 +220,7 @@ void FlowPanel::ClearTable(const Columns& columns) const {
 void FlowPanel::ClearTables() {
   ClearTable(IntakeColumns());
   ClearTable(ExhaustColumns());
-  source_.clear();
+  source_ = {};
   ShowNotes({});
 }
 
@@ -357,7 +357,7 @@ bool FlowPanel::ShowsFlow(const FlowPlot& plot) const {
 }
 
 void FlowPanel::DrawLimits(double testVelocity, const FlowPlot& plot) {
-  PlotEngine& engine = grapher_.plot();
+  PlotEngine& engine = grapher_.ChangePlot();
   for (std::size_t i = 0; i < plot.ports.size(); ++i) {
     const std::vector<GraphPoint> points =
         FlowLimit(*plot.ports[i], testVelocity, plot.frame.range);
@@ -369,11 +369,11 @@ void FlowPanel::DrawLimits(double testVelocity, const FlowPlot& plot) {
 }
 
 void FlowPanel::GraphAgain() {
-  if (!lastGraph_) {
+  if (!lastGraph_->has_value()) {
     screen().ShowHelp(kNoGraphYet);
     return;
   }
-  Graph(*lastGraph_, true);
+  Graph(**lastGraph_, true);
 }
 
 }  // namespace veldox

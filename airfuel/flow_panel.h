@@ -13,6 +13,7 @@
 #include "airfuel/valve_panel.h"
 #include "core/field_array.h"
 #include "core/field_copy.h"
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/results.h"
 #include "core/screen_part.h"
@@ -83,8 +84,8 @@ class FlowPanel : public ScreenPart {
   GraphPanel& graphs_;
   Grapher& grapher_;
   int filterIndex_ = 1;
-  std::string source_;  ///< what is told of the file that was read
-  std::optional<FlowGraph> lastGraph_;
+  Kept<std::string> source_{screen()};  ///< what is told of the file that was read
+  Kept<std::optional<FlowGraph>> lastGraph_{screen()};
 
  public:
   Panel Frame11{screen(), "Frame11", "Air Flow Details"};

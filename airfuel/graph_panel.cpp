@@ -47,14 +47,14 @@ void GraphPanel::TakeLinesOff(std::vector<GraphCurve>& curves) const {
 void GraphPanel::Draw(Grapher& grapher, const GraphFrame& frame, std::vector<GraphCurve> curves) {
   TakeLinesOff(curves);
   grapher.DrawGraph(frame, curves);
-  AddMarks(grapher.plot(), 0);
+  AddMarks(grapher.ChangePlot(), 0);
 }
 
 void GraphPanel::AddTo(Grapher& grapher, std::vector<GraphCurve> curves, const AxisRange& range) {
   TakeLinesOff(curves);
   const std::size_t first = grapher.plot().series().size();
   grapher.AddToGraph(curves, range);
-  AddMarks(grapher.plot(), first);
+  AddMarks(grapher.ChangePlot(), first);
 }
 
 void GraphPanel::AddMarks(PlotEngine& plot, std::size_t first) const {

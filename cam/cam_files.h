@@ -6,6 +6,7 @@
 #include "cam/lift_analysis.h"
 #include "cam/lift_file.h"
 #include "core/file_dialogs.h"
+#include "core/kept.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -52,7 +53,7 @@ class CamFiles : public FileDialogs {
   void ConvertTables(bool toMillimetres);
 
  private:
-  bool tablesAreMillimetres_ = false;
+  Kept<bool> tablesAreMillimetres_{context()};
   std::vector<LashTaker*> takers_;
 };
 

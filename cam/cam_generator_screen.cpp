@@ -554,7 +554,7 @@ void Form33::ShowLobe(const LiftCurve& curve, double step) {
 }
 
 void Form33::ForgetLobe() {
-  lobe_ = {};
+  lobe_ = LiftCurve{};
   for (Field* result : {&LobeRecords, &LobeAreaText, &PeakVelocityText}) result->SetText({});
   VelocityNote.SetCaption({});
 }
@@ -562,7 +562,7 @@ void Form33::ForgetLobe() {
 void Form33::JudgeVelocity() {
   PeakVelocityText.SetText({});
   VelocityNote.SetCaption({});
-  if (lobe_.lifts.empty()) return;
+  if (lobe_->lifts.empty()) return;
   const double perDegree = PeakVelocity(lobe_, lobeStep_);
   const double perCamDegree =
       Option3.chosen() == 0 ? perDegree * kCrankDegreesPerCamDegree : perDegree;
@@ -583,7 +583,7 @@ void Form33::Edited(const Control& control) {
 }
 
 void Form33::StoreTable(bool exhaust) {
-  if (lobe_.lifts.empty()) Stop("There is no lobe yet. Please generate one first.");
+  if (lobe_->lifts.empty()) Stop("There is no lobe yet. Please generate one first.");
   // The other side stays, in the inches of the new one.
   files_.ConvertTables(false);
   const ParameterBlock& b = block();
@@ -599,7 +599,7 @@ void Form33::StoreTable(bool exhaust) {
   file.exhaust = side(b.ExhaustCamLift, b.ExhaustLiftCount, b.CamStepDegrees.Exhaust);
   LiftSide& taken = exhaust ? file.exhaust : file.intake;
   taken.lifts = {0};
-  for (const double lift : lobe_.lifts) {
+  for (const double lift : lobe_->lifts) {
     taken.lifts.push_back(lobeIsMetric_ ? kLengthRule.toInches(lift) : lift);
   }
   taken.lifts.push_back(0);

@@ -10,6 +10,7 @@
 #include "cam/duration_table.h"
 #include "cam/lift_curve.h"
 #include "core/field_array.h"
+#include "core/kept.h"
 #include "core/results.h"
 #include "core/screen.h"
 #include "core/table.h"
@@ -128,9 +129,9 @@ class Form33 : public Screen {
   void StoreTable(bool exhaust);
 
   CamFiles& files_;
-  LiftCurve lobe_;       ///< the last one generated; empty for none
-  double lobeStep_ = 0;  ///< degrees
-  bool lobeIsMetric_ = false;
+  Kept<LiftCurve> lobe_{*this};   ///< the last one generated; empty for none
+  Kept<double> lobeStep_{*this};  ///< degrees
+  Kept<bool> lobeIsMetric_{*this};
 
  public:
   Frame Frame1{*this, "Frame1", "Cam Report", 0};

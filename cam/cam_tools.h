@@ -4,6 +4,7 @@
 
 #include "cam/cam_files.h"
 #include "core/entry_panel.h"
+#include "core/kept.h"
 #include "core/shell.h"
 
 namespace veldox {
@@ -20,8 +21,8 @@ class LiftAmountPanel final : public EntryPanel {
 
  private:
   void ReadEntries() override;
-  LiftEdit edit_ = LiftEdit::Multiply;
-  double amount_ = 0;
+  Kept<LiftEdit> edit_{screen(), LiftEdit::Multiply};
+  Kept<double> amount_{screen()};
 
  public:
   Frame Frame14{screen(), "Frame14", "Increase / Decrease Cam Lift"};

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <string>
+#include <variant>
 
 #include "chassis/corner_weights.h"
 #include "core/screen_part.h"
@@ -50,24 +52,79 @@ class ChassisPart : public ScreenPart {
  protected:
   explicit ChassisPart(Screen& screen) : ScreenPart(screen) {}
 
+  /// The work of a command, which takes what is typed on all pages first.
+  template <class Part>
+  CommandWork Runs(void (Part::*routine)()) {
+    return CommandWork(
+        [this, routine] {
+          TakeTyped();
+          (static_cast<Part*>(this)->*routine)();
+        },
+        CommandRole::Calculates);
+  }
+
   /// Parses all four into the values that they hold.
   Corners ReadCorners(CornerFields& fields) const {
     for (Field* field : fields.fields()) ReadFields({field});
     return {Read(fields.leftFront), Read(fields.rightFront), Read(fields.leftRear),
             Read(fields.rightRear)};
   }
-  void StoreCorners(CornerFields& fields, const Corners& values, DividesBy divisors = {}) const {
-    Store(fields.leftFront, values.leftFront, divisors);
-    Store(fields.rightFront, values.rightFront, divisors);
-    Store(fields.leftRear, values.leftRear, divisors);
-    Store(fields.rightRear, values.rightRear, divisors);
+  void StoreCorners(CornerFields& fields, const Corners& values) const {
+    RequireFinite(fields, values);
+    Store(fields.leftFront, values.leftFront);
+    Store(fields.rightFront, values.rightFront);
+    Store(fields.leftRear, values.leftRear);
+    Store(fields.rightRear, values.rightRear);
   }
-  /// The same where what a corner is divided by stands in a column of its own.
-  void StoreCorners(CornerFields& fields, const Corners& values, CornerFields& divisors) const {
-    Store(fields.leftFront, values.leftFront, {&divisors.leftFront});
-    Store(fields.rightFront, values.rightFront, {&divisors.rightFront});
-    Store(fields.leftRear, values.leftRear, {&divisors.leftRear});
-    Store(fields.rightRear, values.rightRear, {&divisors.rightRear});
+
+  /// Throws unless the value is finite, whatever the values that are computed with it are.
+  void RequireFinite(Field& field, double value, DividesBy divisors = {}) const {
+    if (!std::isfinite(value)) RequireResult(field, value, divisors);
+  }
+  /// The same for each corner, so that an error names the corner that it comes from.
+  /// @param divisors  columns in which 0 makes a result impossible, and is named instead of it
+  template <class... Columns>
+  void RequireFinite(CornerFields& fields, const Corners& values, Columns&... divisors) const {
+    RequireFinite(fields.leftFront, values.leftFront, {&divisors.leftFront...});
+    RequireFinite(fields.rightFront, values.rightFront, {&divisors.rightFront...});
+    RequireFinite(fields.leftRear, values.leftRear, {&divisors.leftRear...});
+    RequireFinite(fields.rightRear, values.rightRear, {&divisors.rightRear...});
+  }
+  static void RequireNotNegative(Field& field, double value) {
+    Require(value >= 0, field, "must not be negative.");
+  }
+  static void RequirePositive(Field& field, double value) {
+    Require(value > 0, field, "must be more than 0.");
+  }
+  static void RequireNoneNegative(CornerFields& fields, const Corners& values) {
+    RequireNotNegative(fields.leftFront, values.leftFront);
+    RequireNotNegative(fields.rightFront, values.rightFront);
+    RequireNotNegative(fields.leftRear, values.leftRear);
+    RequireNotNegative(fields.rightRear, values.rightRear);
+  }
+  /// Parses all four, none of which may be negative.
+  Corners ReadUnsignedCorners(CornerFields& fields) const {
+    const Corners values = ReadCorners(fields);
+    RequireNoneNegative(fields, values);
+    return values;
+  }
+
+ private:
+  /// Takes the numbers of all fields of the screen that stand for shared values, so that none is
+  /// lost when a file is written or the screen opens anew. What is no number is left to the command
+  /// that needs it.
+  void TakeTyped() const {
+    for (Control* control : screen().controls()) {
+      if (control->kind() != ControlKind::Field) continue;
+      auto& field = static_cast<Field&>(*control);
+      if (!field.holds().isShared() || field.rule() == KeyRule::OutputOnly) continue;
+      if (!IsNumber(field.text(), mark())) continue;
+      // A value that is shown as it is keeps the digits behind those that are shown.
+      const Holds::Slot slot = field.holds().In(block());
+      auto* const* value = std::get_if<double*>(&slot);
+      if (value != nullptr && field.text() == FormatField(**value, mark())) continue;
+      ReadFields({&field});
+    }
   }
 };
 

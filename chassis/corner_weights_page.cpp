@@ -1,6 +1,8 @@
 #include "chassis/corner_weights_page.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -25,6 +27,10 @@ constexpr double kRounding = 1e-9;
 /// Pounds; nothing on four tires weighs more.
 constexpr double kHeaviest = 1e7;
 
+/// Wheel bases or track widths; no ballast lies farther from the car.
+constexpr double kFarthest = 1e100;
+constexpr const char* kTooFar = "is too far from the car to be calculated with.";
+
 constexpr const char* kNoWeight =
     "The four corner weights add up to 0. Please enter what the scales read.";
 
@@ -32,6 +38,29 @@ struct NamedWeight {
   const char* name;
   double weight;
 };
+
+/// A number in a message: as fields show it, or with its exponent where it has more digits than
+/// anybody reads.
+std::string InMessage(double number, DecimalMark mark) {
+  constexpr double kWidest = 1e8;
+  if (std::abs(number) < kWidest) return FormatField(number, mark);
+  constexpr int kDigits = 6;
+  std::array<char, 32> text;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), number,
+                                 std::chars_format::general, kDigits)
+                       .ptr;
+  std::replace(text.data(), end, '.', static_cast<char>(mark));
+  return {text.data(), end};
+}
+
+/// A sum of percentages that is refused, with as many digits as tell it from one that is not.
+std::string RefusedSum(double sum, DecimalMark mark) {
+  std::string text = InMessage(sum, mark);
+  if (!AddUpToHundred({ParseNumber(text, mark), 0, 0, 0})) return text;
+  text = FormatShortest(sum);
+  std::replace(text.begin(), text.end(), '.', static_cast<char>(mark));
+  return text;
+}
 
 }  // namespace
 
@@ -64,7 +93,7 @@ void CornerWeightsPage::DrawCar() {
 // ---------------------------------------------------------------- weights
 
 void CornerWeightsPage::RequireShares(const Corners& weights) {
-  RequireResult(Percents.leftFront, weights.leftFront / block().CarWeight * 100, {&Text9});
+  RequireResult(Text14, weights.Front() / block().CarWeight * 100, {&Text9});
 }
 
 void CornerWeightsPage::StoreSides(const Corners& weights) {
@@ -86,16 +115,14 @@ void CornerWeightsPage::StoreSides(const Corners& weights) {
 }
 
 void CornerWeightsPage::StorePercents(const Corners& weights) {
-  StoreCorners(Percents, PercentsOfWeights(weights, block().CarWeight), {&Text9});
+  StoreCorners(Percents, PercentsOfWeights(weights, block().CarWeight));
   StoreSides(weights);
 }
 
-void CornerWeightsPage::RequireNoneNegative(CornerFields& fields, const Corners& values) {
-  constexpr const char* kNegative = "must not be negative.";
-  Require(values.leftFront >= 0, fields.leftFront, kNegative);
-  Require(values.rightFront >= 0, fields.rightFront, kNegative);
-  Require(values.leftRear >= 0, fields.leftRear, kNegative);
-  Require(values.rightRear >= 0, fields.rightRear, kNegative);
+double CornerWeightsPage::ReadCarWeight() {
+  ReadFields({&Text9});
+  RequireNotNegative(Text9, block().CarWeight);
+  return block().CarWeight;
 }
 
 void CornerWeightsPage::WeighByPercents() {
@@ -103,21 +130,21 @@ void CornerWeightsPage::WeighByPercents() {
                          Read(Percents.leftRear), Read(Percents.rightRear)};
   if (!AddUpToHundred(percents)) {
     FailAt(Percents.leftFront, "The four corner percentages add up to " +
-                                   FormatSmart(percents.Sum(), mark()) +
+                                   RefusedSum(percents.Sum(), mark()) +
                                    ". They must add up to 100.");
   }
   RequireNoneNegative(Percents, percents);
   ReadCorners(Percents);
-  ReadFields({&Text9});
-  const Corners weights = WeightsOfPercents(percents, block().CarWeight);
+  const double car = ReadCarWeight();
+  const Corners weights = WeightsOfPercents(percents, car);
+  RequireFinite(Weights, weights);
   RequireShares(weights);
   StoreCorners(Weights, weights);
   StoreSides(weights);
 }
 
 void CornerWeightsPage::FindPercents() {
-  const Corners weights = ReadCorners(Weights);
-  RequireNoneNegative(Weights, weights);
+  const Corners weights = ReadUnsignedCorners(Weights);
   if (weights.Sum() == 0) FailAt(Weights.leftFront, kNoWeight);
   Store(Text9, weights.Sum());
   StorePercents(weights);
@@ -125,20 +152,21 @@ void CornerWeightsPage::FindPercents() {
 
 void CornerWeightsPage::WeighByTargets() {
   const WeightTargets targets{Read(Text16), Read(Text15), Read(Text19)};
-  const double car = Read(Text9);
+  const double car = ReadCarWeight();
   const Corners weights = WeightsOfTargets(targets, car);
+  RequireFinite(Weights, weights);
   const NamedWeight corners[] = {{"Left Front", weights.leftFront},
                                  {"Right Front", weights.rightFront},
                                  {"Left Rear", weights.leftRear},
                                  {"Right Rear", weights.rightRear}};
   for (const auto& [name, weight] : corners) {
     if (weight >= -kRounding * std::abs(car)) continue;
-    FailAt(Text19, "No car has " + FormatSmart(targets.left, mark()) + " percent on the left, " +
-                       FormatSmart(targets.rear, mark()) + " on the rear and " +
-                       FormatSmart(targets.cross, mark()) + " across: the " + name +
-                       " would weigh " + FormatField(weight, mark()) + '.');
+    FailAt(Text19, "No car has " + InMessage(targets.left, mark()) + " percent on the left, " +
+                       InMessage(targets.rear, mark()) + " on the rear and " +
+                       InMessage(targets.cross, mark()) + " across: the " + name + " would weigh " +
+                       InMessage(weight, mark()) + '.');
   }
-  ReadFields({&Text16, &Text15, &Text19, &Text9});
+  ReadFields({&Text16, &Text15, &Text19});
   RequireShares(weights);
   StoreCorners(Weights, weights);
   StorePercents(weights);
@@ -149,9 +177,11 @@ void CornerWeightsPage::WeighByTargets() {
 BallastShare CornerWeightsPage::ReadBallast() {
   ReadFields({&Text39, &Text40, &Text41, &Text20, &Text21});
   const ParameterBlock& b = block();
+  RequirePositive(Text20, b.WheelBase);
+  RequirePositive(Text21, b.TrackWidth);
   const BallastShare share = ShareOfBallast({b.BallastX, b.BallastY}, b.WheelBase, b.TrackWidth);
-  RequireResult(Text40, share.front, {&Text20, &Text21});
-  RequireResult(Text41, share.left);
+  Require(std::abs(share.front) < kFarthest, Text40, kTooFar);
+  Require(std::abs(share.left) < kFarthest, Text41, kTooFar);
   return share;
 }
 
@@ -162,7 +192,7 @@ void CornerWeightsPage::ReportBallast() {
   ReportWriter report(mark());
   report.Add("Ballast").EndLine(LineMark::Bold);
   const auto line = [&](std::string_view name, double part, double weight) {
-    RequireResult(Text39, weight);
+    Require(std::isfinite(weight), Text39, "is too large to be calculated with.");
     report.Add(name).Add<"0.00">(part * 100, kPercentWidth).Add("%     ");
     report.Add<"0.00">(weight, kWeightWidth).Add("#").EndLine();
   };
@@ -224,7 +254,7 @@ void CornerWeightsPage::PlaceBallast() {
 void CornerWeightsPage::PutBallastOnCorners() {
   const BallastShare share = ReadBallast();
   const double ballast = block().Ballast;
-  const Corners weights = ReadCorners(Weights).Each(
+  const Corners weights = ReadUnsignedCorners(Weights).Each(
       share.OnCorners(), [&](double weight, double part) { return weight + ballast * part; });
   const double lowest =
       std::min({weights.leftFront, weights.rightFront, weights.leftRear, weights.rightRear});

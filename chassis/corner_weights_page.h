@@ -22,11 +22,12 @@ class CornerWeightsPage : public ChassisPart {
 
   /// Refuses weights of which no percentages can be computed, before anything is changed.
   void RequireShares(const Corners& weights);
-  static void RequireNoneNegative(CornerFields& fields, const Corners& values);
   /// Stores the corners' percentages and what follows from the corners.
   void StorePercents(const Corners& weights);
   /// Stores the sums of front, rear, left, right and diagonal, and their percentages.
   void StoreSides(const Corners& weights);
+  /// The car's weight as it stands, which may not be negative.
+  double ReadCarWeight();
   /// Parses ballast, its place and the chassis. @return what parts of it stand where
   BallastShare ReadBallast();
   /// Draws the car as its weights stand now, or nothing where they are none.

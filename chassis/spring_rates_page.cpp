@@ -1,5 +1,8 @@
 #include "chassis/spring_rates_page.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "chassis/wheel_rates.h"
 
 namespace veldox {
@@ -8,6 +11,10 @@ namespace {
 
 constexpr const char* kNothingSprung =
     "must be smaller than the weight of its corner: nothing would rest on the spring.";
+constexpr const char* kNothingLeft =
+    "and the others leave nothing of the car to rest on the springs.";
+constexpr const char* kTooStiff =
+    "and the rates at the wheels make a roll stiffness that is too large. Please check them.";
 constexpr double kSecondsPerMinute = 60;
 
 }  // namespace
@@ -16,8 +23,19 @@ SpringRatesPage::SpringRatesPage(Screen& screen, ScreenPage& page, CornerWeights
                                  UnsprungWeights& unsprung)
     : ChassisPart(screen), page_(page), corners_(corners), unsprung_(unsprung) {}
 
+void UnsprungWeights::RequireSprung(double carWeight, const Corners& unsprung) {
+  if (carWeight - unsprung.Sum() > 0) return;
+  // The heaviest is the likeliest to be wrong.
+  const double heaviest =
+      std::max({unsprung.leftFront, unsprung.rightFront, unsprung.leftRear, unsprung.rightRear});
+  Require(unsprung.leftFront != heaviest, Weights.leftFront, kNothingLeft);
+  Require(unsprung.rightFront != heaviest, Weights.rightFront, kNothingLeft);
+  Require(unsprung.leftRear != heaviest, Weights.leftRear, kNothingLeft);
+  Require(unsprung.rightRear != heaviest, Weights.rightRear, kNothingLeft);
+}
+
 Corners SpringRatesPage::ReadSprungWeights() {
-  const Corners sprung = ReadCorners(corners_.Weights)
+  const Corners sprung = ReadUnsignedCorners(corners_.Weights)
                              .Each(unsprung_.ReadWeights(), [](double weight, double unsprung) {
                                return weight - unsprung;
                              });
@@ -29,84 +47,75 @@ Corners SpringRatesPage::ReadSprungWeights() {
   return sprung;
 }
 
-Corners SpringRatesPage::ReadWheelRates() {
-  return ReadCorners(WheelRates).Each(barWheelRates_, [](double spring, double bar) {
-    return spring + bar;
-  });
+double SpringRatesPage::ReadBarRate(Field& field) {
+  ReadFields({&field});
+  const double rate = Read(field);
+  RequireNotNegative(field, rate);
+  return rate;
 }
 
-Axles SpringRatesPage::ReadTrackWidths() {
+SpringRatesPage::AtWheels SpringRatesPage::SolveStiffness() {
+  const Corners rates = ReadUnsignedCorners(SpringRates);
+  const Corners moves = ReadUnsignedCorners(SpringMoves);
+  const Corners barMoves = ReadUnsignedCorners(BarMoves);
+  const double frontBar = ReadBarRate(Text111);
+  const double rearBar = ReadBarRate(Text112);
   ReadFields({&Text113, &Text114});
-  return {block().FrontTrackWidth, block().RearTrackWidth};
-}
+  const Axles tracks{block().FrontTrackWidth, block().RearTrackWidth};
 
-std::vector<std::string> SpringRatesPage::StiffnessTexts() const {
-  std::vector<std::string> texts;
-  for (const CornerFields* fields : {&SpringRates, &SpringMoves, &BarMoves}) {
-    for (const Field* field :
-         {&fields->leftFront, &fields->rightFront, &fields->leftRear, &fields->rightRear}) {
-      texts.push_back(field->text());
-    }
-  }
-  for (const Field* field : {&Text111, &Text112, &Text113, &Text114}) {
-    texts.push_back(field->text());
-  }
-  return texts;
-}
-
-void SpringRatesPage::Bring() {
-  if (calculatedFrom_ != StiffnessTexts()) Calculate();
+  const AtWheels at{rates.Each(moves, WheelRate),
+                    Corners{frontBar, frontBar, rearBar, rearBar}.Each(barMoves, WheelRate)};
+  RequireFinite(WheelRates, at.springs);
+  RequireFinite(BarWheelRates, at.bars);
+  const Axles stiffness{RollStiffness(tracks.front, at.springs.leftFront, at.springs.rightFront,
+                                      at.bars.leftFront, at.bars.rightFront),
+                        RollStiffness(tracks.rear, at.springs.leftRear, at.springs.rightRear,
+                                      at.bars.leftRear, at.bars.rightRear)};
+  Require(std::isfinite(stiffness.front), Text113, kTooStiff);
+  Require(std::isfinite(stiffness.rear), Text114, kTooStiff);
+  StoreCorners(BarWheelRates, at.bars);
+  Store(Text124, stiffness.front);
+  Store(Text125, stiffness.rear);
+  Show(Text126, stiffness.front / stiffness.Sum() * 100,
+       {&Text113, &Text114, &SpringRates.leftFront, &SpringMoves.leftFront});
+  Show(Text127, stiffness.rear / stiffness.Sum() * 100);
+  return at;
 }
 
 void SpringRatesPage::Calculate() {
-  calculatedFrom_.clear();
   const Corners sprung = ReadSprungWeights();
-  const Corners rates = ReadCorners(SpringRates);
-  const Corners moves = ReadCorners(SpringMoves);
-  const Corners barMoves = ReadCorners(BarMoves);
-  ReadFields({&Text111, &Text112});
-  const Axles tracks = ReadTrackWidths();
-  const ParameterBlock& b = block();
-
-  StoreCorners(SprungWeights, sprung);
-  const Corners wheelRates = rates.Each(moves, WheelRate);
+  const Corners wheelRates = SolveStiffness().springs;
+  const Corners deflections = wheelRates.Each(sprung, StaticDeflection);
+  RequireFinite(Deflections, deflections, SpringRates, SpringMoves);
   StoreCorners(WheelRates, wheelRates);
-  barWheelRates_ = {WheelRate(b.FrontSwayBarRate, barMoves.leftFront),
-                    WheelRate(b.FrontSwayBarRate, barMoves.rightFront),
-                    WheelRate(b.RearSwayBarRate, barMoves.leftRear),
-                    WheelRate(b.RearSwayBarRate, barMoves.rightRear)};
-  StoreCorners(BarWheelRates, barWheelRates_);
   const Corners frequencies = wheelRates.Each(sprung, SuspensionFrequency);
   StoreCorners(Frequencies, frequencies);
-  StoreCorners(Hertz, frequencies.Each([](double cpm) { return cpm / kSecondsPerMinute; }));
-  StoreCorners(Deflections, wheelRates.Each(sprung, StaticDeflection), WheelRates);
-
-  const Corners& bars = barWheelRates_;
-  const Axles stiffness{RollStiffness(tracks.front, wheelRates.leftFront, wheelRates.rightFront,
-                                      bars.leftFront, bars.rightFront),
-                        RollStiffness(tracks.rear, wheelRates.leftRear, wheelRates.rightRear,
-                                      bars.leftRear, bars.rightRear)};
-  Store(Text124, stiffness.front);
-  Store(Text125, stiffness.rear);
-  Show(Text126, stiffness.front / stiffness.Sum() * 100, {&Text113, &Text114});
-  Show(Text127, stiffness.rear / stiffness.Sum() * 100);
-  calculatedFrom_ = StiffnessTexts();
+  StoreOnSprings(sprung, frequencies, deflections);
 }
 
 void SpringRatesPage::SolveWheelRates() {
   const Corners sprung = ReadSprungWeights();
-  const Corners frequencies = ReadCorners(Frequencies);
+  const Corners frequencies = ReadUnsignedCorners(Frequencies);
   const Corners wheelRates = frequencies.Each(sprung, WheelRateForFrequency);
-  StoreCorners(SprungWeights, sprung);
+  RequireFinite(WheelRates, wheelRates);
+  const Corners deflections = wheelRates.Each(sprung, StaticDeflection);
+  RequireFinite(Deflections, deflections, Frequencies);
   StoreCorners(WheelRates, wheelRates);
+  StoreOnSprings(sprung, frequencies, deflections);
+}
+
+void SpringRatesPage::StoreOnSprings(const Corners& sprung, const Corners& frequencies,
+                                     const Corners& deflections) {
+  StoreCorners(SprungWeights, sprung);
   StoreCorners(Hertz, frequencies.Each([](double cpm) { return cpm / kSecondsPerMinute; }));
-  StoreCorners(Deflections, wheelRates.Each(sprung, StaticDeflection), Frequencies);
+  StoreCorners(Deflections, deflections);
 }
 
 void SpringRatesPage::SolveSpringRates() {
-  const Corners wheelRates = ReadCorners(WheelRates);
-  StoreCorners(SpringRates, wheelRates.Each(ReadCorners(SpringMoves), SpringRateForWheel),
-               SpringMoves);
+  const Corners rates =
+      ReadUnsignedCorners(WheelRates).Each(ReadUnsignedCorners(SpringMoves), SpringRateForWheel);
+  RequireFinite(SpringRates, rates, SpringMoves);
+  StoreCorners(SpringRates, rates);
 }
 
 void SpringRatesPage::SolveMovement() {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "chassis/corner_weights_page.h"
 #include "chassis/weight_transfer.h"
 
@@ -14,7 +11,9 @@ class UnsprungWeights : public ChassisPart {
  public:
   UnsprungWeights(Screen& screen, Frame& frame) : ChassisPart(screen), frame_(frame) {}
 
-  Corners ReadWeights() { return ReadCorners(Weights); }
+  Corners ReadWeights() { return ReadUnsignedCorners(Weights); }
+  /// Ends the command where the car weighs no more than what is unsprung of it.
+  void RequireSprung(double carWeight, const Corners& unsprung);
 
  private:
   Frame& frame_;
@@ -42,11 +41,15 @@ class SpringRatesPage : public ChassisPart {
   SpringRatesPage(Screen& screen, ScreenPage& page, CornerWeightsPage& corners,
                   UnsprungWeights& unsprung);
 
-  /// Calculates all results unless they stand for the springs that are shown.
-  void Bring();
-  /// Of spring and sway bar together, pounds an inch: as shown of the springs.
-  Corners ReadWheelRates();
-  Axles ReadTrackWidths();
+  /// What springs and sway bars do at the wheels, pounds an inch.
+  struct AtWheels {
+    Corners springs;
+    Corners bars;
+  };
+  /// Works out the roll stiffness of the springs and sway bars as they are entered, and shows it
+  /// with the rates of the bars. The wheel rates and frequencies stay as they are shown: they are
+  /// what the other commands of the page work with.
+  AtWheels SolveStiffness();
 
  private:
   void Calculate();
@@ -54,17 +57,18 @@ class SpringRatesPage : public ChassisPart {
   void SolveSpringRates();
   void SolveMovement();
 
-  /// Parses the corners' weights and what of them is unsprung, and shows what the springs carry.
+  /// Parses the corners' weights and what of them is unsprung. @return what the springs carry
   /// @throws CommandError where that is nothing
   Corners ReadSprungWeights();
-  /// What the roll stiffness comes from, as it stands.
-  std::vector<std::string> StiffnessTexts() const;
+  /// Shows what the springs carry, and what it makes of them.
+  void StoreOnSprings(const Corners& sprung, const Corners& frequencies,
+                      const Corners& deflections);
+  /// Parses a sway bar's rate.
+  double ReadBarRate(Field& field);
 
   ScreenPage& page_;
   CornerWeightsPage& corners_;
   UnsprungWeights& unsprung_;
-  Corners barWheelRates_;
-  std::vector<std::string> calculatedFrom_;
 
  public:
   Frame SpringFrame{page_, "SpringFrame", "Springs and Sway Bars at the Wheels", 0};

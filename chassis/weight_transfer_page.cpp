@@ -5,9 +5,8 @@ namespace veldox {
 namespace {
 
 constexpr const char* kNoCenter =
-    "makes a center of gravity that is not above the ground. It must be more than Weight Front.";
-constexpr const char* kNothingSprung =
-    "and the others leave nothing of the car to rest on the springs.";
+    "makes a center of gravity that is not above the ground. Please check it, Weight Front and the "
+    "heights.";
 
 }  // namespace
 
@@ -20,20 +19,26 @@ void WeightTransferPage::FindCenter(LiftRule rule) {
   ReadFields({&c.Text9, &c.Text10, &c.Text20, &Text23, &Text24, &Text22, &c.Text21, &c.Text13});
   const Corners unsprung = unsprung_.ReadWeights();
   const ParameterBlock& b = block();
+  RequireNotNegative(Text23, b.HeightFrontWheelHub);
+  RequireNotNegative(Text24, b.HeightRearWheel);
+  const bool isUnderHub = rule == LiftRule::Hub && b.HeightRearWheel <= b.HeightFrontWheelHub;
+  Require(!isUnderHub, Text24, "must be more than Height Front Wheel Hub.");
+  RequireNotNegative(c.Text9, b.CarWeight);
+  RequireNotNegative(c.Text10, b.WeightFront);
+  RequireNotNegative(c.Text13, b.WeightRight);
+  RequirePositive(Text22, b.RaisedWeightFront);
   const double height =
       VerticalCenter({b.CarWeight, b.WeightFront, b.WheelBase, b.HeightFrontWheelHub,
                       b.HeightRearWheel, b.RaisedWeightFront},
                      rule);
-  const bool isAtHub = rule == LiftRule::Hub && b.HeightRearWheel == b.HeightFrontWheelHub;
-  Require(!isAtHub, Text24, "must be more than Height Front Wheel Hub.");
   RequireResult(Text26, height, {&c.Text9, &Text24});
   Require(height > 0, Text22, kNoCenter);
   Store(Text25, HorizontalCenter(b.CarWeight, b.WeightFront, b.WheelBase), {&c.Text9});
   Store(Text26, height);
   Store(Text35_0, LateralCenter(b.CarWeight, b.WeightRight, b.TrackWidth), {&c.Text9});
+  unsprung_.RequireSprung(b.CarWeight, unsprung);
   const SprungMass sprung =
       SprungMassOf(b.CarWeight, b.WeightFront, b.WeightRight, unsprung, b.WheelBase, b.TrackWidth);
-  Require(sprung.weight > 0, unsprung_.Weights.leftFront, kNothingSprung);
   Store(Text35_1, sprung.weight);
   Store(Text35_2, sprung.horizontalCenter);
   Store(Text35_3, sprung.lateralCenter);
@@ -46,19 +51,22 @@ void WeightTransferPage::FindCenter(LiftRule rule) {
 }
 
 void WeightTransferPage::TransferWeight() {
-  springs_.Bring();
+  const SpringRatesPage::AtWheels springs = springs_.SolveStiffness();
+  ReadFields({&corners_.Text9});
   const Corners unsprung = unsprung_.ReadWeights();
-  TransferLaterally(unsprung);
+  RequirePositive(corners_.Text9, block().CarWeight);
+  unsprung_.RequireSprung(block().CarWeight, unsprung);
+  TransferLaterally(unsprung, springs);
   TransferLengthwise(unsprung);
 }
 
-void WeightTransferPage::TransferLaterally(const Corners& unsprung) {
+void WeightTransferPage::TransferLaterally(const Corners& unsprung,
+                                           const SpringRatesPage::AtWheels& springs) {
   CornerWeightsPage& c = corners_;
-  ReadFields({&Text31, &Text26, &Text33, &Text34, &Text25, &c.Text9, &c.Text10, &c.Text11,
-              &c.Text15, &c.Text21});
-  const Axles tracks = springs_.ReadTrackWidths();
-  const Corners wheelRates = springs_.ReadWheelRates();
+  ReadFields(
+      {&Text31, &Text26, &Text33, &Text34, &Text25, &c.Text10, &c.Text11, &c.Text15, &c.Text21});
   const ParameterBlock& b = block();
+  const Axles tracks{b.FrontTrackWidth, b.RearTrackWidth};
   const RollTransfer roll =
       RollTransferOf({b.SkidPadGs,
                       b.CarWeight,
@@ -69,7 +77,21 @@ void WeightTransferPage::TransferLaterally(const Corners& unsprung) {
                       {b.FrontRollCenterHeight, b.RearRollCenterHeight},
                       tracks,
                       {b.FrontRollStiffness, b.RearRollStiffness}});
-  Store(Text35_8, roll.rollAxisHeight, {&c.Text21, &springs_.Text113, &springs_.Text114});
+  // The first that is none tells what it comes from.
+  RequireFinite(Text35_8, roll.rollAxisHeight);
+  RequireFinite(Text35_9, roll.rollAxisToCenter);
+  RequireFinite(Text37, roll.weightTransfer, {&c.Text21});
+  RequireFinite(Text35_10, roll.rollMoment);
+  RequireFinite(Text35_11, roll.rollAngle);
+  RequireFinite(Text35_12, roll.rolling.front, {&springs_.Text113});
+  RequireFinite(Text35_13, roll.rolling.rear, {&springs_.Text114});
+  RequireFinite(Text35_14, roll.nonRolling.front, {&springs_.Text113});
+  RequireFinite(Text35_15, roll.nonRolling.rear, {&springs_.Text114});
+  const Corners travel = WheelTravel(
+      roll.total,
+      springs.springs.Each(springs.bars, [](double spring, double bar) { return spring + bar; }));
+  RequireFinite(Travel, travel, springs_.SpringRates, springs_.SpringMoves);
+  Store(Text35_8, roll.rollAxisHeight);
   Store(Text35_9, roll.rollAxisToCenter);
   Store(Text37, roll.weightTransfer);
   Store(Text35_10, roll.rollMoment);
@@ -80,7 +102,7 @@ void WeightTransferPage::TransferLaterally(const Corners& unsprung) {
   Show(Text35_15, roll.nonRolling.rear);
   Show(Text35_16, roll.total.front);
   Show(Text35_17, roll.total.rear);
-  StoreCorners(Travel, WheelTravel(roll.total, wheelRates), springs_.WheelRates);
+  StoreCorners(Travel, travel);
   StoreCorners(Deflection, RollDeflection(tracks, roll.rollAngle));
 }
 
@@ -90,13 +112,13 @@ void WeightTransferPage::TransferLengthwise(const Corners& unsprung) {
   const ParameterBlock& b = block();
   const LengthwiseTransfer whole =
       LengthwiseTransferOf(b.LongAcelGs, b.CarWeight, b.WeightFront, b.VerticalCG, b.WheelBase);
-  Show(Text35_26, whole.shift, {&c.Text20, &c.Text9});
+  RequireFinite(Text35_26, whole.shift, {&c.Text20});
+  Show(Text35_26, whole.shift, {&c.Text9});
   Show(Text35_27, whole.front);
   Show(Text35_28, whole.frontPercent);
   Show(Text35_29, whole.rear);
   Show(Text35_30, whole.rearPercent);
   const double sprungWeight = b.CarWeight - unsprung.Sum();
-  Require(sprungWeight > 0, unsprung_.Weights.leftFront, kNothingSprung);
   const LengthwiseTransfer sprung = LengthwiseTransferOf(
       b.LongAcelGs, sprungWeight, b.WeightFront - unsprung.Front(), b.VerticalCG, b.WheelBase);
   Store(Text35_1, sprungWeight);

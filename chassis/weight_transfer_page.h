@@ -17,7 +17,7 @@ class WeightTransferPage : public ChassisPart {
   void FindCenterByHub() { FindCenter(LiftRule::Hub); }
   void FindCenter(LiftRule rule);
   void TransferWeight();
-  void TransferLaterally(const Corners& unsprung);
+  void TransferLaterally(const Corners& unsprung, const SpringRatesPage::AtWheels& springs);
   void TransferLengthwise(const Corners& unsprung);
 
   ScreenPage& page_;

@@ -43,6 +43,10 @@ void AppearancePanel::TellChanged() {
   Combo3.Choose(static_cast<int>(NearestAlignment(block().EntryBoxAlignment)));
   Combo4.Choose(static_cast<int>(NearestStyle(block().EntryBoxStyle)));
   Combo5.Choose(static_cast<int>(NearestStyle(block().OptionCheckBoxStyle)));
+  TellListener();
+}
+
+void AppearancePanel::TellListener() const {
   if (listener_) listener_();
 }
 

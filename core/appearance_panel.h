@@ -25,6 +25,8 @@ class AppearancePanel : public ScreenPart {
   void FillLists();
   /// Puts the shared values on the lists and tells the listener.
   void TellChanged();
+  /// Tells that the appearance has changed, where the panel shows it already.
+  void TellListener() const;
   /// The user has picked a row of one of the lists.
   void Picked(const Control& list);
 

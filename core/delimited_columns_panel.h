@@ -5,6 +5,7 @@
 
 #include "core/delimited_file.h"
 #include "core/entry_panel.h"
+#include "core/kept.h"
 
 namespace veldox {
 
@@ -33,7 +34,7 @@ class DelimitedColumnsPanel final : public EntryPanel {
  private:
   void ReadEntries() override;
   int ReadColumn(Field& field) const;
-  Columns columns_;
+  Kept<Columns> columns_{screen()};
 
  public:
   Frame Frame8{screen(), "Frame8", "Fields of a Delimited File"};

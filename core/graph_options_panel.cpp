@@ -62,6 +62,10 @@ void GraphOptionsPanel::ShowOptions() {
 
 void GraphOptionsPanel::TellChanged() {
   ShowOptions();
+  TellListener();
+}
+
+void GraphOptionsPanel::TellListener() const {
   if (listener_) listener_();
 }
 

@@ -20,6 +20,8 @@ class GraphOptionsPanel : public ScreenPart {
   void ShowOptions();
   /// Shows the options and tells the listener.
   void TellChanged();
+  /// Tells that options have changed, where the panel shows them already.
+  void TellListener() const;
   /// Words the help of a control by what it would change now.
   void RefreshHelp(const Control* control);
 

@@ -160,7 +160,7 @@ class Host {
   // Pictures need windows. Without them they are refused.
 
   /// Who makes the pictures; null when the windows have gone.
-  void SetPictureMaker(PictureMaker* maker) { pictures_ = maker; }
+  virtual void SetPictureMaker(PictureMaker* maker) { pictures_ = maker; }
   /// A picture as the bytes of its file. @throws CommandError (File)
   virtual PictureResult EncodePicture(const PictureRequest& request);
   /// The size of a picture from the bytes of its file.

@@ -23,8 +23,7 @@ constexpr KeyRow Comment(std::string_view line) {
   return {line, KeyForm::Comment, {}, {}};
 }
 
-template <class T>
-constexpr KeyRow Key(std::string_view key, KeyForm form, T P::*member, std::string_view owner) {
+constexpr KeyRow Key(std::string_view key, KeyForm form, KeyMember member, std::string_view owner) {
   return {key, form, member, owner};
 }
 
@@ -52,6 +51,12 @@ constexpr KeyRow Table(std::string_view key, TableForm form, int firstRow, std::
   row.rows = static_cast<int>(std::tuple_size_v<Array>);
   if constexpr (std::is_same_v<Element, LiftPair>) row.rowWidth = 2;
   if constexpr (std::is_same_v<Element, NitrousStage>) row.rowWidth = 5;
+  return row;
+}
+
+constexpr KeyRow ColumnOf(std::string_view table, KeyRow row) {
+  row.columnOf = table;
+  row.rowWidth = 1;
   return row;
 }
 
@@ -222,7 +227,7 @@ constexpr KeyRow kTable[] = {
     Key("Exh Advance Retard", KeyForm::FieldText, &P::ExhAdvanceRetard, "Form4.Text75"),
     Key("A-F Lobe Sep Angle", KeyForm::FieldText, &P::AFLobeSepAngle, "Form4.Text76"),
     Key("Valve to Piston Cl", KeyForm::FieldText, &P::ValvetoPistonCl, "Form4.Text77"),
-    Table<&P::LiftTable>("Lift Table", TableForm::Fields, 0, "Form4"),
+    ColumnOf("IntakeLift", Table<&P::IntakeLiftTable>("Lift Table", TableForm::Fields, 0, "Form4")),
     Key("H Factor", KeyForm::FieldText, &P::HFactor, "Form4.Text114"),
     Key("AirFuel Option5", KeyForm::Integer, &P::AirFuelOption5, "Form4.Option5"),
     Key("Show Dots", KeyForm::YesNo, &P::ShowDots, "Form4.Check1(0)"),

@@ -18,7 +18,8 @@ bool Panel::isOpen() const {
 }
 
 void Panel::Open() {
-  if (!isOpen()) before_ = screen().focus();
+  if (!isOpen()) Assign(before_, screen().focus(), Aspect::Place);
+  screen().context().journal.Keep(screen().openPanels_, &screen(), Aspect::Place);
   std::erase(screen().openPanels_, this);
   screen().openPanels_.push_back(this);
   SetVisible(true);
@@ -28,9 +29,11 @@ void Panel::Open() {
 
 void Panel::PutAway() {
   if (!isOpen()) return;
+  screen().context().journal.Keep(screen().openPanels_, &screen(), Aspect::Place);
   std::erase(screen().openPanels_, this);
   SetVisible(false);
-  Control* before = std::exchange(before_, nullptr);
+  Control* before = before_;
+  Assign(before_, nullptr, Aspect::Place);
   if (before != nullptr && before->Reachable() && before->enabled()) {
     before->Focus();
   } else if (screen().focus() != nullptr && !screen().focus()->Reachable()) {

@@ -44,11 +44,11 @@ struct CamSteps {
   double Exhaust = 0;
 };
 
-/// The one store of values that all screens share. A member is named after its key
-/// in the parameter file; lengths are inches, volumes cubic inches or cc as the
-/// screens say, weights pounds, pressures psi or inches of mercury, temperatures
-/// degrees Fahrenheit, speeds MPH, as long as no screen is switched to Metric.
-struct ParameterBlock {
+/// The numbers that all screens share. A member is named after its key in the parameter
+/// file; lengths are inches, volumes cubic inches or cc as the screens say, weights pounds,
+/// pressures psi or inches of mercury, temperatures degrees Fahrenheit, speeds MPH, as long
+/// as no screen is switched to Metric.
+struct SharedNumbers {
   // Engine
   double Bore{4.0};
   double Stroke{3.25};
@@ -220,7 +220,6 @@ struct ParameterBlock {
   double ExhAdvanceRetard{0};
   double AFLobeSepAngle{0};
   double ValvetoPistonCl{0};
-  std::array<double, 16> LiftTable{};
   double HFactor{0};
   std::int16_t AirFuelOption5{0};
   std::int16_t ShowDots{0};
@@ -426,7 +425,6 @@ struct ParameterBlock {
   double DynoBP{0};
   double DynoVP{0};
   double DynoTemp{0};
-  std::string SmoothHPGraph;
   double GraphDynoXHigh{0};
   double GraphDynoYHigh{0};
   double GraphDynoYLow{0};
@@ -528,22 +526,18 @@ struct ParameterBlock {
   std::int16_t OptionCheckBoxStyle{1};
   std::int16_t LargeScreen{0};
   std::int16_t FullScreen{0};
-  std::string EntryBoxFontName;
   std::int16_t EntryBoxFontSize{0};
   std::int16_t EntryBoxFontBold{0};
   std::int16_t EntryBoxFontItalic{0};
   std::int16_t EntryBoxAlignment{2};
   std::int16_t EntryBoxStyle{1};
-  std::string LabelBoxFontName;
   std::int16_t LabelBoxFontSize{0};
   std::int16_t LabelBoxFontBold{0};
   std::int16_t LabelBoxFontItalic{0};
   std::int32_t LabelBoxColor{0};
-  std::string CommandButtonFontName;
   std::int16_t CommandButtonFontSize{0};
   std::int16_t CommandButtonFontBold{0};
   std::int16_t CommandButtonFontItalic{0};
-  std::string HelpBoxFontName;
   std::int16_t HelpBoxFontSize{0};
   std::int16_t HelpBoxFontBold{0};
   std::int16_t HelpBoxFontItalic{0};
@@ -584,15 +578,33 @@ struct ParameterBlock {
   /// 1: of a Cam Doctor file. Its rows begin at index 0, the closing zero stands one before the
   /// counts, and its steps are cam degrees.
   std::int16_t LiftsOfCamDoctor{0};
-  std::string CamFileHeader;    ///< comment lines that a conversion writes again
-  std::string CurrentFileName;  ///< path of the lift file
-  std::string CamFileTitle;     ///< its name without the folder
 
   // Values without a record of their own in the file
   double RodLength2{6.2};
   double BalancerDiameter{6.75};  ///< inches
   double Overlap{0};              ///< crank degrees
   double PistonArea{0};
+
+  // Switches and work values of the program
+  std::int16_t DecimalCommaMode{0};
+  std::int16_t MetricSwitch{0};  ///< 1 while a screen's "Metric" box is ticked
+  double MetricFactor{1};        ///< factor of the last toggle: 25.4 or 1 / 25.4
+  std::int16_t FormsCleared{0};  ///< 1 from Clear on: openers no longer copy values
+};
+
+/// The texts that all screens share.
+struct SharedTexts {
+  std::string SmoothHPGraph;
+  std::string EntryBoxFontName;
+  std::string LabelBoxFontName;
+  std::string CommandButtonFontName;
+  std::string HelpBoxFontName;
+
+  // Of the lift tables
+  std::string CamFileHeader;    ///< comment lines that a conversion writes again
+  std::string CurrentFileName;  ///< path of the lift file
+  std::string CamFileTitle;     ///< its name without the folder
+
   std::string Notes;
 
   // The company block of printed pages
@@ -602,19 +614,22 @@ struct ParameterBlock {
   std::string CompanyPhone;
   std::string CompanyWebSite;
 
-  // Switches and work values of the program
-  std::int16_t DecimalCommaMode{0};
-  std::int16_t MetricSwitch{0};       ///< 1 while a screen's "Metric" box is ticked
-  double MetricFactor{1};             ///< factor of the last toggle: 25.4 or 1 / 25.4
+  std::string ParameterFileName;
+};
+
+/// Where the user is and what is to be saved: what undoing a step does not put back.
+struct ProgramMarks {
   std::int16_t DataChanged{0};        ///< 1 when something was changed since the last Read or Write
   std::int16_t OptionFieldActive{0};  ///< 1 while an option field of the main window has the focus
   std::int16_t FieldMouseDown{0};     ///< 1 between mouse press and release on a field
-  std::int16_t FormsCleared{0};       ///< 1 from Clear on: openers no longer copy values
   std::int16_t ExitInProgress{0};
   std::int16_t ExitFromWindowClose{0};  ///< kWindowCloseMarker when the window's close box asked
   std::string CurrentScreenTag;
-  std::string ParameterFileName;
 };
+
+/// The one store of values that all screens share. What changes in it is found by comparing:
+/// the numbers as plain memory, the texts one by one (`core/block_mirror.h`).
+struct ParameterBlock : SharedNumbers, SharedTexts, ProgramMarks {};
 
 /// One number of a table by its row and column. @throws std::out_of_range beyond the bounds
 template <auto Member>

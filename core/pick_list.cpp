@@ -128,27 +128,28 @@ PickList::PickList(Frame& frame, std::string name, std::string caption, std::str
       handler_(std::move(handler)) {}
 
 void PickList::Offer(std::vector<PickRow> rows, PickPlace place) {
-  all_ = std::move(rows);
-  searched_.clear();
-  words_.clear();
+  Assign(all_, std::move(rows), Aspect::Place);
+  Assign(searched_, std::vector<std::string>{}, Aspect::Place);
+  Assign(words_, std::string{}, Aspect::Place);
   const int size = static_cast<int>(all_.size());
-  picked_ = -1;
-  place_ = {place.picked < size ? place.picked : -1,
-            std::clamp(place.top, 0, std::max(size - 1, 0))};
-  count_ = static_cast<int>(std::count_if(all_.begin(), all_.end(), IsName));
-  ++offers_;
+  Assign(place_,
+         PickPlace{place.picked < size ? place.picked : -1,
+                   std::clamp(place.top, 0, std::max(size - 1, 0))},
+         Aspect::Place);
+  Assign(count_, static_cast<int>(std::count_if(all_.begin(), all_.end(), IsName)), Aspect::Place);
+  Assign(offers_, offers_ + 1, Aspect::Place);
   ShowRows();
 }
 
 void PickList::SetTop(int index) {
   if (words_.empty() && index >= 0 && static_cast<std::size_t>(index) < all_.size()) {
-    place_.top = index;
+    Assign(place_, PickPlace{place_.picked, index}, Aspect::Place);
   }
 }
 
 void PickList::Narrow(std::string words) {
   if (words == words_) return;
-  words_ = std::move(words);
+  Assign(words_, std::move(words), Aspect::Place);
   ShowRows();
   HoverRow(words_.empty() ? -1 : current_);
 }
@@ -204,9 +205,24 @@ void PickList::FindRows(const std::vector<std::string_view>& words) {
   std::reverse(shown_.begin(), shown_.end());
 }
 
+int PickList::RowOf(int index) const {
+  const auto found = std::lower_bound(shown_.begin(), shown_.end(), index);
+  const bool inSight = index >= 0 && found != shown_.end() && *found == index;
+  return inSight ? static_cast<int>(found - shown_.begin()) : -1;
+}
+
+void PickList::PutBack() {
+  SetChosen(RowOf(picked()));
+  TellFace();
+}
+
 void PickList::ShowRows() {
   const std::string folded = Folded(words_);
   const std::vector<std::string_view> wanted = Words(folded);
+  for (int* number : {&shownCount_, &current_}) {
+    screen().context().journal.Keep(*number, this, Aspect::Place);
+  }
+  screen().context().journal.Keep(shown_, this, Aspect::Place);
   shown_.clear();
   shownCount_ = 0;
   if (wanted.empty()) {
@@ -219,18 +235,13 @@ void PickList::ShowRows() {
   std::vector<std::string> texts;
   texts.reserve(shown_.size());
   for (int row = 0; row < static_cast<int>(shown_.size()); ++row) texts.push_back(RowAt(row).text);
-  const auto rowOf = [&](int index) {
-    const auto found = std::lower_bound(shown_.begin(), shown_.end(), index);
-    const bool inSight = index >= 0 && found != shown_.end() && *found == index;
-    return inSight ? static_cast<int>(found - shown_.begin()) : -1;
-  };
-  Replace(std::move(texts), rowOf(picked_));
-  current_ = rowOf(place_.picked);
+  Replace(std::move(texts), RowOf(picked()));
+  current_ = RowOf(place_.picked);
   if (!wanted.empty()) {
     current_ = -1;
     Step(1);
   }
-  ++edition_;
+  Assign(edition_, edition_ + 1, Aspect::Place);
   Changed();
 }
 
@@ -266,13 +277,16 @@ void PickList::Step(int by) {
 }
 
 std::string PickList::chosenText() const {
-  return picked_ < 0 ? std::string{} : all_[static_cast<std::size_t>(picked_)].text;
+  return picked() < 0 ? std::string{} : all_[static_cast<std::size_t>(picked())].text;
 }
 
 void PickList::Choose(int row) {
   if (!HasRow(row) || RowAt(row).kind != PickRow::Kind::Choice) return;
-  picked_ = place_.picked = shown_[static_cast<std::size_t>(row)];
-  current_ = row;
+  const History::Step step(*this, History::Kind::Other);
+  const int index = shown_[static_cast<std::size_t>(row)];
+  Assign(picked_, Picked{index, offers_}, isOption() ? Aspect::Place : Aspect::Data);
+  Assign(place_, PickPlace{index, place_.top}, Aspect::Place);
+  Assign(current_, row, Aspect::Place);
   SetChosen(row);
   Changed();
   if (handler_ != nullptr) screen().Perform(handler_);

@@ -83,6 +83,8 @@ class PickList : public ComboList {
       : PickList(frame, std::move(name), std::move(caption), std::move(help),
                  HandlerOf(frame, handler)) {}
 
+  PickList(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
+
   /// Heads of the columns in which windows show the rows: one of the names, then one for each
   /// figure.
   void SetHeads(std::vector<std::string> heads) { heads_ = std::move(heads); }
@@ -125,13 +127,24 @@ class PickList : public ComboList {
   std::string Told(int row) const;
 
   std::string chosenText() const override;
+  void PutBack() override;
   /// Picks a row in sight; nothing for one that has nothing to pick.
   void Choose(int row) override;
   /// The pointer stands over a row in sight (below 0: over none).
   void HoverRow(int row);
 
  private:
-  PickList(Frame& frame, std::string name, std::string caption, std::string help, Handler handler);
+  /// The row picked from a list, which is another when other rows are offered.
+  struct Picked {
+    int index = -1;
+    unsigned offer = 0;
+    bool SameAs(const Picked& other) const { return index == other.index && offer == other.offer; }
+  };
+  /// Which rows are in sight tells where the user is.
+  Aspect rowAspect() const override { return Aspect::Place; }
+  /// Index of the row picked since the rows were put into the list, -1 for none.
+  int picked() const { return picked_.offer == offers_ ? picked_.index : -1; }
+  int RowOf(int index) const;
   void ShowRows();
   void Step(int by);
   void PrepareSearch();
@@ -144,7 +157,7 @@ class PickList : public ComboList {
   std::vector<int> shown_;
   std::string words_;
   PickPlace place_;
-  int picked_ = -1;  ///< index of the row picked since the rows were put into the list
+  Picked picked_;
   int current_ = -1;
   int count_ = 0;
   int shownCount_ = 0;

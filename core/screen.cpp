@@ -73,8 +73,12 @@ void Control::AppendReadingOrder(std::vector<Control*>& order) {
   order.push_back(this);
 }
 
+void Control::TellFace() {
+  if (face_ != nullptr && !screen_.context().journal.isDry()) face_->ControlChanged(*this);
+}
+
 void Control::Changed() {
-  if (face_ != nullptr) face_->ControlChanged(*this);
+  TellFace();
   for (const auto& follow : followers_) follow();
 }
 
@@ -85,19 +89,21 @@ void Control::NoteChange() const {
 
 void Control::SetCaption(std::string caption) {
   if (caption == caption_) return;
-  caption_ = std::move(caption);
+  const bool isHelp = this == screen_.HelpPlace();
+  Assign(caption_, std::move(caption), isHelp ? Aspect::Place : Aspect::Data);
   Changed();
 }
 
 void Control::SetHelp(std::string help) {
   if (help == help_) return;
-  help_ = std::move(help);
+  Assign(help_, std::move(help), Aspect::Place);
   Changed();
 }
 
 void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
-  visible_ = visible;
+  const bool isHelp = this == screen_.HelpPlace();
+  Assign(visible_, visible, isHelp ? Aspect::Place : visibility());
   Changed();
   // Frames inside show and go with it.
   if (kind_ != ControlKind::Frame) return;
@@ -108,19 +114,19 @@ void Control::SetVisible(bool visible) {
 
 void Control::SetEnabled(bool enabled) {
   if (enabled == enabled_) return;
-  enabled_ = enabled;
+  Assign(enabled_, enabled, Aspect::Look);
   Changed();
 }
 
 void Control::SetMark(Mark mark) {
   if (mark == mark_) return;
-  mark_ = mark;
+  Assign(mark_, mark, Aspect::Place);
   Changed();
 }
 
 void Control::Focus() {
   screen_.TakeFocus(this);
-  if (face_ != nullptr) face_->FocusRequested(*this);
+  if (face_ != nullptr && !screen_.context().journal.isDry()) face_->FocusRequested(*this);
 }
 
 // ---------------------------------------------------------------- the kinds of control
@@ -138,7 +144,8 @@ Frame::Frame(Frame& outer, std::string name, std::string caption, int column)
 
 Frame::Frame(Screen& screen, std::string name, std::string caption, Sheet)
     : Control(screen, nullptr, ControlKind::Frame, std::move(name), std::move(caption), {}),
-      column_(0) {
+      column_(0),
+      isSheet_(true) {
   screen.outermost_.push_back(this);
 }
 
@@ -157,8 +164,12 @@ TextControl::TextControl(Frame& frame, ControlKind kind, std::string name, std::
 
 void TextControl::SetText(std::string text) {
   if (text == text_) return;
-  text_ = std::move(text);
+  Assign(text_, std::move(text), textAspect());
   Changed();
+}
+
+Aspect TextControl::textAspect() const {
+  return this == screen().HelpPlace() ? Aspect::Place : Aspect::Data;
 }
 
 bool TextControl::CanHold(std::string_view text) const {
@@ -170,6 +181,7 @@ void TextControl::Edit(std::string text) {
     Changed();
     return;
   }
+  const History::Step step(*this, History::Kind::Entry);
   screen().context().rules.NoteChange();
   SetText(std::move(text));
   screen().Edited(*this);
@@ -182,7 +194,7 @@ char32_t TextControl::FilterKey(char32_t key) {
 
 void TextControl::RefuseKeys(bool refuse) {
   if (refuse == readOnly_) return;
-  readOnly_ = refuse;
+  Assign(readOnly_, refuse, Aspect::Look);
   Changed();
 }
 
@@ -201,6 +213,9 @@ Field::Field(Frame& frame, std::string name, std::string label, std::string defa
       unit_(entry.unit),
       holds_(entry.holds) {
   SetLeaveCheck(entry.check);
+  if (holds_.isShared()) return;
+  const Holds::Slot slot = holds_.In(screen().block());
+  if (auto* const* own = std::get_if<double*>(&slot)) screen().context().journal.Watch(**own);
 }
 
 const UnitRule* Field::conversion() const {
@@ -212,6 +227,13 @@ TextArea::TextArea(Frame& frame, std::string name, std::string label)
     : TextControl(frame, ControlKind::TextArea, std::move(name), std::move(label), {},
                   KeyRule::AnyText, {}) {}
 
+namespace {
+
+/// Heads a report that has no line which is not printed.
+constexpr std::string_view kNoPrompt = "\r\n";
+
+}  // namespace
+
 ReportBox::ReportBox(Frame& frame, std::string name)
     : TextControl(frame, ControlKind::ReportBox, std::move(name), {}, {}, KeyRule::OutputOnly, {}) {
   SetVisible(false);
@@ -220,30 +242,28 @@ ReportBox::ReportBox(Frame& frame, std::string name)
 void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& file,
                            PagePicture picture) {
   std::string shown = ReportBoxText(report);
-  report_ = file.isWhole ? "\r\n" + report : std::move(report);
-  file_ = file;
-  picture_ = std::move(picture);
-  fontSize_ = fontSize;
-  showsReport_ = true;
+  Assign(shown_,
+         Shown{file.isWhole ? std::string(kNoPrompt) + report : std::move(report), fontSize, file,
+               std::move(picture), true},
+         reportAspect());
   SetText(std::move(shown));
   SetVisible(true);
-  if (screen().focus() != this) before_ = screen().focus();
+  if (screen().focus() != this) Assign(before_, screen().focus(), Aspect::Place);
   // The report's keys work at once.
   Focus();
 }
 
 void ReportBox::ShowSentence(std::string sentence) {
   if (sentence == sentence_) return;
-  sentence_ = std::move(sentence);
+  Assign(sentence_, std::move(sentence), Aspect::Place);
   Changed();
 }
 
 void ReportBox::CloseReport() {
-  report_.clear();
-  picture_ = {};
-  sentence_.clear();
-  showsReport_ = false;
-  Control* before = std::exchange(before_, nullptr);
+  if (shown_.isThere) Assign(shown_, Shown{}, reportAspect());
+  Assign(sentence_, std::string{}, Aspect::Place);
+  Control* before = before_;
+  if (before != nullptr) Assign(before_, nullptr, Aspect::Place);
   // The keyboard may also be on one of the buttons that a window has beside the report.
   const bool hadFocus = screen().focus() == this || screen().focus() == nullptr;
   if (hadFocus && before != nullptr) before->Focus();
@@ -251,8 +271,16 @@ void ReportBox::CloseReport() {
   SetText({});
 }
 
+void ReportBox::PutBack() {
+  std::string_view report = shown_.report;
+  if (shown_.file.isWhole) report.remove_prefix(kNoPrompt.size());
+  Derive(shown_.isThere ? ReportBoxText(report) : std::string{});
+  SetVisible(shown_.isThere);
+  TellFace();
+}
+
 char32_t ReportBox::FilterKey(char32_t key) {
-  if (!showsReport_) return TextControl::FilterKey(key);
+  if (!showsReport()) return TextControl::FilterKey(key);
   bool done = true;
   if (key == U'.' || key == U',') {
     done = screen().Perform([this, key] {
@@ -270,12 +298,12 @@ char32_t ReportBox::FilterKey(char32_t key) {
 
 void ReportBox::WriteReportToFile() const {
   Host& host = screen().context().host;
-  const auto path =
-      host.AskFile({FileDialog::Kind::Save, file_.filter, file_.filterIndex, host.ProgramFolder()});
+  const auto path = host.AskFile(
+      {FileDialog::Kind::Save, shown_.file.filter, shown_.file.filterIndex, host.ProgramFolder()});
   if (!path) throw CommandError(ErrorKind::Cancelled, "");
-  std::string_view report = report_;
-  if (file_.isWhole) report.remove_prefix(report.find('\n') + 1);
-  if (!file_.hasPrompt && report.starts_with(ReportPrompt)) {
+  std::string_view report = shown_.report;
+  if (shown_.file.isWhole) report.remove_prefix(report.find('\n') + 1);
+  if (!shown_.file.hasPrompt && report.starts_with(ReportPrompt)) {
     report.remove_prefix(ReportPrompt.size());
   }
   SaveFile(*path, ReportFileText(report));
@@ -290,7 +318,7 @@ PageDrawing ReportBox::Pages() const {
   return [this](PageSurface& surface) {
     const ProgramContext& context = screen().context();
     ReportPrinter(surface, HeaderOf(context.block, context.host.Now()))
-        .PrintReport(report_, fontSize_, picture_);
+        .PrintReport(shown_.report, shown_.fontSize, shown_.picture);
   };
 }
 
@@ -311,8 +339,15 @@ bool Command::Click() {
   if (!work_.isBuilt() || !enabled() || !Reachable()) return false;
   Command*& last = screen().lastCalculation_;
   if (last != this && role() == CommandRole::Calculates && this != screen().QuitCommand()) {
-    last = this;
+    screen().context().journal.Assign(last, this, &screen(), Aspect::Place);
   }
+  // Closing a screen is no step.
+  const History::Step step(
+      *this, this == screen().QuitCommand() ? History::Kind::None : History::Kind::Command);
+  return Run();
+}
+
+bool Command::Run() {
   return screen().Perform([this] { work_.Run(screen(), index_); });
 }
 
@@ -329,12 +364,17 @@ CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::str
 void CheckBox::SetOn(bool on) {
   if (slot_ != nullptr) *slot_ = on ? 1 : 0;
   if (on == on_) return;
-  on_ = on;
+  Assign(on_, on, Aspect::Data);
   Changed();
 }
 
 bool CheckBox::Click() {
-  if (!enabled() || !Reachable()) return false;
+  return Reachable() && TurnOver();
+}
+
+bool CheckBox::TurnOver() {
+  if (!enabled()) return false;
+  const History::Step step(*this, History::Kind::Other);
   SetOn(!on_);
   const bool done = handler_ == nullptr || screen().Perform(handler_);
   if (done) {
@@ -405,14 +445,20 @@ bool OptionGroup::Choose(int index) {
   const bool known = std::any_of(buttons_.begin(), buttons_.end(),
                                  [&](const auto& button) { return button->index() == index; });
   if (!known) return false;
-  chosen_ = index;
+  Assign(chosen_, index, Aspect::Data);
   if (slot_ != nullptr) *slot_ = static_cast<std::int16_t>(index);
   Changed();
   for (const auto& button : buttons_) button->Changed();
   return true;
 }
 
+void OptionGroup::PutBack() {
+  TellFace();
+  for (const auto& button : buttons_) button->TellFace();
+}
+
 void OptionGroup::Pick(int index) {
+  const History::Step step(*this, History::Kind::Other);
   const int before = chosen_;
   if (Choose(index) && chosen_ != before) NoteChange();
 }
@@ -444,8 +490,8 @@ void ComboList::SetRows(std::vector<std::string> rows) {
 }
 
 void ComboList::Replace(std::vector<std::string> rows, int chosen) {
-  rows_ = std::move(rows);
-  chosen_ = chosen;
+  Assign(rows_, std::move(rows), rowAspect());
+  SetChosen(chosen);
 }
 
 std::string ComboList::chosenText() const {
@@ -454,11 +500,12 @@ std::string ComboList::chosenText() const {
 
 void ComboList::Choose(int row) {
   if (!HasRow(row) || row == chosen_) return;
-  chosen_ = row;
+  SetChosen(row);
   Changed();
 }
 
 void ComboList::Pick(int row) {
+  const History::Step step(*this, History::Kind::Other);
   const int before = chosen_;
   Choose(row);
   if (chosen_ != before) NoteChange();
@@ -497,13 +544,16 @@ Control* Screen::Find(std::string_view name) const {
 
 void Screen::SetVisible(bool visible) {
   const bool changed = visible != visible_;
-  visible_ = visible;
+  if (changed) context_.journal.Assign(visible_, visible, this, Aspect::Place);
+  if (context_.journal.isDry()) return;
   // Opening an open screen brings its window to the front, so the face is told in any case.
   if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
 }
 
 void ProgramContext::HandOver(Screen* screen) {
   if (screen == metricOwner_) return;
+  journal.Keep(held_, nullptr, Aspect::Work);
+  journal.Keep(metricOwner_, nullptr, Aspect::Work);
   // A number beyond all engines must not become an infinity, which nothing can show or save.
   const auto limited = [](double value) {
     constexpr double kLargest = std::numeric_limits<double>::max();
@@ -573,6 +623,7 @@ void Screen::NoteShown(Field& field, std::string inUs, double number) {
   auto text = std::find_if(lastSwitch_.texts.begin(), lastSwitch_.texts.end(),
                            [&](const UnitSwitch::Text& t) { return t.field == &field; });
   if (text == lastSwitch_.texts.end()) return;
+  context_.journal.Keep(lastSwitch_, this, Aspect::Work);
   text->before = std::move(inUs);
   text->after = field.text();
   // What is derived does not stand any more.
@@ -612,10 +663,11 @@ double Screen::Converted(const Field& field, double number, bool toMetric) const
 }
 
 void Screen::Quit() {
+  const History::Step step(context_, History::Kind::None);
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
       SwitchBlankUnits(false);
-    } else if (!box->Click()) {
+    } else if (!box->TurnOver()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
     }
@@ -648,11 +700,22 @@ void Screen::ShowHelp(const std::string& sentence) {
   place->SetVisible(!sentence.empty());
 }
 
+void ProgramContext::StopInTime() const {
+  DryRunLog* log = gate.log();
+  if (log == nullptr || !log->end || std::chrono::steady_clock::now() < *log->end) return;
+  log->ranOutOfTime = true;
+  throw CommandError(ErrorKind::Cancelled, "");
+}
+
+void Screen::TakeUnits() {
+  if (UsesSharedValues()) context_.HandOver(metricShown_ ? this : nullptr);
+  if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+}
+
 bool Screen::Perform(const std::function<void()>& command) {
   for (Control* control : controls_) control->SetMark(Mark::None);
   try {
-    if (UsesSharedValues()) context_.HandOver(metricShown_ ? this : nullptr);
-    if (MetricBox() != nullptr) block().MetricSwitch = metricShown_ ? 1 : 0;
+    TakeUnits();
     std::feclearexcept(FE_ALL_EXCEPT);
     command();
     return true;
@@ -716,8 +779,8 @@ void TurnTo(const Control& control) {
 /// lies over it, for nobody could type there.
 void MarkFault(Control& control) {
   control.SetMark(Mark::Error);
-  TurnTo(control);
   Control& place = WithinReach(control);
+  if (!place.Reachable()) TurnTo(place);
   if (place.Reachable() || !place.Shown()) place.Focus();
 }
 
@@ -727,6 +790,10 @@ void Screen::Report(const CommandError& error) {
   std::string text = error.message();
   if (error.control() != nullptr) {
     text = NameInMessages(WithinReach(*error.control())) + ' ' + text;
+  }
+  if (DryRunLog* log = context_.gate.log()) {
+    if (log->error.empty()) log->error = std::move(text);
+    return;
   }
   context_.host.Ask(
       {Icon::Warning, context_.rules.messages().MessageTitle, std::move(text), {Button::OK}});
@@ -755,7 +822,10 @@ void Screen::ConvertDefaultsToComma() {
 }
 
 void Screen::TakeFocus(Control* control) {
-  focus_ = control;
+  if (control != focus_) {
+    context_.history.EndEntry();
+    context_.journal.Assign(focus_, control, this, Aspect::Place);
+  }
   const auto* field = dynamic_cast<const Field*>(control);
   block().OptionFieldActive = field != nullptr && field->isOption() ? 1 : 0;
 }
@@ -1051,6 +1121,14 @@ std::vector<Screen::MetricValue> Screen::MetricValues() {
   return values;
 }
 
+std::size_t Screen::UnitSwitch::HeapBytes() const {
+  std::size_t bytes = texts.capacity() * sizeof(texts[0]) + values.capacity() * sizeof(values[0]);
+  for (const Text& text : texts) {
+    bytes += veldox::HeapBytes(text.before) + veldox::HeapBytes(text.after);
+  }
+  return bytes;
+}
+
 const Screen::UnitSwitch::Text* Screen::UnitSwitch::Find(const Field* field) const {
   const auto found =
       std::find_if(texts.begin(), texts.end(), [&](const Text& t) { return t.field == field; });
@@ -1153,6 +1231,9 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
   }
   for (UnitSwitch::Text& text : made.texts) text.after = text.field->text();
   for (UnitSwitch::Value& value : made.values) value.after = *value.slot;
+  Journal& journal = context_.journal;
+  journal.Keep(context_.held_, nullptr, Aspect::Work);
+  journal.Keep(context_.metricOwner_, nullptr, Aspect::Work);
   context_.held_.clear();
   if (toMetric) {
     for (const MetricValue& value : values) {
@@ -1165,7 +1246,7 @@ void Screen::SwitchUnits(const std::function<void()>& derive) {
     }
   }
   context_.metricOwner_ = toMetric ? this : nullptr;
-  lastSwitch_ = std::move(made);
+  journal.Assign(lastSwitch_, std::move(made), this, Aspect::Work);
   SetMetricShown(toMetric);
 }
 
@@ -1183,14 +1264,14 @@ void Screen::SwitchBlankUnits(bool toMetric) {
     }
     made.texts.push_back({field, std::move(before), field->text()});
   }
-  lastSwitch_ = std::move(made);
+  context_.journal.Assign(lastSwitch_, std::move(made), this, Aspect::Work);
   MetricBox()->SetOn(toMetric);
   SetMetricShown(toMetric);
 }
 
 void Screen::SetMetricShown(bool metric) {
   if (metric == metricShown_) return;
-  metricShown_ = metric;
+  context_.journal.Assign(metricShown_, metric, this, Aspect::Work);
   for (Control* control : controls_) {
     if (control->kind() == ControlKind::Field) control->Changed();
   }

@@ -10,8 +10,10 @@
 
 #include "core/error.h"
 #include "core/field_rules.h"
+#include "core/history.h"
 #include "core/holds.h"
-#include "core/host.h"
+#include "core/host_gate.h"
+#include "core/journal.h"
 #include "core/numbers.h"
 #include "core/parameter_block.h"
 #include "core/units.h"
@@ -35,7 +37,7 @@ struct HeldValue {
 
 /// What every screen works with: the shared values, the rules of fields, the world.
 struct ProgramContext {
-  explicit ProgramContext(Host& h) : host(h), rules(block, h) {}
+  explicit ProgramContext(Host& realHost) : gate(realHost), rules(block, host) {}
   ProgramContext(const ProgramContext&) = delete;
   ProgramContext& operator=(const ProgramContext&) = delete;
 
@@ -49,9 +51,16 @@ struct ProgramContext {
   ///                screens need them
   void HandOver(Screen* screen);
 
-  Host& host;
+  /// Asked by what takes long from time to time: ends the command where it runs only to tell
+  /// what it would do and has used up its time. @throws CommandError (Cancelled)
+  void StopInTime() const;
+
+  HostGate gate;
+  Host& host{gate};
   ParameterBlock block;
   FieldRules rules;
+  Journal journal{block};
+  History history{*this};
 
  private:
   friend class Screen;
@@ -124,6 +133,9 @@ class Control {
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);
   void SetMark(Mark mark);
+  /// What the control held at another time is back in its place: the rest of it follows, its
+  /// face too.
+  virtual void PutBack() { TellFace(); }
   void SetFace(ControlFace* face) { face_ = face; }
   /// Runs whenever what the control shows has changed, whoever changed it, for what follows of it
   /// elsewhere on the screen.
@@ -141,6 +153,12 @@ class Control {
           std::string help);
   /// Tells the face and who else follows.
   void Changed();
+  void TellFace();
+  /// Changes something that belongs to the program's state.
+  template <class T, class V>
+  void Assign(T& place, V&& value, Aspect aspect);
+  /// Whether being shown tells only where the user is.
+  virtual Aspect visibility() const { return Aspect::Look; }
   /// The user has turned or picked something: what the file would hold asks to be saved, and the
   /// screen follows.
   void NoteChange() const;
@@ -180,16 +198,20 @@ class Frame : public Control {
   const std::vector<Control*>& controls() const { return controls_; }
   int column() const { return column_; }
   void AppendReadingOrder(std::vector<Control*>& order) override;
+  /// It is opened and put away as a panel is.
+  void SetIsSheet() { isSheet_ = true; }
 
  protected:
   /// What stands over the page or in its place, and is no frame of it.
   struct Sheet {};
   Frame(Screen& screen, std::string name, std::string caption, Sheet);
+  Aspect visibility() const override { return isSheet_ ? Aspect::Place : Aspect::Look; }
 
  private:
   friend class Control;
   std::vector<Control*> controls_;
   int column_;
+  bool isSheet_ = false;
 };
 
 /// Base of the controls that hold a text.
@@ -217,6 +239,10 @@ class TextControl : public Control {
               std::string text, KeyRule rule, std::string help);
   void SetLeaveCheck(LeaveCheck check) { leaveCheck_ = check; }
   void RefuseKeys(bool refuse);
+  /// What its text tells.
+  virtual Aspect textAspect() const;
+  /// Puts in the text that follows of what the control holds.
+  void Derive(std::string text) { text_ = std::move(text); }
 
  private:
   std::string text_;
@@ -283,11 +309,11 @@ class ReportBox : public TextControl {
   /// @param picture  stands over the text in print
   void ShowReport(std::string report, int fontSize, const ReportFile& file = {},
                   PagePicture picture = {});
-  bool showsReport() const { return showsReport_; }
+  bool showsReport() const { return shown_.isThere; }
   /// The report with its marks, as it goes to the printer: behind a first line that is not
   /// printed. Empty when none is shown.
-  const std::string& report() const { return report_; }
-  int fontSize() const { return fontSize_; }
+  const std::string& report() const { return shown_.report; }
+  int fontSize() const { return shown_.fontSize; }
   /// Draws the pages of the report.
   PageDrawing Pages() const;
   /// Empties and hides the box.
@@ -300,17 +326,33 @@ class ReportBox : public TextControl {
   /// closes it, unless writing or printing failed. No key is ever taken as text.
   char32_t FilterKey(char32_t key) override;
 
+  void PutBack() override;
+
+ protected:
+  /// The report is what counts, and its text follows of it.
+  Aspect textAspect() const override { return Aspect::Place; }
+  Aspect visibility() const override { return Aspect::Place; }
+  /// A report is part of the data that its screen works out.
+  virtual Aspect reportAspect() const { return Aspect::Data; }
+
  private:
+  struct Shown {
+    std::string report;
+    int fontSize = 0;
+    ReportFile file;
+    PagePicture picture;
+    bool isThere = false;
+    bool SameAs(const Shown& other) const {
+      return isThere == other.isThere && report == other.report;
+    }
+    std::size_t HeapBytes() const { return report.capacity(); }
+  };
   void WriteReportToFile() const;
   void PrintReport() const;
 
-  std::string report_;
+  Shown shown_;
   std::string sentence_;
   Control* before_ = nullptr;  // what had the focus when the report opened
-  int fontSize_ = 0;
-  ReportFile file_;
-  PagePicture picture_;
-  bool showsReport_ = false;
 };
 
 class Label : public Control {
@@ -390,6 +432,8 @@ class Command : public Control {
   /// Runs the command as the screen's Click does. False when it cannot be clicked or ended
   /// by an error.
   bool Click();
+  /// Runs the command, whether a user comes to it or not. False when it ended by an error.
+  bool Run();
   /// False for a command whose work is not built yet.
   bool isBuilt() const { return work_.isBuilt(); }
   CommandRole role() const { return work_.role(); }
@@ -414,9 +458,12 @@ class CheckBox : public Control {
   bool on() const { return on_; }
   /// Sets the state without running the handler.
   void SetOn(bool on);
-  /// Turns the box over and runs its handler; when the handler fails, the box turns back.
-  /// False when it cannot be clicked or its handler failed.
+  /// Turns the box over, as TurnOver. False also where the user cannot reach it.
   bool Click();
+  /// Turns the box over and runs its handler; when the handler fails, the box turns back. For the
+  /// program itself: the box may stand in a panel that is put away.
+  /// False when it is disabled or its handler failed.
+  bool TurnOver();
   /// Keeps a switch of the shared values in step with the box.
   void Bind(std::int16_t& slot);
 
@@ -481,6 +528,7 @@ class OptionGroup : public OptionRows {
   bool Choose(int index);
   /// The user clicks the button of that index.
   void Pick(int index);
+  void PutBack() override;
   /// All of them, in the order of declaration.
   const std::vector<std::unique_ptr<OptionButton>>& buttons() const { return buttons_; }
   /// True when buttons of it stand in several places.
@@ -528,7 +576,9 @@ class ComboList : public Control {
   void Replace(std::vector<std::string> rows, int chosen);
   /// True for a row that the list has.
   bool HasRow(int row) const { return row >= 0 && static_cast<std::size_t>(row) < rows_.size(); }
-  void SetChosen(int row) { chosen_ = row; }
+  void SetChosen(int row) { Assign(chosen_, row, rowAspect()); }
+  /// What its rows and the chosen one tell.
+  virtual Aspect rowAspect() const { return Aspect::Data; }
 
  private:
   std::vector<std::string> rows_;
@@ -627,6 +677,11 @@ class Screen {
   virtual void Hover(Control* control);
   /// Shows a sentence in the help place, if there is one and no report stands there.
   void ShowHelp(const std::string& sentence);
+
+  /// What stands in no control and was put back as it was at another time is shown.
+  virtual void PutBack() {}
+  /// Has the shared values in the units in which this screen's commands work with them.
+  void TakeUnits();
 
   /// Runs a command: marks of the last one go, and whatever it throws is shown in one
   /// box that names the control. False when it ended by an error or a Cancel.
@@ -748,6 +803,7 @@ class Screen {
   };
   /// What a switch of the units has made of the fields and values, so that it can be undone.
   struct UnitSwitch {
+    std::size_t HeapBytes() const;
     struct Text {
       Field* field;
       std::string before;
@@ -806,5 +862,10 @@ class Screen {
   bool visible_ = false;
   bool metricShown_ = false;
 };
+
+template <class T, class V>
+void Control::Assign(T& place, V&& value, Aspect aspect) {
+  screen_.context().journal.Assign(place, std::forward<V>(value), this, aspect);
+}
 
 }  // namespace veldox

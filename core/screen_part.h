@@ -31,7 +31,10 @@ class ScreenPart {
   /// Tells the frames that stand in the part; they are put away.
   void SetFrames(std::vector<Frame*> frames) {
     frames_ = std::move(frames);
-    for (Frame* frame : frames_) frame->SetVisible(false);
+    for (Frame* frame : frames_) {
+      frame->SetIsSheet();
+      frame->SetVisible(false);
+    }
   }
   /// The part's controls hold options of the main form.
   void SetAreOptions() {

@@ -1,13 +1,18 @@
 #include "core/shell.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <system_error>
 #include <utility>
 
+#include "core/build_sheet.h"
+#include "core/dry_run.h"
 #include "core/files.h"
+#include "core/key_table.h"
 #include "core/text.h"
+#include "core/units.h"
 #include "core/version.h"
 
 namespace veldox {
@@ -46,9 +51,21 @@ bool IsThere(const std::filesystem::path& file) {
 Shell::Shell(ProgramContext& context)
     : Screen(context, "Main", context.rules.messages().MessageTitle, ""), parameterFile_(context) {
   appearance.SetListener([this] {
-    if (shellFace_ != nullptr) shellFace_->AppearanceChanged();
+    shownAppearance_ = AppearanceOf(block());
+    if (shellFace_ != nullptr && !this->context().journal.isDry()) shellFace_->AppearanceChanged();
   });
   context.rules.SetChangeListener([this] { TellTitleChanged(); });
+  context.history.SetListener([this](bool putBack) {
+    TellTitleChanged();
+    if (putBack) ShowPutBack();
+    steps.Follow();
+  });
+}
+
+void Shell::ShowPutBack() {
+  TellMenuChanged();
+  graphOptions.TellListener();
+  if (AppearanceOf(block()) != shownAppearance_) appearance.TellListener();
 }
 
 Screen* Shell::FindScreen(std::string_view screenName) {
@@ -174,8 +191,23 @@ bool Shell::MenuEnabled(const MenuItem& item) {
   return false;
 }
 
+bool Shell::IsStep(const MenuItem& item) {
+  if (item.kind != MenuKind::Action && item.kind != MenuKind::RecentFile) return false;
+  // These open a panel or work on the file alone.
+  constexpr std::array kNoSteps = {
+      &Shell::Graph,       &Shell::Notes,        &Shell::EntryAlig,
+      &Shell::T_B_Style,   &Shell::O_C_Style,    &Shell::Co_Name,
+      &Shell::Exit,        &Shell::Write,        &Shell::Print_Head_Location,
+      &Shell::Undo,        &Shell::Redo,         &Shell::Steps,
+      &Shell::Build_Sheet, &Shell::Compare_File, &Shell::Compare_Files,
+  };
+  return std::find(kNoSteps.begin(), kNoSteps.end(), item.action) == kNoSteps.end();
+}
+
 void Shell::Choose(const MenuItem& item) {
   if (!MenuEnabled(item)) return;
+  const History::Step step(context(), IsStep(item) ? History::Kind::Other : History::Kind::None,
+                           std::string(item.caption));
   if (item.kind == MenuKind::Screen) {
     Open(*FindScreen(item.screen));
   } else if (item.kind == MenuKind::List || item.kind == MenuKind::Submenu) {
@@ -196,6 +228,7 @@ void Shell::Choose(const MenuItem& item) {
 }
 
 void Shell::Open(Screen& screen) {
+  const History::Step step(context(), History::Kind::None);
   if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
@@ -203,7 +236,7 @@ void Shell::Open(Screen& screen) {
     if (block().FormsCleared == 1) {
       screen.SwitchBlankUnits(true);
     } else {
-      box->Click();
+      box->TurnOver();
     }
   }
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
@@ -211,11 +244,11 @@ void Shell::Open(Screen& screen) {
 }
 
 void Shell::TellMenuChanged() {
-  if (shellFace_ != nullptr) shellFace_->MenuChanged();
+  if (shellFace_ != nullptr && !context().journal.isDry()) shellFace_->MenuChanged();
 }
 
 void Shell::TellTitleChanged() {
-  if (shellFace_ != nullptr) shellFace_->TitleChanged();
+  if (shellFace_ != nullptr && !context().journal.isDry()) shellFace_->TitleChanged();
 }
 
 std::string Shell::WindowTitle() const {
@@ -234,6 +267,75 @@ Button Shell::Question(const std::string& text, std::vector<Button> buttons) {
 
 void Shell::Inform(const std::string& text, Icon icon) {
   context().host.Ask({icon, title(), text, {Button::OK}});
+}
+
+// ---------------------------------------------------------------- build sheet and comparison
+
+void Shell::ShowBuildSheet(const std::vector<const Screen*>& screens) {
+  const std::string& path = block().ParameterFileName;
+  BuildSheetHead head;
+  head.fileName = path.substr(path.find_last_of('/') + 1);
+  head.made = context().host.Now();
+  sheet.ShowSheet(BuildSheet(screens, head, block()), "Build Sheet");
+}
+
+FileContents Shell::ContentsOfFile(const std::filesystem::path& file) {
+  const std::string bytes = LoadFile(file);
+  DryRun run(context());
+  // Files hold inches.
+  context().HandOver(nullptr);
+  parameterFile_.ReadBytes(bytes, PathText(file.filename()));
+  if (!run.log().error.empty()) throw CommandError(ErrorKind::File, run.log().error);
+  return OfFile(ContentsOf(parameterFile_.Compose().bytes), ContentsOf(DecodeText(bytes)));
+}
+
+FileComparison Shell::CompareWith(const std::filesystem::path& file) {
+  const FileContents there = ContentsOfFile(file);
+  DryRun run(context());
+  context().HandOver(nullptr);
+  return Compare(ContentsOf(parameterFile_.Compose().bytes), there);
+}
+
+FileComparison Shell::CompareTwo(const std::filesystem::path& here,
+                                 const std::filesystem::path& there) {
+  return Compare(ContentsOfFile(here), ContentsOfFile(there));
+}
+
+KeyPlace Shell::PlaceOfKey(const KeyDifference& difference) {
+  KeyPlace place;
+  const KeyRow* row = FindKey(difference.key);
+  if (row == nullptr) return place;
+  const Control* control = FindControl(row->owner);
+  const Screen* screen = control != nullptr
+                             ? &control->screen()
+                             : FindScreen(row->owner.substr(0, row->owner.find('.')));
+  if (screen != nullptr && screen != this) place.screen = screen->title();
+  const auto* field = dynamic_cast<const Field*>(control);
+  if (field == nullptr || difference.name != difference.key) return place;
+  place.label = field->PlainCaption();
+  // Files hold inches, and pounds.
+  place.unit = UnitSign(field->unit(), false);
+  return place;
+}
+
+void Shell::ShowComparison(const FileComparison& comparison, const std::string& here,
+                           const std::string& there) {
+  sheet.ShowSheet(
+      ComparisonReport(
+          comparison, here, there,
+          [this](const KeyDifference& difference) { return PlaceOfKey(difference); }, mark()),
+      "Comparison of Parameter Files");
+}
+
+void Shell::Compare_File() {
+  const std::filesystem::path file = AskParameterFile(FileDialog::Kind::Open);
+  ShowComparison(CompareWith(file), "the present values", PathText(file.filename()));
+}
+
+void Shell::Compare_Files() {
+  const std::filesystem::path here = AskParameterFile(FileDialog::Kind::Open);
+  const std::filesystem::path there = AskParameterFile(FileDialog::Kind::Open);
+  ShowComparison(CompareTwo(here, there), PathText(here.filename()), PathText(there.filename()));
 }
 
 std::filesystem::path Shell::AskParameterFile(FileDialog::Kind kind) {
@@ -281,6 +383,7 @@ void Shell::SettleChanges() {
 void Shell::ReadFile(const std::filesystem::path& file) {
   context().HandOver(nullptr);
   const int records = TakeFile(file);
+  context().history.SetTitle(PathText(file.filename()));
   ShowFile(file, records, " Records Read");
 }
 
@@ -290,6 +393,7 @@ void Shell::Read() {
 }
 
 void Shell::OpenFile(const std::filesystem::path& file) {
+  const History::Step step(context(), History::Kind::Other);
   Perform([&] {
     SettleChanges();
     ReadFile(file);
@@ -337,6 +441,7 @@ void Shell::Write() {
   }
   block().DataChanged = 0;
   ShowFile(path, records, " Records Written");
+  context().history.Saved();
 }
 
 void Shell::Hover(Control* control) {
@@ -368,6 +473,7 @@ void Shell::Clear() {
 
 void Shell::Metric() {
   block().MetricMenuOn = block().MetricMenuOn != 0 ? 0 : -1;
+  context().history.SetTitle(MenuCaption(*FindMenuItem("Metric")));
   TellMenuChanged();
 }
 

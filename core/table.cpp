@@ -146,7 +146,7 @@ const std::string& Table::Head(int column) const {
 void Table::SetHead(int column, std::string head) {
   TableColumn& changed = columns_[static_cast<std::size_t>(column)];
   if (changed.headLabel != nullptr) changed.headLabel->SetCaption(head);
-  changed.head = std::move(head);
+  Assign(changed.head, std::move(head), Aspect::Work);
   NameCells();
   Changed();
 }
@@ -209,6 +209,7 @@ bool Table::IsBlock(std::string_view text) {
 }
 
 Table::Range Table::Paste(Place at, std::string_view text) {
+  const History::Step step(*this, History::Kind::Other);
   const FieldRules& rules = screen().context().rules;
   Range gone{at.row, at.column, at.row, at.column};
   Refusals refused;
@@ -250,6 +251,7 @@ Table::Range Table::Paste(Place at, std::string_view text) {
 }
 
 void Table::Empty(const Range& range) {
+  const History::Step step(*this, History::Kind::Other);
   for (int row = range.top; row <= range.bottom; ++row) {
     for (int column = range.left; column <= range.right; ++column) {
       Field* cell = Cell(row, column);

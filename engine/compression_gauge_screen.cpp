@@ -290,7 +290,7 @@ void Form12::GraphCranking(bool first) {
   const CrankingGraphInput input = ReadGraphInput();
   const bool adds = !first && grapher_.HasGraph();
   std::optional<AxisRange> range;
-  if (adds && input.graph == graphed_ && grapher_.plot().Caption(kTitleCaption) == graphedTitle_) {
+  if (adds && input.graph == graphed_ && grapher_.plot().Caption(kTitleCaption) == *graphedTitle_) {
     range = grapher_.plot().scale();
   }
   const std::optional<CrankingPlot> plot = PlotCranking(input, mark(), range);

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/screen.h"
 #include "engine/cranking_graphs.h"
 #include "engine/cranking_pressure.h"
@@ -61,8 +62,8 @@ class Form12 : public Screen {
 
   Grapher& grapher_;
   // What the grapher was last given, so that a further curve can keep to its axis.
-  CrankingGraph graphed_ = CrankingGraph::DynamicRatio;
-  std::string graphedTitle_;
+  Kept<CrankingGraph> graphed_{*this, CrankingGraph::DynamicRatio};
+  Kept<std::string> graphedTitle_{*this};
   // Temperatures that no other screen shares, as shown.
   double dewPoint_ = 0;
   double inletAir_ = 0;

@@ -307,7 +307,7 @@ void Form1CR::ChartGasketThickness() {
 
 GraphCurve Form1CR::Curve(bool first) {
   GraphCurve curve =
-      RatioGraphCurve(drawn_->graph, Input(), drawn_->sweep, block().TotalVol, first, mark());
+      RatioGraphCurve((*drawn_)->graph, Input(), (*drawn_)->sweep, block().TotalVol, first, mark());
   Require(curve.points.size() > 1, Text21,
           "is not above 0 anywhere on this graph. Please check the volumes that it comes from.");
   return curve;
@@ -328,7 +328,7 @@ void Form1CR::GraphRatio(RatioGraph graph, const RatioSweep& sweep) {
 }
 
 bool Form1CR::GraphStands() const {
-  return drawn_ && grapher_.HasGraph() && grapher_.plot().scale() == drawn_->axes;
+  return drawn_->has_value() && grapher_.HasGraph() && grapher_.plot().scale() == (*drawn_)->axes;
 }
 
 void Form1CR::GraphTotalVolume() {
@@ -357,7 +357,7 @@ void Form1CR::GraphFurther() {
     Text38.SetVisible(true);
     return;
   }
-  if (drawn_->graph == RatioGraph::Chamber) {
+  if ((*drawn_)->graph == RatioGraph::Chamber) {
     CalculateChartBase();
   } else {
     ReadRatioFields();

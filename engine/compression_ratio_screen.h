@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/screen.h"
 #include "engine/compression.h"
 #include "engine/compression_charts.h"
@@ -87,9 +88,9 @@ class Form1CR : public Screen {
   };
 
   Grapher& grapher_;
-  std::optional<DrawnGraph> drawn_;
-  double sweptCc_ = 0;
-  double deckCc_ = 0;
+  Kept<std::optional<DrawnGraph>> drawn_{*this};
+  Kept<double> sweptCc_{*this};
+  Kept<double> deckCc_{*this};
 
  public:
   Frame Frame1{*this, "Frame1", "Cylinder", 0};

@@ -63,7 +63,7 @@ Form21::Form21(ProgramContext& context, Form1& form1)
 
 void Form21::LoadList(std::string_view menuItem) {
   places_[list_] = Combo1.place();
-  list_ = menuItem;
+  list_ = std::string(menuItem);
   ShowHelp(Combo1.help());
   if (menuItem == kUserList) {
     Combo1.SetCaption(std::string(Shell::FindMenuItem(kUserList)->caption));

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/pick_list.h"
 #include "core/screen.h"
 #include "engine/displacement_screen.h"
@@ -35,7 +36,7 @@ class Form21 : public Screen {
   std::vector<Figure> FiguresOf(const std::string& row) const;
 
   Form1& form1_;
-  std::string list_;
+  Kept<std::string> list_{*this, {}, Aspect::Place};
   std::map<std::string, PickPlace, std::less<>> places_;
 
  public:

@@ -18,7 +18,7 @@ class Drawing : public Control {
 
   const Sketch& sketch() const { return sketch_; }
   void Draw(Sketch sketch) {
-    sketch_ = std::move(sketch);
+    Assign(sketch_, std::move(sketch), Aspect::Work);
     Changed();
   }
 

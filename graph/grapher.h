@@ -64,7 +64,9 @@ class Grapher {
   /// Opens the grapher's window with what was drawn.
   virtual void ShowGraph() = 0;
   /// The plot engine itself, for screens whose graphs are more than curves.
-  virtual PlotEngine& plot() = 0;
+  virtual const PlotEngine& plot() const = 0;
+  /// The same, to draw on.
+  virtual PlotEngine& ChangePlot() = 0;
 };
 
 }  // namespace veldox

@@ -57,7 +57,7 @@ int GraphPixels(std::int16_t size) {
 
 Form8::Form8(ProgramContext& context)
     : Screen(context, "Form8", "Grapher", "CarGraph"),
-      plot_(context.block),
+      plot_(*this, PlotEngine(context.block), Aspect::Graph),
       frame_{0, 0, static_cast<double>(GraphPixels(context.block.CustomGraphWidth)),
              static_cast<double>(GraphPixels(context.block.CustomGraphHeight))} {
   constexpr int kHorizontal = 2;
@@ -92,7 +92,8 @@ void Form8::Inform(Icon icon, const std::string& text, const std::string& boxTit
 }
 
 void Form8::OpenFile(const std::filesystem::path& file) {
-  Perform([&] { RunGraphScript(file, ReadMode::NewLimits, plot_.scale()); });
+  const History::Step step(context(), History::Kind::Other, PathText(file.filename()));
+  Perform([&] { RunGraphScript(file, ReadMode::NewLimits, plot_->scale()); });
 }
 
 std::filesystem::path Form8::AskFile(FileDialog::Kind kind, const char* filter, int index) {
@@ -104,20 +105,20 @@ std::filesystem::path Form8::AskFile(FileDialog::Kind kind, const char* filter, 
 // ---------------------------------------------------------------- what is on the surface
 
 void Form8::Commit(PlotEngine next, Shown shown) {
+  next.FitFrame(frame_);
   plot_ = std::move(next);
-  plot_.FitFrame(frame_);
   shown_ = shown;
   strokeAt_.reset();
   GraphChanged();
 }
 
 void Form8::GraphChanged() {
-  if (graphFace_ != nullptr) graphFace_->GraphChanged();
+  if (graphFace_ != nullptr && !context().journal.isDry()) graphFace_->GraphChanged();
 }
 
 void Form8::KeepFirstLimits() {
-  firstXLow_ = plot_.XLow;
-  firstYLow_ = plot_.YLow;
+  firstXLow_ = plot_->XLow;
+  firstYLow_ = plot_->YLow;
 }
 
 void Form8::AddCurves(PlotEngine& next, std::span<const GraphCurve> curves) {
@@ -160,14 +161,14 @@ void Form8::DrawOwnGraph(const GraphFrame& frame, const std::function<void(PlotE
     next.PlotAdjustedLine({frame.range.xLow, 0}, {frame.range.xHigh, 0}, {}, true);
   }
   draw(next);
-  underOverlay_.reset();
+  underOverlay_ = std::nullopt;
   Label1.SetCaption("");
   Commit(std::move(next), Shown::Other);
   KeepFirstLimits();
 }
 
 void Form8::AddToGraph(std::span<const GraphCurve> curves) {
-  AddToGraph(curves, plot_.scale());
+  AddToGraph(curves, plot_->scale());
 }
 
 void Form8::AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) {
@@ -175,7 +176,7 @@ void Form8::AddToGraph(std::span<const GraphCurve> curves, const AxisRange& rang
     throw CommandError(ErrorKind::InvalidArgument,
                        "There is no graph yet that a curve can be added to.");
   }
-  PlotEngine next = plot_;
+  PlotEngine next = plot();
   const AxisRange scale = next.scale();
   const AxisRange grown{std::min(scale.xLow, range.xLow), std::max(scale.xHigh, range.xHigh),
                         std::min(scale.yLow, range.yLow), std::max(scale.yHigh, range.yHigh)};
@@ -185,12 +186,12 @@ void Form8::AddToGraph(std::span<const GraphCurve> curves, const AxisRange& rang
 }
 
 void Form8::DrawOn(Surface& surface, const PlotTheme& theme) {
-  frame_ = plot_.DrawOn(surface, theme).frame;
+  frame_ = plot_.Drawn().DrawOn(surface, theme).frame;
 }
 
 void Form8::DrawPicture(Surface& surface, const PlotTheme& theme) {
-  plot_.DrawOn(surface, theme);
-  plot_.FitFrame(frame_);
+  plot_.Drawn().DrawOn(surface, theme);
+  plot_.Drawn().FitFrame(frame_);
 }
 
 // ---------------------------------------------------------------- the standard curves
@@ -257,7 +258,7 @@ void Form8::DrawPowerCurve(int type, const std::optional<AxisRange>& limits) {
   next.DrawAxes();
   next.PlotSeries(power, "Horsepower  " + std::string(CurveColorOf(0).name));
   next.PlotSeries(torque, "Torque  " + std::string(CurveColorOf(1).name));
-  underOverlay_.reset();
+  underOverlay_ = std::nullopt;
   Commit(std::move(next), Shown::PowerCurve);
 }
 
@@ -275,7 +276,7 @@ AxisRange Form8::ZoomedLimits(int direction) const {
     const double moved = low + direction * step;
     return std::max(moved, std::min(0.0, firstLow));
   };
-  AxisRange limits = plot_.scale();
+  AxisRange limits = plot_->scale();
   limits.xLow = zoomed(limits.xLow, limits.xHigh, firstXLow_);
   limits.yLow = zoomed(limits.yLow, limits.yHigh, firstYLow_);
   if (limits.xLow >= limits.xHigh || limits.yLow >= limits.yHigh) {
@@ -301,7 +302,7 @@ void Form8::ZoomFile(int direction) {
 void Form8::ReadGraphFile() {
   const std::filesystem::path file =
       AskFile(FileDialog::Kind::Open, kScriptFilter, kScriptFilterIndex);
-  RunGraphScript(file, ReadMode::NewLimits, plot_.scale());
+  RunGraphScript(file, ReadMode::NewLimits, plot_->scale());
 }
 
 AxisRange Form8::ScriptLimits(const GraphScript& script, const AxisRange& before) {
@@ -343,7 +344,7 @@ void Form8::RunGraphScript(const std::filesystem::path& file, ReadMode mode,
   const AxisRange range = zoom ? limits : ScriptLimits(*script, limits);
 
   std::optional<PlotEngine> under;
-  if (script->overlay) under = zoom ? underOverlay_ : std::optional(plot_);
+  if (script->overlay) under = zoom ? *underOverlay_ : std::optional(plot());
   PlotEngine next = under ? *under : PlotEngine(block());
   // What stands under an overlay keeps its values, also where the overlay brings other axes.
   next.Rescale(range);
@@ -393,13 +394,13 @@ void Form8::ShowPictureFile() {
   context().host.MeasurePicture(bytes);
   PlotEngine next(block());
   next.SetPicture(std::move(bytes));
-  underOverlay_.reset();
+  underOverlay_ = std::nullopt;
   Label1.SetCaption(PathText(file.filename()));
   Commit(std::move(next), Shown::Other);
 }
 
 void Form8::RequireSomethingDrawn() const {
-  if (!plot_.Empty()) return;
+  if (!plot_->Empty()) return;
   throw CommandError(ErrorKind::InvalidArgument, "There is no graph yet. Please draw one first.");
 }
 
@@ -441,23 +442,23 @@ void Form8::CopyGraph() {
 }
 
 void Form8::SavePoints() {
-  if (plot_.series().empty()) {
+  if (plot_->series().empty()) {
     throw CommandError(ErrorKind::InvalidArgument, "There is no curve yet whose points are saved.");
   }
   std::filesystem::path file = AskFile(FileDialog::Kind::Save, kPointsFilter, 1);
   if (file.extension().empty()) file += ".csv";
-  SaveFile(file, plot_.PointsAsCsv());
+  SaveFile(file, plot_->PointsAsCsv());
   Label1.SetCaption(PathText(file.filename()));
 }
 
 // ---------------------------------------------------------------- the mouse
 
 GraphPoint Form8::ValueAt(SurfacePoint place) const {
-  return plot_.Unmap(InFrame(place));
+  return plot_->Unmap(InFrame(place));
 }
 
 void Form8::MouseMove(SurfacePoint place) {
-  if (!plot_.hasAxes()) return MouseLeave();
+  if (!plot_->hasAxes()) return MouseLeave();
   const GraphPoint value = ValueAt(place);
   if (!std::isfinite(value.x) || !std::isfinite(value.y)) return MouseLeave();
   Label18.SetCaption(FormatAxisValue(value.x, mark()));
@@ -471,9 +472,9 @@ void Form8::MouseLeave() {
 
 std::string Form8::ReadOut(SurfacePoint place) const {
   std::string text;
-  if (!plot_.hasAxes()) return text;
-  for (const NearestPoint& nearest : plot_.NearestPoints(ValueAt(place).x)) {
-    const std::string legend = plot_.LegendText(plot_.series()[nearest.series]);
+  if (!plot_->hasAxes()) return text;
+  for (const NearestPoint& nearest : plot_->NearestPoints(ValueAt(place).x)) {
+    const std::string legend = plot_->LegendText(plot_->series()[nearest.series]);
     if (!text.empty()) text += "\n";
     if (!legend.empty()) text += legend + ": ";
     text +=
@@ -484,7 +485,7 @@ std::string Form8::ReadOut(SurfacePoint place) const {
 
 void Form8::BeginStroke(SurfacePoint place) {
   strokeAt_.reset();
-  if (!Check1.on() || !plot_.hasAxes()) return;
+  if (!Check1.on() || !plot_->hasAxes()) return;
   strokeAt_ = ValueAt(place);
 }
 
@@ -496,13 +497,13 @@ void Form8::ContinueStroke(SurfacePoint place) {
   const Pen pen{chosen == kNoDrawColor ? Color{} : Color::FromValue(chosen),
                 static_cast<double>(std::clamp<int>(block().DrawLineWidth, 1, kWidestStroke)),
                 LineStyle::Solid};
-  plot_.PlotFreeLine(*strokeAt_, to, pen, chosen == kNoDrawColor);
+  plot_.Change().PlotFreeLine(*strokeAt_, to, pen, chosen == kNoDrawColor);
   strokeAt_ = to;
   GraphChanged();
 }
 
 void Form8::ClearDrawing() {
-  plot_.ClearFreeLines();
+  plot_.Change().ClearFreeLines();
   GraphChanged();
 }
 
@@ -517,7 +518,7 @@ void Form8::MoveGridLine(std::size_t line, SurfacePoint place) {
 double Form8::GridLineValue(std::size_t line) const {
   const MoveableLine& read = moveableLines_.at(line);
   const GraphPoint value =
-      plot_.Unmap({read.place * frame_.width, frame_.top + read.place * frame_.height});
+      plot_->Unmap({read.place * frame_.width, frame_.top + read.place * frame_.height});
   return read.vertical ? value.x : value.y;
 }
 

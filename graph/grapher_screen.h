@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/file_taker.h"
+#include "core/kept.h"
 #include "core/screen.h"
 #include "graph/graph_script.h"
 #include "graph/grapher.h"
@@ -46,9 +47,11 @@ class Form8 : public Screen, public Grapher, public FileTaker {
   void DrawOwnGraph(const GraphFrame& frame, const std::function<void(PlotEngine&)>& draw) override;
   void AddToGraph(std::span<const GraphCurve> curves) override;
   void AddToGraph(std::span<const GraphCurve> curves, const AxisRange& range) override;
-  bool HasGraph() const override { return plot_.hasAxes(); }
+  bool HasGraph() const override { return plot_->hasAxes(); }
   void ShowGraph() override { SetVisible(true); }
-  PlotEngine& plot() override { return plot_; }
+  const PlotEngine& plot() const override { return plot_; }
+  PlotEngine& ChangePlot() override { return plot_.Change(); }
+  void PutBack() override { GraphChanged(); }
 
   /// For the screen's own use: the graph's commands work on the grapher's own graphs.
   void EnableGrapherCommands() { SetGrapherCommands(true); }
@@ -129,15 +132,15 @@ class Form8 : public Screen, public Grapher, public FileTaker {
   void RequireSomethingDrawn() const;
   SurfacePoint InFrame(SurfacePoint place) const { return {place.x - frame_.left, place.y}; }
 
-  PlotEngine plot_;
-  std::optional<PlotEngine> underOverlay_;  ///< the graph below a file's overlay
-  SurfaceRect frame_;                       ///< of the window's last drawing
+  Kept<PlotEngine> plot_;
+  Kept<std::optional<PlotEngine>> underOverlay_{*this};  ///< the graph below a file's overlay
+  SurfaceRect frame_;                                    ///< of the window's last drawing
   GraphFace* graphFace_ = nullptr;
   std::function<void()> listener_;
-  Shown shown_ = Shown::Nothing;
-  double firstXLow_ = 0;
-  double firstYLow_ = 0;
-  std::filesystem::path scriptFile_;
+  Kept<Shown> shown_{*this, Shown::Nothing};
+  Kept<double> firstXLow_{*this};
+  Kept<double> firstYLow_{*this};
+  Kept<std::filesystem::path> scriptFile_{*this};
   std::optional<GraphPoint> strokeAt_;
   std::vector<MoveableLine> moveableLines_;
 

@@ -86,6 +86,7 @@ Program::Program(Host& host)
 void Program::Start() {
   shell_->Start();
   about_->SetLines(shell_->VersionLine(), shell_->DateLine());
+  context_->history.Begin();
 }
 
 }  // namespace veldox

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/kept.h"
 #include "core/screen.h"
 #include "reference/jetting.h"
 #include "reference/weather.h"
@@ -59,7 +60,7 @@ class Form7 : public Screen {
 
   // What no other screen and no file knows, in US units.
   double vaporPressure_ = 0;
-  double vaporPressureNew_ = 0;
+  Kept<double> vaporPressureNew_{*this};
   double StdBaro = 29.92;
   double StdTemp = 59;
 

@@ -11,9 +11,11 @@
 #include <random>
 #include <system_error>
 
+#include "core/dry_run.h"
 #include "core/field_copy.h"
 #include "core/files.h"
 #include "core/key_table.h"
+#include "core/vary.h"
 
 namespace veldox {
 
@@ -58,22 +60,6 @@ std::optional<int> ParseWhole(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
   return value;
-}
-
-std::string TextOf(const Control& control) {
-  switch (control.kind()) {
-    case ControlKind::Field:
-    case ControlKind::ReportBox:
-    case ControlKind::TextArea: return static_cast<const TextControl&>(control).text();
-    case ControlKind::CheckBox: return static_cast<const CheckBox&>(control).on() ? "on" : "off";
-    case ControlKind::OptionButton:
-      return static_cast<const OptionButton&>(control).on() ? "on" : "off";
-    case ControlKind::OptionGroup:
-      return std::to_string(static_cast<const OptionGroup&>(control).chosen());
-    case ControlKind::ComboList:
-    case ControlKind::PickList: return static_cast<const ComboList&>(control).chosenText();
-    default: return control.caption();
-  }
 }
 
 std::string StateText(bool visible, bool enabled) {
@@ -154,6 +140,22 @@ void ScriptRunner::RunLine(std::string_view line) {
     TellPages();
   } else if (verb == "plot") {
     TellPlot();
+  } else if (verb == "undo") {
+    program_.context().history.Undo();
+  } else if (verb == "redo") {
+    program_.context().history.Redo();
+  } else if (verb == "history") {
+    TellHistory();
+  } else if (verb == "preview") {
+    TellPreview(Find<Command>(rest, "command"));
+  } else if (verb == "vary") {
+    TellVaried(rest);
+  } else if (verb == "seek") {
+    TellSought(rest);
+  } else if (verb == "compare") {
+    TellCompared(rest);
+  } else if (verb == "sheet") {
+    MakeSheet(rest);
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color", "printer"})) {
@@ -257,7 +259,7 @@ void ScriptRunner::Tell(std::string_view verb, std::string_view target) {
   }
   Control& control = FindControl(target);
   if (verb == "get") {
-    print_(name + " = " + EscapeText(TextOf(control)));
+    print_(name + " = " + EscapeText(ShownText(control)));
   } else if (verb == "state") {
     print_(name + " = " + StateText(control.Shown(), control.enabled()));
   } else if (verb == "rows") {
@@ -265,7 +267,7 @@ void ScriptRunner::Tell(std::string_view verb, std::string_view target) {
     print_(std::to_string(rows.size()));
     for (const std::string& row : rows) print_(EscapeText(row));
   } else {
-    const std::string text = TextOf(control);
+    const std::string text = ShownText(control);
     for (std::size_t from = 0; from <= text.size();) {
       const auto end = std::min(text.find('\n', from), text.size());
       std::string_view line = std::string_view(text).substr(from, end - from);
@@ -295,6 +297,102 @@ void ScriptRunner::TellValue(std::string_view key) {
     index = *parsed;
   }
   print_(std::string(key) + " = " + EscapeText(KeyValueText(*row, block, index)));
+}
+
+void ScriptRunner::TellHistory() {
+  History& history = program_.context().history;
+  std::vector<std::string> steps = history.Told();
+  steps.resize(history.done());
+  for (const std::string& step : steps) print_(EscapeText(step));
+}
+
+void ScriptRunner::TellPreview(Command& command) {
+  const Preview preview = PreviewOf(command);
+  if (!preview.error.empty()) {
+    print_("error: " + EscapeText(preview.error));
+    return;
+  }
+  for (const ControlChange& change : preview.changes) {
+    print_(change.control->screen().name() + '.' + change.control->name() + " : " +
+           EscapeText(change.before) + " -> " + EscapeText(change.after));
+  }
+  if (preview.report) print_("report");
+  if (preview.graph) print_("graph");
+  for (const std::string& note : preview.notes) print_("note: " + EscapeText(note));
+}
+
+void ScriptRunner::TellCompared(std::string_view file) {
+  try {
+    const FileComparison comparison =
+        program_.shell().CompareWith(folder_ / std::filesystem::path(UnescapeText(file)));
+    for (const KeyDifference& difference : comparison.differences) {
+      print_(difference.name + " : " + EscapeText(difference.here) + " | " +
+             EscapeText(difference.there));
+    }
+    if (comparison.notesDiffer) print_("notes : differ");
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
+}
+
+void ScriptRunner::MakeSheet(std::string_view names) {
+  std::vector<const Screen*> screens;
+  while (!names.empty()) {
+    const std::string_view name = TakeWord(names);
+    const Screen* screen = program_.shell().FindScreen(name);
+    if (screen == nullptr) throw ScriptError("no such screen: " + std::string(name));
+    screens.push_back(screen);
+  }
+  if (screens.empty()) {
+    for (const Screen* screen : program_.shell().screens()) {
+      if (screen->visible()) screens.push_back(screen);
+    }
+  }
+  program_.shell().ShowBuildSheet(screens);
+}
+
+double ScriptRunner::TakeNumber(std::string_view& text) const {
+  const std::string_view word = TakeWord(text);
+  for (const DecimalMark mark : {program_.context().mark(), DecimalMark::Point}) {
+    if (IsNumber(word, mark)) return ParseNumber(word, mark);
+  }
+  throw ScriptError("no number: " + std::string(word));
+}
+
+void ScriptRunner::TellVaried(std::string_view text) {
+  auto& field = Find<Field>(TakeWord(text), "field");
+  ValueRange range;
+  range.from = TakeNumber(text);
+  range.to = TakeNumber(text);
+  range.by = TakeNumber(text);
+  auto& command = Find<Command>(TakeWord(text), "command");
+  std::vector<Control*> results;
+  while (!text.empty()) results.push_back(&FindControl(TakeWord(text)));
+  try {
+    for (const VariedLine& line : Vary(field, range, command, results)) {
+      std::string told = EscapeText(line.text);
+      for (const std::string& result : line.results) told += '\t' + EscapeText(result);
+      if (!line.error.empty()) told += "\terror: " + EscapeText(line.error);
+      print_(told);
+    }
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
+}
+
+void ScriptRunner::TellSought(std::string_view text) {
+  auto& field = Find<Field>(TakeWord(text), "field");
+  Sought sought;
+  sought.low = TakeNumber(text);
+  sought.high = TakeNumber(text);
+  auto& command = Find<Command>(TakeWord(text), "command");
+  Control& result = FindControl(TakeWord(text));
+  sought.target = TakeNumber(text);
+  try {
+    print_(EscapeText(Seek(field, sought, command, result)));
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
 }
 
 void ScriptRunner::TellPages() {

@@ -33,7 +33,15 @@ class ScriptRunner {
   void Prepare(std::string_view verb, std::string_view text);
   void Touch(std::string_view verb, std::string_view target, std::string_view text);
   void Tell(std::string_view verb, std::string_view target);
+  void TellCompared(std::string_view file);
+  void MakeSheet(std::string_view names);
   void TellValue(std::string_view key);
+  void TellHistory();
+  void TellPreview(Command& command);
+  void TellVaried(std::string_view text);
+  void TellSought(std::string_view text);
+  /// Takes a number off a text. @throws ScriptError for another word
+  double TakeNumber(std::string_view& text) const;
   void TellPages();
   void TellPlot();
   void PrintList(std::vector<std::string>& lines);

@@ -196,8 +196,8 @@ void Form11::ShowChamber(std::string kind, Chamber chamber, Drawing& drawing) {
   kind_ = std::move(kind);
   chamber_ = std::move(chamber);
   const auto keep = [this](std::string name, const Field& field) {
-    computedFrom_.emplace_back(std::move(name),
-                               field.text() + ' ' + std::string(UnitSign(field.unit(), true)));
+    computedFrom_.Change().emplace_back(
+        std::move(name), field.text() + ' ' + std::string(UnitSign(field.unit(), true)));
   };
   for (const Field* field :
        {&Text1, &Text11, &Text5, &Text6, &Text2, &Text3, &Text4, &Text15, &Text7}) {
@@ -210,12 +210,12 @@ void Form11::ShowChamber(std::string kind, Chamber chamber, Drawing& drawing) {
     if (!remark.empty()) remark += "\r\n";
     remark += row + what;
   };
-  for (const ChamberSection& section : chamber_.sections) {
+  for (const ChamberSection& section : chamber_->sections) {
     add(section.row + " (" + section.part + ')', section.length,
         " is negative: the others are too long for the tuned length. It is left out of the "
         "drawing.");
   }
-  for (const auto& line : chamber_.measures) {
+  for (const auto& line : chamber_->measures) {
     for (const ChamberMeasure& measure : line) {
       add(measure.row, measure.length, " is negative and left out of the drawing.");
     }
@@ -228,9 +228,9 @@ void Form11::ShowChamber(std::string kind, Chamber chamber, Drawing& drawing) {
 }
 
 void Form11::ForgetChamber() {
-  kind_.clear();
-  chamber_ = {};
-  computedFrom_.clear();
+  kind_ = {};
+  chamber_ = Chamber{};
+  computedFrom_.Change().clear();
   Stages.Draw({});
   SingleStage.Draw({});
   Tell(Remark, {});
@@ -272,7 +272,7 @@ void Form11::Tell(Label& label, std::string text) {
 }
 
 void Form11::ReportChamber() {
-  if (chamber_.sections.empty()) {
+  if (chamber_->sections.empty()) {
     throw CommandError(ErrorKind::InvalidArgument,
                        "There is no chamber to report: please press 2 Stage, 3 Stage, Single or "
                        "One first.");
@@ -281,9 +281,9 @@ void Form11::ReportChamber() {
   constexpr int kRowWidth = 5;
   constexpr int kPartWidth = 12;
   ReportWriter report(mark());
-  report.Add("Two Stroke Exhaust - " + kind_).EndLine(LineMark::Bold);
+  report.Add("Two Stroke Exhaust - " + *kind_).EndLine(LineMark::Bold);
   report.EndLine();
-  for (const auto& [name, text] : computedFrom_) {
+  for (const auto& [name, text] : *computedFrom_) {
     report.LeftCellText = name;
     report.PadTextCell(kRowWidth + kPartWidth + kNumberWidth / 2);
     report.Add(text).EndLine();
@@ -301,7 +301,7 @@ void Form11::ReportChamber() {
     report.AddPadCell(kNumberWidth);
   }
   report.EndLine(LineMark::Bold);
-  for (const ChamberSection& section : chamber_.sections) {
+  for (const ChamberSection& section : chamber_->sections) {
     head(section.row, section.part);
     report.Add<"0.0">(section.length, kNumberWidth);
     for (const double diameter : {section.from, section.to}) {

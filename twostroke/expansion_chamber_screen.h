@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/results.h"
 #include "core/screen.h"
 #include "core/table.h"
@@ -59,9 +60,9 @@ class Form11 : public Screen {
   static void Tell(Label& label, std::string text);
 
   // What was computed last; empty where nothing stands.
-  std::string kind_;
-  Chamber chamber_;
-  std::vector<std::pair<std::string, std::string>> computedFrom_;  ///< names and texts
+  Kept<std::string> kind_{*this};
+  Kept<Chamber> chamber_{*this};
+  Kept<std::vector<std::pair<std::string, std::string>>> computedFrom_{*this};  ///< names and texts
 
  public:
   Frame Frame1{*this, "Frame1", "Engine", 0};

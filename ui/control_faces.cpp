@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHelpEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -240,7 +241,11 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
   set.look().DressCommand(*button_, command.role() == CommandRole::Closes ||
                                         &command == command.screen().QuitCommand());
   connect(button_, &QPushButton::clicked, this, [this] {
-    if (TakesClick()) command_.Click();
+    if (!TakesClick()) return;
+    const QPointer<Face> self = this;
+    command_.Click();
+    // What it would do now is another thing.
+    if (self && (button_->underMouse() || button_->hasFocus())) this->set().PointAt(&command_);
   });
 }
 
@@ -256,6 +261,14 @@ bool CommandFace::eventFilter(QObject* watched, QEvent* event) {
                        help + QLatin1String(help.isEmpty() ? "" : "\n") + QLatin1String(kAgainHelp),
                        button_);
     return true;
+  }
+  if (watched == button_) {
+    if (event->type() == QEvent::Enter) set().PointAt(&command_);
+    if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) set().PointAt(nullptr);
+    if (event->type() == QEvent::FocusIn &&
+        CameByKeyboard(static_cast<QFocusEvent*>(event)->reason())) {
+      set().PointAt(&command_);
+    }
   }
   return Face::eventFilter(watched, event);
 }

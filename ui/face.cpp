@@ -153,6 +153,7 @@ void Face::FocusWent() {
 void FaceSet::Clear() {
   faces_.clear();
   buttons_.clear();
+  preview_ = {};
 }
 
 Face* FaceSet::Of(const Control& control) const {

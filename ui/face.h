@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QKeySequence>
 #include <QObject>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -80,6 +81,13 @@ class FaceSet {
     return made;
   }
 
+  /// Who tells what a command would change while the pointer or the keyboard is on it.
+  void SetPreview(std::function<void(Command*)> preview) { preview_ = std::move(preview); }
+  /// The pointer or the keyboard has come to a command; null when it has left.
+  void PointAt(Command* command) const {
+    if (preview_) preview_(command);
+  }
+
   Screen& screen() const { return screen_; }
   /// In the order in which they were made; null where a control has none.
   Face* Of(const Control& control) const;
@@ -98,6 +106,7 @@ class FaceSet {
   WindowLook look_;
   std::vector<std::unique_ptr<Face>> faces_;
   std::map<const OptionGroup*, std::unique_ptr<QButtonGroup>> buttons_;
+  std::function<void(Command*)> preview_;
 };
 
 }  // namespace veldox

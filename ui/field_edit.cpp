@@ -12,6 +12,7 @@
 #include "ui/face.h"
 #include "ui/file_drop.h"
 #include "ui/qt_text.h"
+#include "ui/step_keys.h"
 
 namespace veldox {
 namespace {
@@ -97,8 +98,13 @@ void FieldEdit::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
-  if (output() && (event->matches(QKeySequence::Paste) || event->matches(QKeySequence::Undo) ||
-                   event->matches(QKeySequence::Redo))) {
+  if (output() && event->matches(QKeySequence::Paste)) {
+    event->accept();
+    return;
+  }
+  if (const int step = StepOf(*event); step != 0) {
+    const bool boxCan = !output() && (step < 0 ? isUndoAvailable() : isRedoAvailable());
+    if (!TakeStep(field_, step, boxCan)) step < 0 ? undo() : redo();
     event->accept();
     return;
   }
@@ -133,6 +139,8 @@ void FieldEdit::focusInEvent(QFocusEvent* event) {
   // Coming back to the window leaves caret and selection as they were; a field that was
   // not entered before is entered now.
   if (!MovedOnPurpose(event->reason()) && field_.screen().focus() == &field_) return;
+  // Typing of before is a step by now, and not the box's to take back.
+  if (isUndoAvailable() || isRedoAvailable()) setText(text());
   if (field_.Enter()) {
     selectAll();
   } else {
@@ -210,6 +218,12 @@ void LinesEdit::Show(const QString& text) {
 }
 
 void LinesEdit::keyPressEvent(QKeyEvent* event) {
+  if (const int step = StepOf(*event); step != 0) {
+    const bool boxCan = step < 0 ? document()->isUndoAvailable() : document()->isRedoAvailable();
+    if (!TakeStep(control_, step, boxCan)) step < 0 ? undo() : redo();
+    event->accept();
+    return;
+  }
   char32_t key = 0;
   if (IsEnter(*event)) {
     key = kEnterKey;

@@ -212,7 +212,7 @@ QPointF GraphView::PlaceOf(const GraphPoint& point, const AxisRange& range) cons
 
 std::optional<GraphView::ReadOut> GraphView::readOut() const {
   const QRectF frame = FrameRect();
-  PlotEngine& plot = grapher_.plot();
+  const PlotEngine& plot = grapher_.plot();
   if (!pointer_ || dragged_ >= 0 || !plot.hasAxes() || !frame.contains(*pointer_)) {
     return std::nullopt;
   }

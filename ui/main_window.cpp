@@ -17,6 +17,7 @@
 #include "ui/menu_rows.h"
 #include "ui/qt_text.h"
 #include "ui/screen_window.h"
+#include "ui/step_keys.h"
 #include "ui/title_area.h"
 #include "ui/window_picture.h"
 #include "ui/window_place.h"
@@ -70,6 +71,7 @@ MainWindow::MainWindow(Shell& shell) : shell_(shell), faces_(shell), menu_(new M
   BuildBody();
 
   AddPictureKeys(*this, shell);
+  AddStepKeys(*this, shell.context().history);
   setMinimumWidth(kNarrowest);
   AcceptFiles(*this, shell);
   resize(FittingSize(*this, kPreferredSize));
@@ -129,13 +131,24 @@ void MainWindow::BuildPages() {
   pages_->addWidget(scroll);
 }
 
+QWidget* MainWindow::BuildReport(ReportBox& box) {
+  auto* panel = new ReportPanel(box, faces_.look(), pages_);
+  faces_.Make<ReportFace>(box, panel, nullptr);
+  return panel;
+}
+
 QWidget* MainWindow::BuildPanel(PanelFace& panel) {
-  // A text takes all the room there is; fields stand close together.
+  for (Control* control : panel.frame().controls()) {
+    if (control->kind() == ControlKind::ReportBox) {
+      return BuildReport(static_cast<ReportBox&>(*control));
+    }
+  }
+  // A text or a list takes all the room there is; fields stand close together.
   const auto& controls = panel.frame().controls();
-  const bool holdsText = std::any_of(controls.begin(), controls.end(), [](const Control* control) {
-    return control->kind() == ControlKind::TextArea;
+  const bool takesRoom = std::any_of(controls.begin(), controls.end(), [](const Control* control) {
+    return control->kind() == ControlKind::TextArea || control->kind() == ControlKind::PickList;
   });
-  if (panel.frames().size() == 1 && holdsText)
+  if (panel.frames().size() == 1 && takesRoom)
     return new FramePanel(faces_, panel.frame(), {}, pages_);
   auto* scroll = new FlowScroll(pages_);
   auto* body = new ColumnFlow(0, kMargin, scroll);

@@ -15,8 +15,10 @@
 #include "ui/file_drop.h"
 #include "ui/frame_panel.h"
 #include "ui/help_bar.h"
+#include "ui/preview_line.h"
 #include "ui/qt_text.h"
 #include "ui/sheet_stack.h"
+#include "ui/step_keys.h"
 #include "ui/window_picture.h"
 
 namespace veldox {
@@ -24,6 +26,8 @@ namespace {
 
 constexpr int kWindowMargin = 6;
 constexpr int kFrameGap = 5;
+/// Under the line of previews, which has room of its own around its letters.
+constexpr int kFootMargin = 1;
 /// What an open report has before the frames get all that they want.
 constexpr int kReadableLines = 30;
 /// What a window manager puts around a window.
@@ -67,6 +71,7 @@ ScreenWindow::ScreenWindow(Screen& screen, OwnFaceMaker makeOwnFace, const Appea
   faces_.SetLook(WindowLook(appearance));
   Fill();
   AddPictureKeys(*this, screen);
+  AddStepKeys(*this, screen.context().history);
   if (auto* taker = dynamic_cast<FileTaker*>(&screen)) AcceptFiles(*this, *taker);
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* again = new QShortcut(QKeySequence(Qt::CTRL | key), this);
@@ -89,7 +94,7 @@ void ScreenWindow::Fill() {
   FollowPointerOverBackgrounds();
   connect(sheets_, &QStackedWidget::currentChanged, this, [this] { ShareRoom(); });
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, kWindowMargin);
+  column->setContentsMargins(0, 0, 0, kFootMargin);
   column->setSpacing(kWindowMargin);
   QLayout* foot = BuildFoot(quit);
   // Made after all controls: the tab key comes to it last.
@@ -196,7 +201,15 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
     button->setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 13);
     row->addWidget(button, 0, Qt::AlignBottom);
   }
-  foot->addLayout(row);
+  // The line has no room of its own to give away on a small screen.
+  auto* lines = new QVBoxLayout;
+  lines->setSpacing(0);
+  lines->addLayout(row);
+  foot->addLayout(lines);
+  auto* preview = new PreviewLine(this);
+  faces_.look().DressLabel(*preview);
+  faces_.SetPreview([preview](Command* command) { preview->Follow(command); });
+  lines->addWidget(preview);
   return foot;
 }
 

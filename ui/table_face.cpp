@@ -12,6 +12,7 @@
 
 #include "ui/control_faces.h"
 #include "ui/qt_text.h"
+#include "ui/step_keys.h"
 
 namespace veldox {
 namespace {
@@ -381,15 +382,6 @@ void TableFace::Copy(const Table::Range& range) const {
   QApplication::clipboard()->setText(ToQt(table_.CopyText(range)));
 }
 
-void TableFace::KeepTexts(const Table::Range& range) {
-  before_.clear();
-  for (int row = range.top; row <= range.bottom; ++row) {
-    for (int column = range.left; column <= range.right; ++column) {
-      if (Field* cell = table_.Cell(row, column)) before_.emplace_back(cell, cell->text());
-    }
-  }
-}
-
 void TableFace::Paste(const Field& field) {
   const std::string text = FromQt(QApplication::clipboard()->text());
   Table::Place at = table_.PlaceOf(field);
@@ -399,19 +391,9 @@ void TableFace::Paste(const Field& field) {
     if (edit != nullptr && !edit->output()) edit->paste();
     return;
   }
-  KeepTexts({at.row, at.column, table_.rows() - 1, table_.columns() - 1});
   SetRange(table_.Paste(at, text));
   anchor_ = at;
   far_ = range_ ? Table::Place{range_->bottom, range_->right} : at;
-}
-
-bool TableFace::TakeBack() {
-  if (before_.empty()) return false;
-  SetRange(std::nullopt);
-  for (const auto& [cell, text] : std::exchange(before_, {})) {
-    if (cell->text() != text) cell->Edit(text);
-  }
-  return true;
 }
 
 bool TableFace::TakeKey(CellEdit& edit, Field& field, const QKeyEvent& event) {
@@ -496,10 +478,7 @@ bool TableFace::TakeEdit(CellEdit& edit, Field& field, const QKeyEvent& event) {
       return true;
     }
     Copy(*range_);
-    if (event.matches(QKeySequence::Cut)) {
-      KeepTexts(*range_);
-      table_.Empty(*range_);
-    }
+    if (event.matches(QKeySequence::Cut)) table_.Empty(*range_);
     return true;
   }
   if (event.matches(QKeySequence::Paste)) {
@@ -514,10 +493,12 @@ bool TableFace::TakeEdit(CellEdit& edit, Field& field, const QKeyEvent& event) {
     SetRange(table_.all());
     return true;
   }
-  if (event.matches(QKeySequence::Undo)) return !edit.isUndoAvailable() && TakeBack();
+  if (StepOf(event) != 0) {
+    SetRange(std::nullopt);
+    return false;
+  }
   if (!range_) return false;
   if (event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace) {
-    KeepTexts(*range_);
     table_.Empty(*range_);
     return true;
   }

@@ -96,8 +96,6 @@ class TableFace : public Face {
   bool TakeEdit(CellEdit& edit, Field& field, const QKeyEvent& event);
   void Extend(int rowStep, int columnStep);
   void SetRange(std::optional<Table::Range> range);
-  void KeepTexts(const Table::Range& range);
-  bool TakeBack();
 
   Table& table_;
   QScrollArea* scroll_;
@@ -108,7 +106,6 @@ class TableFace : public Face {
   std::optional<Table::Range> range_;
   Table::Place anchor_;
   Table::Place far_;
-  std::vector<std::pair<Field*, std::string>> before_;  ///< texts that a paste has replaced
   bool refreshing_ = false;
 };
 

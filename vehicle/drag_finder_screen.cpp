@@ -70,7 +70,7 @@ std::vector<PickRow> Form20::UserRows(PickRow::Kind heading) const {
 
 void Form20::LoadList(std::string_view menuItem) {
   places_[list_] = Shown().place();
-  list_ = menuItem;
+  list_ = std::string(menuItem);
   Combo1.SetVisible(menuItem != kOther);
   Combo2.SetVisible(menuItem == kOther);
   PickList& list = Shown();
@@ -105,9 +105,10 @@ void Form20::PickCar(const PickList& list) {
   const DragFigures figures = ReadDragRow(row);
   block().CoefficientofDrag = figures.coefficient;
   if (figures.frontalArea) block().FrontalArea = *figures.frontalArea;
-  if (!picked_) picked_.emplace();
-  picked_->coefficient = figures.coefficient;
-  if (figures.frontalArea) picked_->frontalArea = figures.frontalArea;
+  DragFigures picked = picked_->value_or(DragFigures{});
+  picked.coefficient = figures.coefficient;
+  if (figures.frontalArea) picked.frontalArea = figures.frontalArea;
+  picked_ = picked;
   context().rules.NoteChange();
   std::string told = row + "\r\nCoefficient of Drag " + FormatSmart(figures.coefficient, mark());
   told += figures.frontalArea
@@ -118,8 +119,9 @@ void Form20::PickCar(const PickList& list) {
 }
 
 void Form20::Closed() {
-  if (!picked_) return;
-  const DragFigures figures = *std::exchange(picked_, std::nullopt);
+  if (!picked_->has_value()) return;
+  const DragFigures figures = **picked_;
+  picked_ = std::nullopt;
   for (DragTaker* taker : takers_) taker->TakeDrag(figures);
 }
 

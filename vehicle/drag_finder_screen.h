@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/pick_list.h"
 #include "core/screen.h"
 #include "vehicle/drag.h"
@@ -40,8 +41,8 @@ class Form20 : public Screen {
   std::vector<PickRow> UserRows(PickRow::Kind heading) const;
 
   std::vector<DragTaker*> takers_;
-  std::optional<DragFigures> picked_;  ///< since the finder opened
-  std::string list_;                   ///< menu entry of the rows shown
+  Kept<std::optional<DragFigures>> picked_{*this};    ///< since the finder opened
+  Kept<std::string> list_{*this, {}, Aspect::Place};  ///< menu entry of the rows shown
   std::map<std::string, PickPlace, std::less<>> places_;
 
  public:

@@ -149,11 +149,11 @@ void DynoPanel::Draw(const Graph& graph) {
 }
 
 void DynoPanel::GraphAgain() {
-  if (!last_) {
+  if (*last_ == nullptr) {
     screen().ShowHelp(kNoGraphYet);
     return;
   }
-  last_(grapher_.HasGraph());
+  (*last_)(grapher_.HasGraph());
 }
 
 void DynoPanel::DrawRun(RunGraph graph, bool adds) {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/field_array.h"
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/screen_part.h"
 #include "graph/grapher.h"
@@ -45,7 +46,7 @@ class DynoPanel : public ScreenPart {
 
   RunInputs& inputs_;
   Grapher& grapher_;
-  Graph last_;  ///< empty before the first graph
+  Kept<Graph> last_{screen()};  ///< empty before the first graph
 
  public:
   ScreenPage Frame8{screen(), "Frame8", "Graphing and Dyno Sheet / Text Report"};

@@ -308,12 +308,13 @@ void Form3::AnalyseRuns() {
 ScaledCurve Form3::ReadCurve() {
   const double type = Read(Text16);
   const bool isWhole = type == Floor(type);
-  if (!(type >= kFirstCurveType && type <= kLastCurveType) || (!isWhole && !lastCurve_)) {
+  if (!(type >= kFirstCurveType && type <= kLastCurveType) ||
+      (!isWhole && !lastCurve_->has_value())) {
     FailAt(Text16, kBadCurveType);
   }
   ReadFields({&Text16});
   ReadConversionFields();
-  if (!isWhole) return *lastCurve_;
+  if (!isWhole) return **lastCurve_;
   return {static_cast<int>(type), {block().RPM, block().HorsePower, block().Torque}};
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/field_array.h"
+#include "core/kept.h"
 #include "core/screen.h"
 #include "core/table.h"
 #include "vehicle/elapsed_time.h"
@@ -88,7 +89,7 @@ class Form3 : public Screen, public GearboxTaker {
   ScaledCurve ReadCurve();
   void TellSlippage();
 
-  std::optional<ScaledCurve> lastCurve_;  ///< of a whole type
+  Kept<std::optional<ScaledCurve>> lastCurve_{*this};  ///< of a whole type
 
  public:
   Frame Frame1{*this, "Frame1", "Vehicle Details", 0};

@@ -41,13 +41,13 @@ void Form5::TakeGearbox(const Gearbox& gearbox) {
     field.SetMark(Mark::Changed);
   };
   Check2.SetOn(gearbox.primaryDrive.has_value());
-  foreignTeeth_.reset();
+  foreignTeeth_ = std::nullopt;
   if (gearbox.primaryDrive) show(Text62, b.PrimaryDrive);
   if (gearbox.primaryTeeth) {
     show(Text61, b.RearSprocket);
     show(Text60, b.FrontSprocket);
   } else if (gearbox.primaryDrive) {
-    foreignTeeth_ = {Text60.text(), Text61.text()};
+    foreignTeeth_ = std::pair(Text60.text(), Text61.text());
   }
   if (gearbox.finalDrive) show(Text18, b.RearGearRatio);
   if (gearbox.finalTeeth) {
@@ -70,8 +70,9 @@ bool Form5::IsZero(const Field& field) const {
 
 void Form5::ReadPrimaryDrive() {
   if (!Check2.on()) return;
-  if (foreignTeeth_ && *foreignTeeth_ == std::pair(Text60.text(), Text61.text())) return;
-  foreignTeeth_.reset();
+  if (foreignTeeth_->has_value() && **foreignTeeth_ == std::pair(Text60.text(), Text61.text()))
+    return;
+  foreignTeeth_ = std::nullopt;
   ReadFields({&Text60, &Text61});
   const double rear = block().RearSprocket;
   Store(Text62, rear / block().FrontSprocket, {&Text60});

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/field_array.h"
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/screen.h"
 #include "core/table.h"
@@ -86,7 +87,7 @@ class Form5 : public Screen, public GearboxTaker {
 
   std::function<void()> openGearboxFinder_;
   /// The texts of the tooth counts that do not belong to the primary drive picked with them.
-  std::optional<std::pair<std::string, std::string>> foreignTeeth_;
+  Kept<std::optional<std::pair<std::string, std::string>>> foreignTeeth_{*this};
 
  public:
   Frame Frame1{*this, "Frame1", "Speed and Final Drive", 0};

@@ -96,7 +96,7 @@ void Form19::Offer(std::vector<PickRow> rows) {
 
 void Form19::LoadList(std::string_view menuItem) {
   places_[list_] = Combo1.place();
-  list_ = menuItem;
+  list_ = std::string(menuItem);
   ShowHelp(Combo1.help());
   if (menuItem == kUserList) {
     Combo1.SetCaption(CaptionOf(kUserList));
@@ -131,7 +131,7 @@ bool Form19::PickedIsAutomatic() const {
     if (row.kind == PickRow::Kind::Group) heading = row.text;
   }
   const auto list = std::find_if(kLists.begin(), kLists.end(), [&](const GearboxList& l) {
-    return heading.empty() ? l.menuItem == list_
+    return heading.empty() ? l.menuItem == *list_
                            : PickHeader(CaptionOf(l.menuItem), kLook) == heading;
   });
   return list != kLists.end() && list->kind == 'A';

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/kept.h"
 #include "core/pick_list.h"
 #include "core/screen.h"
 #include "vehicle/gearbox.h"
@@ -38,7 +39,7 @@ class Form19 : public Screen {
   bool PickedIsAutomatic() const;
 
   std::vector<GearboxTaker*> takers_;
-  std::string list_;  ///< menu entry of the rows shown
+  Kept<std::string> list_{*this, {}, Aspect::Place};  ///< menu entry of the rows shown
   std::map<std::string, PickPlace, std::less<>> places_;
 
  public:

@@ -11,7 +11,7 @@ void TorqueTablePanel::Open() {
 }
 
 void TorqueTablePanel::Follow() {
-  if (TorqueText.text() == shown_ && block().FormsCleared != 1) ShowTable();
+  if (TorqueText.text() == *shown_ && block().FormsCleared != 1) ShowTable();
 }
 
 void TorqueTablePanel::ShowTable() {
@@ -23,7 +23,7 @@ void TorqueTablePanel::ShowTable() {
 
 void TorqueTablePanel::TakeTable() {
   // The text may hold fewer digits than the table.
-  if (TorqueText.text() == shown_) return;
+  if (TorqueText.text() == *shown_) return;
   std::vector<TorquePoint> points;
   try {
     points = ReadTorqueTable(TorqueText.text(), mark());

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/results.h"
 #include "core/screen_part.h"
@@ -24,7 +25,7 @@ class TorqueTablePanel : public ScreenPart {
   void ShowTable();
   void Close() { screen().pages().front()->Open(); }
 
-  std::string shown_;  ///< the table as the text was made of it
+  Kept<std::string> shown_{screen()};  ///< the table as the text was made of it
 
  public:
   ScreenPage TorqueFrame{screen(), "TorqueFrame", "Torque Table"};

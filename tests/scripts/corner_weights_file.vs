@@ -103,3 +103,58 @@ click Form6.Command7
 get Form6.Text5
 get Form6.Text19
 messages
+pause a command takes what is typed on every page, but for what is no number
+click Form6.Command8
+set Form6.Text31 0.9
+set Form6.Text33 high
+click Form6.Command3
+set Form6.Text106 0.45
+click Form6.Command1
+value Skid Pad Gs
+click Form6.Command12
+messages
+value Skid Pad Gs
+value Right Rear Sway Bar Move
+value Front Roll Center Height
+file typed.prm
+menu Write
+messages
+pause so it stands there when the screen opens again
+click Form6.subend
+menu CHASSIS
+get Form6.Text31
+get Form6.Text33
+get Form6.Text106
+menu GEAR
+click Form5.subend
+get Form6.Text31
+pause digits behind those that are shown are kept
+value Percent Weight Left Front
+click Form6.Command12
+value Percent Weight Left Front
+pause a weight transfer leaves the spring page as it is typed
+set Form6.Text33 2
+click Form6.Command3
+set Form6.Text83 500
+set Form6.Text87 111
+set Form6.Text90 none
+set Form6.Text91 95
+set Form6.Text94 
+get Form6.Text99
+get Form6.Text120
+click Form6.Command8
+set Form6.Text1 10
+click Form6.Command10
+messages
+get Form6.Text87
+get Form6.Text90
+get Form6.Text91
+get Form6.Text94
+get Form6.Text99
+get Form6.Text120
+get Form6.Text124
+get Form6.Text35(11)
+get Form6.Text35(18)
+click Form6.Command10
+get Form6.Text35(11)
+get Form6.Text35(18)

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/field_array.h"
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/results.h"
 #include "core/screen.h"
@@ -23,9 +24,9 @@ class FlowBench : public Screen {
   Control* HelpPlace() override { return &Label7; }
   ReportBox* ReportPane() override { return &Text78; }
 
-  int averages = 0;    ///< how often Command1 has run
-  int graphs = 0;      ///< how often Command3 has run
-  int lastReset = -1;  ///< index of the command that has reset a table
+  Kept<int> averages{*this};       ///< how often Command1 has run
+  Kept<int> graphs{*this};         ///< how often Command3 has run
+  Kept<int> lastReset{*this, -1};  ///< index of the command that has reset a table
 
   Frame Frame1{*this, "Frame1", "Flow", 0};
   Field Text1{Frame1, "Text1", "Test Pressure", "28", KeyRule::UnsignedReal};
@@ -100,7 +101,7 @@ class FlowBench : public Screen {
 
  private:
   void Average() {
-    ++averages;
+    ++averages.Change();
     double sum = 0;
     for (const auto& field : Text49.fields()) sum += Read(*field);
     Show(L1, sum / Text49.count() / Read(Text2), {&Text2});
@@ -116,7 +117,7 @@ class FlowBench : public Screen {
     for (const auto& field : (index == 3 ? Text49 : Text51).fields()) ShowText(*field, "0");
   }
   void Answers() {
-    ++graphs;
+    ++graphs.Change();
     Text3.SetText("Average: " + L1.text() + "\r\nLift: " + L2.text());
   }
   void Throat() { Show(Text8, Read(Text7) * 0.91); }

@@ -23,7 +23,7 @@ class GraphViewTest : public WindowTest {
   }
 
   Form8& grapher() { return program->grapher(); }
-  PlotEngine& plot() { return grapher().plot(); }
+  PlotEngine& plot() { return grapher().ChangePlot(); }
   void Click(const char* name) {
     ClickOn(Child(window, name));
     view.grab();  // draws what has changed

@@ -1,0 +1,227 @@
+#include "core/vary.h"
+
+#include <algorithm>
+#include <cfenv>
+#include <cmath>
+#include <utility>
+
+#include "core/dry_run.h"
+
+namespace veldox {
+
+namespace {
+
+[[noreturn]] void Refuse(const std::string& why) {
+  throw CommandError(ErrorKind::InvalidArgument, why);
+}
+
+void RequireUse(const Field& field, const Command& command) {
+  if (field.rule() == KeyRule::OutputOnly || field.rule() == KeyRule::AnyText) {
+    Refuse('"' + field.PlainCaption() + "\" takes no number.");
+  }
+  if (!command.isBuilt() || !command.enabled()) Refuse("This command cannot be used now.");
+}
+
+/// Runs the command on a field's value and reads off what `read` wants of it.
+/// @return why it cannot, empty where it can
+std::string Try(Field& field, const std::string& text, Command& command,
+                const std::function<void()>& read) {
+  DryRun run(command.screen().context());
+  field.Edit(text);
+  const bool done = command.Run();
+  if (done) {
+    read();
+    return {};
+  }
+  if (!run.log().error.empty()) return run.log().error;
+  return run.log().notes.empty() ? std::string("It has nothing to do.") : run.log().notes.back();
+}
+
+/// Keeps the marks that floating-point arithmetic leaves out of what goes on outside.
+class FloatGuard {
+ public:
+  FloatGuard() { std::feholdexcept(&before_); }
+  ~FloatGuard() { std::fesetenv(&before_); }
+  FloatGuard(const FloatGuard&) = delete;
+  FloatGuard& operator=(const FloatGuard&) = delete;
+
+ private:
+  std::fenv_t before_{};
+};
+
+/// The number that a control stands for: its shared value, in the units it shows, else its text.
+/// @throws CommandError (NotANumber)
+double NumberOf(const Control& control) {
+  const Screen& screen = control.screen();
+  if (control.kind() == ControlKind::Field) {
+    const auto& field = static_cast<const Field&>(control);
+    if (field.holds().isShared()) {
+      const Holds::Slot slot = field.holds().In(screen.block());
+      if (auto* const* number = std::get_if<double*>(&slot)) {
+        const bool keptInUs = field.holds().conversion() == Holds::Conversion::ShownOnly;
+        return keptInUs ? screen.AsShown(field, **number) : **number;
+      }
+    }
+  }
+  return ParseNumber(ShownText(control), screen.mark());
+}
+
+/// One unit of the last digit that a field can show of a value.
+double LastDigit(double value) {
+  constexpr int kCharacters = 8;
+  constexpr int kMostDecimals = 6;
+  const double size = std::abs(value);
+  const int whole = size < 1 ? 1 : static_cast<int>(std::log10(size)) + 1;
+  const int decimals = kCharacters - 1 - whole - (value < 0 ? 1 : 0);
+  return std::pow(10.0, -std::clamp(decimals, 0, kMostDecimals));
+}
+
+}  // namespace
+
+std::size_t ValueRange::Count() const {
+  if (!std::isfinite(from) || !std::isfinite(to) || !std::isfinite(by)) {
+    Refuse("The values from, to and by must be numbers.");
+  }
+  if (by == 0) Refuse("The step is 0: no value would ever follow the first.");
+  const double steps = (to - from) / by;
+  if (steps < 0) {
+    Refuse(by > 0 ? "The range ends below its beginning: the step must be below 0 then."
+                  : "The range ends above its beginning: the step must be above 0 then.");
+  }
+  // A step of .1 must come to the end of a range of 1, though ten of them are a little less.
+  constexpr double kSlack = 1e-9;
+  const double count = Floor(steps + kSlack) + 1;
+  if (!(count <= static_cast<double>(kMostVaried))) {
+    Refuse("These are more than 100,000 values. Please choose a larger step.");
+  }
+  return static_cast<std::size_t>(count);
+}
+
+std::vector<VariedLine> Vary(Field& field, const ValueRange& range, Command& command,
+                             const std::vector<Control*>& results,
+                             const std::function<bool(std::size_t done)>& goOn) {
+  const FloatGuard guard;
+  RequireUse(field, command);
+  if (results.empty() || results.size() > kMostVariedResults) {
+    Refuse("A series has one result at least and eight at most.");
+  }
+  const std::size_t count = range.Count();
+  std::vector<VariedLine> lines;
+  lines.reserve(count);
+  for (std::size_t i = 0; i < count; ++i) {
+    VariedLine line;
+    line.text = FormatField(range.At(i), field.screen().mark());
+    line.error = Try(field, line.text, command, [&] {
+      for (const Control* result : results) line.results.push_back(ShownText(*result));
+    });
+    lines.push_back(std::move(line));
+    if (goOn && !goOn(lines.size())) break;
+  }
+  return lines;
+}
+
+std::string Seek(Field& field, const Sought& sought, Command& command, Control& result) {
+  RequireUse(field, command);
+  if (!std::isfinite(sought.low) || !std::isfinite(sought.high) || !std::isfinite(sought.target)) {
+    Refuse("The ends and the target must be numbers.");
+  }
+  if (sought.low >= sought.high) Refuse("The low end must be below the high end.");
+  const DecimalMark mark = field.screen().mark();
+  const auto textOf = [&](double value) { return FormatField(value, mark); };
+  const auto resultAt = [&](double value) {
+    double number = 0;
+    std::string fault;
+    const std::string error = Try(field, textOf(value), command, [&] {
+      try {
+        number = NumberOf(result);
+      } catch (const CommandError&) {
+        fault = '"' + result.PlainCaption() + "\" is no number";
+      }
+      if (fault.empty() && !std::isfinite(number)) {
+        fault = '"' + result.PlainCaption() + "\" is no number";
+      }
+    });
+    if (!fault.empty()) Refuse(fault + " at " + textOf(value) + '.');
+    if (!error.empty()) Refuse("At " + textOf(value) + ": " + error);
+    return number;
+  };
+  double best = 0;
+  {
+    const FloatGuard guard;
+    double a = sought.low;
+    double b = sought.high;
+    const double atLow = resultAt(a);
+    const double atHigh = resultAt(b);
+    double fa = atLow - sought.target;
+    double fb = atHigh - sought.target;
+    if ((fa > 0) == (fb > 0) && fa != 0 && fb != 0) {
+      Refuse('"' + result.PlainCaption() + "\" is " + textOf(atLow) + " at " + textOf(a) + " and " +
+             textOf(atHigh) + " at " + textOf(b) + ": " + textOf(sought.target) +
+             " is not between them.");
+    }
+    // Names as in Brent: b is the best so far, c the other end of the interval, d the last step.
+    double c = a;
+    double fc = fa;
+    double d = b - a;
+    double e = d;
+    constexpr int kMostSteps = 200;
+    for (int step = 0; step < kMostSteps && fb != 0; ++step) {
+      if ((fb > 0) == (fc > 0)) {
+        c = a;
+        fc = fa;
+        d = e = b - a;
+      }
+      if (std::abs(fc) < std::abs(fb)) {
+        a = b;
+        b = c;
+        c = a;
+        fa = fb;
+        fb = fc;
+        fc = fa;
+      }
+      const double tolerance = LastDigit(b) / 2;
+      const double half = (c - b) / 2;
+      if (std::abs(half) <= tolerance / 2) break;
+      if (std::abs(e) < tolerance || std::abs(fa) <= std::abs(fb)) {
+        d = e = half;
+      } else {
+        double p = 0;
+        double q = 0;
+        const double s = fb / fa;
+        if (a == c) {
+          p = 2 * half * s;
+          q = 1 - s;
+        } else {
+          const double r = fb / fc;
+          const double t = fa / fc;
+          p = s * (2 * half * t * (t - r) - (b - a) * (r - 1));
+          q = (t - 1) * (r - 1) * (s - 1);
+        }
+        if (p > 0) {
+          q = -q;
+        } else {
+          p = -p;
+        }
+        if (2 * p < std::min(3 * half * q - std::abs(tolerance * q), std::abs(e * q))) {
+          e = d;
+          d = p / q;
+        } else {
+          d = e = half;
+        }
+      }
+      a = b;
+      fa = fb;
+      b += std::abs(d) > tolerance ? d : (half > 0 ? tolerance : -tolerance);
+      fb = resultAt(b) - sought.target;
+    }
+    best = b;
+  }
+  const History::Step step(
+      field.screen().context(), History::Kind::Other,
+      field.PlainCaption() + " sought for " + result.PlainCaption() + ' ' + textOf(sought.target));
+  field.Edit(textOf(best));
+  command.Run();
+  return field.text();
+}
+
+}  // namespace veldox

@@ -1,0 +1,230 @@
+// Series of values and targets, held against formulas of the trade and against the commands that
+// solve for the other side.
+
+#include "core/vary.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include "program/program.h"
+#include "tests/support/program_state.h"
+#include "tests/support/test_host.h"
+
+namespace veldox {
+namespace {
+
+using State = ProgramState;
+
+class VaryTest : public testing::Test {
+ protected:
+  VaryTest() {
+    program_.Start();
+    for (const char* form : {"Form1", "Form1CR", "Form3", "Form5", "Form16", "Form18"}) {
+      program_.shell().Open(*program_.shell().FindScreen(form));
+    }
+  }
+
+  template <class C = Field>
+  C& Find(const std::string& name) {
+    auto* control = dynamic_cast<C*>(program_.shell().FindControl(name));
+    EXPECT_NE(control, nullptr) << name;
+    return *control;
+  }
+  double Number(const std::string& name) {
+    return ParseNumber(Find(name).text(), DecimalMark::Point);
+  }
+  State Now() { return State(program_, State::Part::All); }
+  std::string Refusal(const std::function<void()>& call) {
+    const State before = Now();
+    try {
+      call();
+    } catch (const CommandError& error) {
+      EXPECT_EQ(State::Difference(before, Now()), "");
+      return error.message();
+    }
+    return "none";
+  }
+
+  TestHost host_;
+  Program program_{host_};
+};
+
+TEST_F(VaryTest, EachValueIsWorkedOutFromThePresentStateWhichStays) {
+  const State before = Now();
+  const std::vector<VariedLine> lines =
+      Vary(Find("Form1.Text1"), {4, 4.5, 0.1}, Find<Command>("Form1.Command1"),
+           {&Find("Form1.Text6"), &Find("Form1.Text11")});
+  ASSERT_EQ(lines.size(), 6U);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    const double bore = 4 + 0.1 * static_cast<double>(i);
+    const double size = std::numbers::pi / 4 * bore * bore * 3.25 * 8;
+    EXPECT_EQ(lines[i].text, FormatField(bore, DecimalMark::Point));
+    EXPECT_NEAR(ParseNumber(lines[i].results[0], DecimalMark::Point), size, 0.0001);
+    EXPECT_NEAR(ParseNumber(lines[i].results[1], DecimalMark::Point), bore / 3.25, 0.000001);
+    EXPECT_EQ(lines[i].error, "");
+  }
+  EXPECT_EQ(State::Difference(before, Now()), "");
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(VaryTest, ARangeHoldsTheLastValueThatIsNotBeyondItsEnd) {
+  const auto texts = [&](const ValueRange& range) {
+    std::vector<std::string> told;
+    for (const VariedLine& line : Vary(Find("Form1.Text1"), range, Find<Command>("Form1.Command1"),
+                                       {&Find("Form1.Text6")})) {
+      told.push_back(line.text);
+    }
+    return told;
+  };
+  EXPECT_EQ(texts({4, 4.25, 0.1}), (std::vector<std::string>{"4.0", "4.1", "4.2"}));
+  EXPECT_EQ(texts({4.2, 4, -0.1}), (std::vector<std::string>{"4.2", "4.1", "4.0"}));
+  EXPECT_EQ(texts({4, 4, 1}), (std::vector<std::string>{"4.0"}));
+  // Ten times a tenth is a little less than one in binary numbers.
+  EXPECT_EQ((ValueRange{0, 1, 0.1}.Count()), 11U);
+  EXPECT_EQ((ValueRange{0, 99'999, 1}.Count()), 100'000U);
+}
+
+TEST_F(VaryTest, WhatCannotBeIsTold) {
+  auto& bore = Find("Form1.Text1");
+  auto& size = Find<Command>("Form1.Command1");
+  Control* result = &Find("Form1.Text6");
+  const auto refusal = [&](const ValueRange& range) {
+    return Refusal([&] { Vary(bore, range, size, {result}); });
+  };
+  EXPECT_EQ(refusal({4, 5, 0}), "The step is 0: no value would ever follow the first.");
+  EXPECT_EQ(refusal({5, 4, 1}),
+            "The range ends below its beginning: the step must be below 0 then.");
+  EXPECT_EQ(refusal({4, 5, -1}),
+            "The range ends above its beginning: the step must be above 0 then.");
+  EXPECT_EQ(refusal({0, 100'000, 1}),
+            "These are more than 100,000 values. Please choose a larger step.");
+  EXPECT_EQ(refusal({0, HUGE_VAL, 1}), "The values from, to and by must be numbers.");
+  EXPECT_EQ(Refusal([&] {
+              Vary(Find("Form1.Text24"), {1, 2, 1}, size, {result});
+            }),
+            "\"Piston Area\" takes no number.");
+  EXPECT_EQ(Refusal([&] {
+              Vary(bore, {1, 2, 1}, size, {});
+            }),
+            "A series has one result at least and eight at most.");
+  // One that cannot be does not end the others.
+  const auto lines =
+      Vary(Find("Form1.Text2"), {0, 2, 1}, Find<Command>("Form1.Command3"), {&Find("Form1.Text3")});
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_NE(lines[0].error.find("\"Number Of Cylinders\" is 0"), std::string::npos);
+  EXPECT_TRUE(lines[0].results.empty());
+  EXPECT_EQ(lines[1].error, "");
+}
+
+struct Sum {
+  const char* field;
+  double low;
+  double high;
+  const char* command;
+  const char* result;
+  double target;
+  double expected;  ///< of the field
+  double tolerance;
+};
+
+TEST_F(VaryTest, SeeksAgreeWithFormulasSolvedByHand) {
+  constexpr double kPi = std::numbers::pi;
+  const double coils = Number("Form16.Text2");
+  const double diameter = Number("Form16.Text3");
+  const double modulus = Number("Form16.Text18");
+  const Sum sums[] = {
+      // pi / 4 * bore^2 * stroke * cylinders
+      {"Form1.Text1", 3, 5, "Form1.Command1", "Form1.Text6", 400,
+       std::sqrt(400 / (kPi / 4 * 3.25 * 8)), 1e-6},
+      {"Form1.Text3", 2, 5, "Form1.Command1", "Form1.Text6", 350, 350 / (kPi / 4 * 16 * 8), 1e-6},
+      {"Form1.Text3", 2, 5, "Form1.Command22", "Form1.Text11", 1.25, 4 / 1.25, 1e-6},
+      {"Form1.Text4", 4, 8, "Form1.Command23", "Form1.Text12", 1.8, 1.8 * 3.25, 1e-6},
+      // half the stroke, rod, pin height and clearance make the deck height
+      {"Form1.Text8", 9, 10, "Form1.Command9", "Form1.Text10", 0.02, 3.25 / 2 + 5.7 + 1.904 + 0.02,
+       1e-6},
+      // feet a minute: two strokes a turn, twelve inches a foot
+      {"Form1.Text13", 3000, 4500, "Form1.Command6", "Form1.Text5", 7000, 3.25 * 7000 / 6, 0.6},
+      // G d^4 / (8 n D^3)
+      {"Form16.Text1", 0.2, 1, "Form16.Command1", "Form16.Text4", 200,
+       std::pow(200 * 8 * coils * std::pow(diameter, 3) / modulus, 0.25), 1e-5},
+      {"Form16.Text2", 2, 30, "Form16.Command1", "Form16.Text4", 200,
+       modulus * std::pow(Number("Form16.Text1"), 4) / (8 * 200 * std::pow(diameter, 3)), 1e-4},
+      // horsepower is torque times RPM by 33,000 / 2 pi
+      {"Form3.Text12", 100, 1000, "Form3.Command24", "Form3.Text5", 600,
+       600 * 33'000 / (2 * kPi) / 6500, 0.05},
+      // brake mean effective pressure of a four-stroke: 48 pi * torque / size
+      {"Form3.Text12", 100, 1000, "Form3.Command13", "Form3.Text14", 200,
+       200 * Number("Form3.Text15") / (48 * kPi), 0.1},
+  };
+  for (const Sum& sum : sums) {
+    SCOPED_TRACE(std::string(sum.field) + " for " + sum.result);
+    const std::size_t steps = program_.context().history.done();
+    const State before(program_, State::Part::Data);
+    std::string text;
+    try {
+      text = Seek(Find(sum.field), {sum.low, sum.high, sum.target}, Find<Command>(sum.command),
+                  Find(sum.result));
+    } catch (const CommandError& error) {
+      ADD_FAILURE() << error.message();
+      continue;
+    }
+    EXPECT_EQ(Find(sum.field).text(), text);
+    EXPECT_NEAR(ParseNumber(text, DecimalMark::Point), sum.expected, sum.tolerance);
+    EXPECT_NEAR(Number(sum.result), sum.target, std::abs(sum.target) * 2e-4);
+    EXPECT_EQ(program_.context().history.done(), steps + 1) << "a seek is one step";
+    program_.context().history.Undo();
+    EXPECT_EQ(State::Difference(before, State(program_, State::Part::Data)), "");
+  }
+}
+
+/// The command that solves for the other side gives the value back that was found.
+TEST_F(VaryTest, SeeksAgreeWithTheCommandsThatSolveForTheField) {
+  struct Pair {
+    Sum sum;
+    const char* inverse;
+  };
+  const Pair pairs[] = {
+      {{"Form1CR.Text15", 30, 90, "Form1CR.Command10", "Form1CR.Text17", 12, 0, 2e-3},
+       "Form1CR.Command11"},
+      {{"Form5.Text18", 2, 7, "Form5.Command2", "Form5.Text17", 7000, 0, 2e-3}, "Form5.Command6"},
+      {{"Form18.Text20", 6, 16, "Form18.Command8", "Form18.Text21", 6, 0, 2e-3}, "Form18.Command9"},
+      {{"Form16.Text5", 0.5, 2, "Form16.Command2", "Form16.Text9", 100, 0, 1e-3},
+       "Form16.Command10"},
+  };
+  for (const Pair& pair : pairs) {
+    const Sum& sum = pair.sum;
+    SCOPED_TRACE(std::string(sum.field) + " for " + sum.result);
+    try {
+      Seek(Find(sum.field), {sum.low, sum.high, sum.target}, Find<Command>(sum.command),
+           Find(sum.result));
+    } catch (const CommandError& error) {
+      ADD_FAILURE() << error.message();
+      continue;
+    }
+    const double found = Number(sum.field);
+    ASSERT_TRUE(Find<Command>(pair.inverse).Run());
+    EXPECT_NEAR(Number(sum.field), found, sum.tolerance);
+    EXPECT_NE(found, sum.low);
+  }
+}
+
+TEST_F(VaryTest, ATargetBeyondTheEndsIsToldWithWhatTheyGive) {
+  EXPECT_EQ(Refusal([&] {
+              Seek(Find("Form1.Text1"), {3, 3.5, 400}, Find<Command>("Form1.Command1"),
+                   Find("Form1.Text6"));
+            }),
+            "\"Engine Size\" is 183.7831 at 3.0 and 250.1493 at 3.5: 400.0 is not between them.");
+  EXPECT_EQ(Refusal([&] {
+              Seek(Find("Form1.Text1"), {5, 3, 400}, Find<Command>("Form1.Command1"),
+                   Find("Form1.Text6"));
+            }),
+            "The low end must be below the high end.");
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+}  // namespace
+}  // namespace veldox
