@@ -27,7 +27,7 @@ class DynoPanelTest : public testing::Test {
   ParameterBlock& block() { return program_.context().block; }
   Form13& form() { return static_cast<Form13&>(*program_.shell().FindScreen("Form13")); }
   DynoPanel& panel() { return form().Dyno; }
-  PlotEngine& plot() { return program_.grapher().plot(); }
+  const PlotEngine& plot() { return program_.grapher().plot(); }
   const std::vector<PlotSeriesRecord>& series() { return plot().series(); }
   /// The only curve's value at an engine speed of the table.
   double At(double x) {
