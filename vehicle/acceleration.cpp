@@ -813,13 +813,13 @@ bool Run::RollOut() {
   now_.torque = now_.power = now_.nitrousHp = 0;
   while (now_.distance < kQuarterMile) {
     bound.Step();
-    const double lastFps = now_.speedFps;
+    const double lastSpeedFps = now_.speedFps;
     now_.mph -= kRollOutStep;
     if (!(now_.mph > 0)) break;
     now_.speedFps = now_.mph * kFeetASecondPerMph;
     now_.rpm = now_.mph / speedFactor_;
-    const double dV = lastFps - now_.speedFps;
-    now_.meanSpeedFps = (lastFps + now_.speedFps) / 2;
+    const double dV = lastSpeedFps - now_.speedFps;
+    now_.meanSpeedFps = (lastSpeedFps + now_.speedFps) / 2;
     Resist(now_, now_.mph);
     const double deceleration = now_.rollHp / mass_ + (now_.speedFps * now_.speedFps *
                                                        densityFactor_ * kRollOutDensity * area) /
@@ -858,12 +858,13 @@ RunResult Run::Finish(RunEnd end) {
   }
   // A car whose power has ended keeps its top speed.
   const bool powerEnded = end == RunEnd::Power;
-  const double lastFps = now_.speedFps;
+  const double lastSpeedFps = now_.speedFps;
   const double rpm = now_.rpm;
   const double left = kQuarterMile - now_.distance;
   if (now_.distance < kOutOfGearFeet && !varies_) {
     const double gained = powerEnded || !(now_.acceleration > 0) ? 0 : 2 * now_.acceleration * left;
-    const double speed = std::sqrt(std::max(0.0, lastFps * lastFps + gained)) / kFeetASecondPerMph;
+    const double speed =
+        std::sqrt(std::max(0.0, lastSpeedFps * lastSpeedFps + gained)) / kFeetASecondPerMph;
     const double ratio = gearRatio_ * (in_.usesPrimaryDrive ? in_.primaryDrive : 1);
     result_.tryRearGearRatio = (in_.automatic ? Kept(in_.converterSlippage) : 1) * rpm *
                                tireDiameter_ * (1 + growth_ / 100) /
@@ -877,7 +878,7 @@ RunResult Run::Finish(RunEnd end) {
   } else {
     now_ = before;
     clockRuns_ = clockRan;
-    HoldSpeed(lastFps);
+    HoldSpeed(lastSpeedFps);
     result_.rest = RunRest::ConstantVelocity;
   }
   return result_;
