@@ -104,7 +104,6 @@ get Form4.Command67
 get Form4.Command68
 get Form4.Command52
 get Form4.Command71
-get Form4.Command111
 get Form4.Command87
 click Form4.Command53
 hover Form4.Command48
