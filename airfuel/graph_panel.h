@@ -71,7 +71,8 @@ class GraphPanel : public ScreenPart {
       "Graph Max Lift",
       "0.0",
       Entry(KeyRule::UnsignedReal, Unit::Inches, Holds(&P::GraphMaxLift), LeaveCheck::HasDigits),
-      "The largest lift on the axis of flow graphs; 0 for as much as the tables have."};
+      "The largest lift on the axis of flow graphs; 0 for as much as the tables have. Time area "
+      "graphs are over degrees, and it is not for them."};
   Field Text65{SizeFrame,
                "Text65",
                "Graph Zoom In Scale Size",

@@ -80,6 +80,7 @@ std::optional<LiftEvents> EventsAt(const ValveCurve& curve, double level,
   };
   const auto first = std::ranges::find_if(curve, isAbove);
   if (first == curve.end()) return std::nullopt;
+  if (level > 0 && std::max(curve.front().*lift, curve.back().*lift) > level) return std::nullopt;
   const auto behind = std::find_if(curve.rbegin(), curve.rend(), isAbove).base();
   // Between a point that is not above the level and one that is.
   const auto crossing = [&](const ValvePoint& below, const ValvePoint& above) {
@@ -106,8 +107,8 @@ std::optional<double> IntensityOf(const ValveCurve& curve, double lowerLift) {
 
 // ---------------------------------------------------------------- areas and flow
 
-double TimeAreaEngine::SweptCc() const {
-  return PistonArea(bore) * ActualStroke(Slider()) / kCubicInchesPerCc;
+double TimeAreaEngine::VolumeCc() const {
+  return PistonArea(bore) * stroke / kCubicInchesPerCc;
 }
 
 double MillisecondsPerDegree(double rpm) {
@@ -141,7 +142,7 @@ double CurtainCoefficientOf(const PortValves& valves, double flow, double lift) 
 std::vector<TimeAreaRow> WalkCurve(const ValveCurve& curve, const TimeAreaPort& port,
                                    const TimeAreaEngine& engine, double userCoefficient) {
   const CrankSlider slider = engine.Slider();
-  const double sweptCc = engine.SweptCc();
+  const double volumeCc = engine.VolumeCc();
   const double milliseconds = MillisecondsPerDegree(engine.rpm);
   const double throat = port.port.ThroatTotal();
   const double angle = Radians(port.valveAngle);
@@ -167,7 +168,7 @@ std::vector<TimeAreaRow> WalkCurve(const ValveCurve& curve, const TimeAreaPort& 
     row.area = OpenArea(port, point.lift);
     const double areaCm2 = row.area * kSquareCentimetresPerSquareInch;
     row.timeArea = areaCm2 * milliseconds * row.span();
-    row.timeAreaPerCc = areaCm2 / sweptCc * milliseconds * row.span();
+    row.timeAreaPerCc = areaCm2 / volumeCc * milliseconds * row.span();
     const PistonState piston = PistonStateAt(slider, engine.rpm, point.degrees);
     row.travel = piston.travel;
     row.volume = PistonArea(engine.bore) * piston.travel / kCubicInchesPerCc;
@@ -209,7 +210,7 @@ TimeAreaTotals TotalsOf(std::span<const TimeAreaRow> rows, const TimeAreaPort& p
   const PortValves& valves = port.port.valves;
   const double valveArea = CircleArea(valves.size) * valves.count;
   totals.cycleEfficiency =
-      flowDegrees * kCcPerMillisecond * MillisecondsPerDegree(engine.rpm) / engine.SweptCc();
+      flowDegrees * kCcPerMillisecond * MillisecondsPerDegree(engine.rpm) / engine.VolumeCc();
   totals.maxTotal = duration * kFullFlow;
   totals.throatTotal = flowDegrees / port.port.ThroatTotal();
   totals.netValveTotal = flowDegrees / (valveArea - CircleArea(valves.stem) * valves.count);

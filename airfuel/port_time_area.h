@@ -53,7 +53,8 @@ struct LiftEvents {
   double middle() const { return (opens + closes) / 2; }
 };
 /// @param lift  which of the lifts: at the valve or at the lobe
-/// @return nothing for a curve that is not that high
+/// @return nothing for a curve that is not that high, or begins or ends above a level above 0: it
+///         does not tell where it rises to the level
 std::optional<LiftEvents> EventsAt(const ValveCurve& curve, double level, double ValvePoint::*lift);
 
 /// Lobe lifts whose durations tell how fast a cam opens: the intensity is how much longer it is
@@ -72,8 +73,8 @@ struct TimeAreaEngine {
   double rpm = 0;
 
   CrankSlider Slider() const { return {stroke / 2, rod, offset}; }
-  /// What the piston sweeps, cc.
-  double SweptCc() const;
+  /// The cylinder's volume, cc: that of bore and stroke, whatever the pin's offset.
+  double VolumeCc() const;
 };
 
 /// Time of a crank degree, milliseconds.

@@ -95,8 +95,7 @@ GraphCurve PortCurve(const TimeAreaGraph& graph, const TimeAreaValues& values,
     if (graph.curve == TimeAreaCurve::AreaSpeed && row.lift < kLeastGraphedLift) continue;
     const double y = ValueOf(graph.curve, row) * scale;
     curve.points.push_back({row.degrees, y});
-    // What is pushed back through a valve that hardly opens may run out at the top.
-    if (graph.curve != TimeAreaCurve::AreaSpeed || row.demand > 0) highest = std::max(highest, y);
+    highest = std::max(highest, y);
   }
   return curve;
 }

@@ -32,12 +32,23 @@ constexpr const char* kNoCam =
 constexpr const char* kNoCamNote =
     "No cam is loaded: Port Time Area works with the lift tables alone, all else needs a lift "
     "file.";
+constexpr const char* kNoIntakeLobe =
+    "The lift file has no intake: its lift table is as it was. The exhaust's is that of the cam.";
+constexpr const char* kNoExhaustLobe =
+    "The lift file has no exhaust: its lift table is as it was. The intake's is that of the cam.";
+constexpr const char* kCutTable =
+    "The highest lift of the flow table has no row: the first row of a lift table is that of no "
+    "lift.";
 constexpr const char* kImpossibleReport =
     "The report cannot be made: the values give numbers that are too large or none. Please check "
     "the engine, the valves, the flow and the cam.";
 constexpr const char* kImpossibleGraph =
     "The graph cannot be drawn: the values give numbers that are too large or none. Please check "
     "the engine, the valves, the flow and the cam.";
+
+CamSide SideOf(const TimeAreaSide& side) {
+  return side.port.isExhaust ? CamSide::Exhaust : CamSide::Intake;
+}
 
 }  // namespace
 
@@ -49,11 +60,6 @@ TimeAreaPanel::TimeAreaPanel(Screen& screen, const Parts& parts, CamFiles& files
                                        &Text74, &Text75, &Dohc, &CamDegrees, &Skip}) {
     control->WhenChanged([this] { ShowCam(); });
   }
-  // The file has the lifts of the table a second time, alone.
-  for (int row = 0; row < Text95.count(); ++row) {
-    Text95[row].WhenChanged([this, row] { TakeTableLift(row); });
-    TakeTableLift(row);
-  }
   const auto dim = [this](Table& table, const FieldArray& durations) {
     table.DimRows([this, &durations](int row) {
       const std::string& text = durations[row].text();
@@ -63,13 +69,6 @@ TimeAreaPanel::TimeAreaPanel(Screen& screen, const Parts& parts, CamFiles& files
   dim(IntakeTable, Text96);
   dim(ExhaustTable, Text96Exhaust);
   ShowCam();
-}
-
-void TimeAreaPanel::TakeTableLift(int row) {
-  const Field& lift = Text95[row];
-  if (!IsNumber(lift.text(), mark())) return;
-  block().LiftTable.at(static_cast<std::size_t>(row)) =
-      InInches(lift, ParseNumber(lift.text(), mark()));
 }
 
 void TimeAreaPanel::Open() {
@@ -183,36 +182,53 @@ void TimeAreaPanel::ReadTimingLifts(TimeAreaValues& values) {
 
 // ---------------------------------------------------------------- the cam
 
+void TimeAreaPanel::RequireCam() const {
+  if (!HasCam()) throw CommandError(ErrorKind::InvalidArgument, kNoCam);
+}
+
 bool TimeAreaPanel::HasCam() const {
   return block().IntakeLiftCount > 0 || block().ExhaustLiftCount > 0;
 }
 
+std::string TimeAreaPanel::CamName() const {
+  const std::string& title = block().CamFileTitle;
+  return title.empty() ? "A cam without a name" : title;
+}
+
+bool TimeAreaPanel::HasCamDegrees() const {
+  return CamDegrees.on() || block().LiftsOfCamDoctor != 0;
+}
+
 double TimeAreaPanel::CrankStep(const LiftTable& table) const {
-  return table.step * (CamDegrees.on() || block().LiftsOfCamDoctor != 0 ? 2 : 1);
+  return table.step * (HasCamDegrees() ? kCrankDegreesPerCamDegree : 1);
 }
 
 ValveCurve TimeAreaPanel::CurveOfFile(const TimeAreaSide& side) const {
-  const LiftTable table = files_.TableOf(side.port.isExhaust ? CamSide::Exhaust : CamSide::Intake);
+  const LiftTable table = files_.TableOf(SideOf(side));
   // The tables are in millimetres for a screen that works in them.
   std::vector<double> inches(table.lifts.begin(), table.lifts.end());
   for (double& lift : inches) lift /= files_.UnitsPerInch();
-  std::span<const double> lifts = inches;
-  // Files of lift testers begin anywhere on the base circle.
-  const bool keepsFirst = block().LiftsOfCamDoctor != 0 && !Skip.on();
-  if (!keepsFirst) {
-    while (lifts.size() > 1 && !(ValveLiftOf(lifts[1], side.gear) > 0)) lifts = lifts.subspan(1);
+  // The record that the valve leaves its seat at. Files of lift testers begin anywhere on the base
+  // circle.
+  std::size_t opens = 0;
+  const bool opensAtFirst = block().LiftsOfCamDoctor != 0 && !Skip.on();
+  if (!opensAtFirst) {
+    while (opens + 1 < inches.size() && !(ValveLiftOf(inches[opens + 1], side.gear) > 0)) ++opens;
   }
   const double deadCentre = side.port.isExhaust ? -kHalfTurn : 0;
-  return CurveOfLobe(lifts, CrankStep(table), deadCentre - side.valveOpen - side.advance,
-                     side.gear);
+  const double step = CrankStep(table);
+  const double opensAt = deadCentre - side.valveOpen - side.advance;
+  return CurveOfLobe(inches, step, opensAt - static_cast<double>(opens) * step, side.gear);
 }
 
 void TimeAreaPanel::TakeLiftFile(TimeAreaValues& values) {
-  if (!HasCam()) throw CommandError(ErrorKind::InvalidArgument, kNoCam);
+  RequireCam();
   const ParameterBlock& b = block();
-  values.cam = {b.CamFileTitle, b.CamFileHeader, b.LiftsOfCamDoctor != 0};
-  values.intake.curve = CurveOfFile(values.intake);
-  values.exhaust.curve = CurveOfFile(values.exhaust);
+  values.cam = {b.CamFileTitle, b.CamFileHeader, b.LiftsOfCamDoctor != 0, HasCamDegrees()};
+  for (TimeAreaSide* side : {&values.intake, &values.exhaust}) {
+    side->curve = CurveOfFile(*side);
+    side->step = CrankStep(files_.TableOf(SideOf(*side)));
+  }
 }
 
 void TimeAreaPanel::ReadLiftFile() {
@@ -220,28 +236,64 @@ void TimeAreaPanel::ReadLiftFile() {
   ShowCam();
 }
 
+std::vector<LiftDuration> TimeAreaPanel::LiftTableOfCam(CamSide side, bool& isCut) {
+  const FlowTable flow =
+      side == CamSide::Intake ? parts_.flow.ReadIntake() : parts_.flow.ReadExhaust();
+  const ValveCurve curve = CurveOfFile(ReadGear(side));
+  const auto durationAt = [&](double lift) {
+    const auto events = EventsAt(curve, lift, &ValvePoint::lift);
+    return events ? events->duration() : 0;
+  };
+  // The valve on its seat, whatever the lowest lift of the bench is.
+  std::vector<LiftDuration> rows{{0, durationAt(0)}};
+  for (const FlowPoint& point : flow) {
+    if (point.lift > 0) rows.push_back({point.lift, durationAt(point.lift)});
+  }
+  const auto most = static_cast<std::size_t>(Text95.count());
+  isCut = isCut || (rows.size() > most && rows[most].duration > 0);
+  rows.resize(most);
+  return rows;
+}
+
 void TimeAreaPanel::SetLiftTable() {
-  const bool hasCam = HasCam();
+  RequireCam();
+  struct Filled {
+    CamSide side;
+    std::vector<LiftDuration> rows;
+  };
+  std::vector<Filled> tables;
+  std::string note;
+  bool isCut = false;
   for (const CamSide side : {CamSide::Intake, CamSide::Exhaust}) {
-    const SideFields fields = FieldsOf(side);
-    const bool isIntake = side == CamSide::Intake;
-    const FlowTable flow = isIntake ? parts_.flow.ReadIntake() : parts_.flow.ReadExhaust();
-    const ValveCurve curve = hasCam ? CurveOfFile(ReadGear(side)) : ValveCurve{};
-    for (int row = 0; row < fields.lifts.count(); ++row) {
-      const double lift = flow.at(static_cast<std::size_t>(row)).lift;
-      Store(fields.lifts[row], lift);
-      if (!hasCam) continue;
-      const auto events =
-          lift > 0 ? EventsAt(curve, lift, &ValvePoint::lift) : std::optional<LiftEvents>{};
-      Store(fields.durations[row], events ? events->duration() : 0);
+    if (files_.TableOf(side).lifts.empty()) {
+      note = side == CamSide::Intake ? kNoIntakeLobe : kNoExhaustLobe;
+    } else {
+      tables.push_back({side, LiftTableOfCam(side, isCut)});
     }
   }
-  ShowCam();
-  if (!hasCam) {
-    screen().ShowHelp(
-        "The lifts are those of the flow tables. No cam is loaded that would tell "
-        "the durations.");
+  for (const auto& [side, rows] : tables) {
+    const SideFields fields = FieldsOf(side);
+    for (int row = 0; row < fields.lifts.count(); ++row) {
+      const LiftDuration& read = rows.at(static_cast<std::size_t>(row));
+      Store(fields.lifts[row], read.lift);
+      Store(fields.durations[row], read.duration);
+    }
+    FilledTable& filled = side == CamSide::Intake ? intakeFilled_ : exhaustFilled_;
+    filled = {CamName(), rows};
+    std::erase_if(filled.rows, [](const LiftDuration& row) { return !(row.duration > 0); });
   }
+  ShowCam();
+  if (isCut) note = kCutTable;
+  if (!note.empty()) screen().ShowHelp(note);
+}
+
+std::string TimeAreaPanel::CamOfTable(CamSide side, std::span<const LiftDuration> rows) const {
+  const FilledTable& filled = side == CamSide::Intake ? intakeFilled_ : exhaustFilled_;
+  // What fields show is rounded.
+  const auto same = [](const LiftDuration& a, const LiftDuration& b) {
+    return std::abs(a.lift - b.lift) < 1e-4 && std::abs(a.duration - b.duration) < 1e-2;
+  };
+  return std::ranges::equal(filled.rows, rows, same) ? filled.cam : std::string{};
 }
 
 void TimeAreaPanel::ShowCam() {
@@ -261,9 +313,7 @@ void TimeAreaPanel::ShowCam() {
 
 std::string TimeAreaPanel::CamText() {
   if (!HasCam()) return kNoCamNote;
-  std::string text = block().CamFileTitle;
-  if (text.empty()) text = "A cam without a name";
-  return text + "\r\nIntake: " + SideText(CamSide::Intake) +
+  return CamName() + "\r\nIntake: " + SideText(CamSide::Intake) +
          "\r\nExhaust: " + SideText(CamSide::Exhaust);
 }
 
@@ -312,6 +362,7 @@ void TimeAreaPanel::ReportLiftTable() {
   const auto take = [&](TimeAreaSide& side, CamSide which, double centerline) {
     const std::vector<LiftDuration> rows = ReadLiftTable(which);
     side.curve = CurveOfDurations(rows, centerline, side.gear);
+    side.tableCam = CamOfTable(which, rows);
     for (const LiftDuration& row : rows) side.lifts.push_back(row.lift);
   };
   take(values.intake, CamSide::Intake, b.DegreeTDC);

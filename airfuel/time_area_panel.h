@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -74,7 +75,12 @@ class TimeAreaPanel : public ScreenPart {
   /// The lobes of the lift file. @throws CommandError without one
   void TakeLiftFile(TimeAreaValues& values);
   ValveCurve CurveOfFile(const TimeAreaSide& side) const;
+  /// @throws CommandError without a lift file
+  void RequireCam() const;
   bool HasCam() const;
+  std::string CamName() const;
+  /// The steps of the lift file are degrees of the cam.
+  bool HasCamDegrees() const;
   /// Crank degrees between the records of a side.
   double CrankStep(const LiftTable& table) const;
   std::vector<LiftDuration> ReadLiftTable(CamSide side);
@@ -85,14 +91,25 @@ class TimeAreaPanel : public ScreenPart {
   void Graph(bool adds);
   /// The graph that stands there is over crank degrees, as a further curve is.
   bool ShowsDegrees(const FlowPlot& plot) const;
-  /// Takes a lift of the intake's table into the shared list of lifts.
-  void TakeTableLift(int row);
+  /// The rows of a lift table by the lifts of the flow table and the cam, as many as it has.
+  /// @param isCut  is set where a lift that the cam reaches has no row
+  std::vector<LiftDuration> LiftTableOfCam(CamSide side, bool& isCut);
+  /// The cam that the rows of a lift table are of; empty where they are not, or not any more.
+  std::string CamOfTable(CamSide side, std::span<const LiftDuration> rows) const;
   std::string CamText();
   std::string SideText(CamSide side);
 
   Parts parts_;
   CamFiles& files_;
   Grapher& grapher_;
+
+  /// What "Set Lift Table" has made of a side's table.
+  struct FilledTable {
+    std::string cam;
+    std::vector<LiftDuration> rows;  ///< those with a duration
+  };
+  FilledTable intakeFilled_;
+  FilledTable exhaustFilled_;
 
  public:
   Panel Frame12{screen(), "Frame12", "Valve - Cam Details"};
@@ -229,7 +246,8 @@ class TimeAreaPanel : public ScreenPart {
   CheckBox Dohc{FileFrame, "Check1(5)", "DOHC", "Intake and exhaust have camshafts of their own."};
   CheckBox CamDegrees{FileFrame, "CamDegrees", "Cam Degrees",
                       "The steps of the lift file are cam degrees, of which each is two of the "
-                      "crank. Those of Cam Doctor files always are."};
+                      "crank. Those of Cam Doctor files always are; a *.cmm that was converted "
+                      "from one needs this box."};
   CheckBox Skip{FileFrame, "Check1(6)", "DR CPP Skip",
                 "Records of Cam Doctor and Cam Pro Plus files before the valve opens are passed "
                 "over, as in all other files. Without this their first record stands at the "
@@ -310,8 +328,8 @@ class TimeAreaPanel : public ScreenPart {
       Entry(KeyRule::SignedReal, Unit::Degrees, Holds(&P::AFLobeSepAngle), LeaveCheck::HasDigits),
       "Cam degrees between the middles of intake and exhaust; it places the exhaust."};
   Command Command87{LiftTableFrame, "Command87", "Set Lift Table",
-                    "The lift tables get the lifts of the flow tables, and their durations from "
-                    "the cam that is loaded.",
+                    "The lift tables get a row without lift and the lifts of the flow tables, and "
+                    "their durations from the cam that is loaded.",
                     Runs(&TimeAreaPanel::SetLiftTable, CommandRole::Serves)};
 
   Frame ReportFrame{Frame12, "TimeAreaReportFrame", "Text Reports", 2};

@@ -78,6 +78,18 @@ class Reporter {
     report_.EndLine();
   }
 
+  /// Where the figures of the lift tables come from.
+  void AddLiftTables() {
+    const auto source = [](const TimeAreaSide& side) {
+      return side.tableCam.empty() ? std::string("As Entered") : side.tableCam;
+    };
+    report_
+        .Add("From the Lift Table   Intake = " + source(values_.intake) +
+             "   Exhaust = " + source(values_.exhaust))
+        .EndLine();
+    report_.EndLine();
+  }
+
   /// What the lift file says of itself.
   void AddCamHeader() {
     const TimeAreaCam& cam = values_.cam;
@@ -120,6 +132,11 @@ class Reporter {
              (isExhaust ? " BBDC - Valve Lash = " : " BTDC - Valve Lash = ") +
              Number(Shown(side.gear.lash)) + "  A/R = " + Number(side.advance))
         .EndLine();
+    report_.Add("Lift File = Every " + Number(side.step) + " Crank Degrees");
+    if (values_.cam.inCamDegrees) {
+      report_.Add(", " + Number(side.step / kCrankDegreesPerCamDegree) + " Cam Degrees");
+    }
+    report_.EndLine();
     report_.EndLine();
   }
 
@@ -138,6 +155,13 @@ class Reporter {
     report_.AddLines({isExhaust ? "CAM                                                     ECL^"
                                 : "CAM                                                     ICL^"});
     for (const double lift : kRatedLifts) AddEvents(side, lift, &ValvePoint::camLift);
+    if (side.curve.front().camLift > kRatedLifts[0]) {
+      report_
+          .Add("         The lobe is not known below " +
+               FormatValue<"0.000">(Shown(side.curve.front().camLift), mark_) +
+               ", where its lift data begins")
+          .EndLine();
+    }
     AddIntensity(side.curve, "         Minor Intensity ", kMinorIntensityLift);
     AddIntensity(side.curve, "         Major Intensity ", kMajorIntensityLift);
     report_.EndLine();
@@ -145,13 +169,22 @@ class Reporter {
   }
 
   void AddLiftTableWalk(const TimeAreaSide& side) {
+    // The valve's rise is told in the unit of the lifts.
+    constexpr std::string_view kInchRise = "Inch/Deg";
+    constexpr std::string_view kMillimetreRise = "  mm/Deg";
+    std::string units =
+        "                           cm^2/cc              cc     Inch/Deg       28\" CFM Velocity "
+        "DC of "
+        "1  User DC Velocity Area Velocity_";
+    if (values_.inMillimetres) {
+      units.replace(units.find(kInchRise), kInchRise.size(), kMillimetreRise);
+    }
     report_.AddLines(
         {"Valve  Duration Time Port Time Port Piston   Cylinder   Valve  Degrees Piston Curtain  "
          "Depress- Depress- Throat_",
          "Lift            Area cm^2   Area    Travel    Volume   Velocity  ATDC  Flow @  Area    "
          "ion for  ion for  Area    Eff._",
-         "                           cm^2/cc              cc     Inch/Deg       28\" CFM Velocity "
-         "DC of 1  User DC Velocity Area Velocity_"});
+         units});
     const std::vector<TimeAreaRow> rows = Walk(side);
     // The flanks of a lift table are alike.
     const double middle =
@@ -399,6 +432,7 @@ class Reporter {
 std::string TimeAreaReport(const TimeAreaValues& values, DecimalMark mark) {
   Reporter reporter(values, mark);
   reporter.AddEngine();
+  reporter.AddLiftTables();
   for (const TimeAreaSide* side : {&values.intake, &values.exhaust}) {
     reporter.AddSideHead(*side);
     if (reporter.AddTiming(*side)) reporter.AddLiftTableWalk(*side);

@@ -15,14 +15,20 @@ struct TimeAreaSide {
   ValveCurve curve;
   double valveOpen = 0;       ///< where the lift file begins, degrees before its dead centre
   double advance = 0;         ///< degrees that the lobe stands early
+  double step = 0;            ///< crank degrees between the records of the lift file
   std::vector<double> lifts;  ///< that the timing of the valve is told at
+  std::string tableCam;       ///< that filled the lift table; empty for one that was entered
 };
+
+/// The crank turns twice for each turn of the cam.
+inline constexpr double kCrankDegreesPerCamDegree = 2;
 
 /// What is told of the lift file.
 struct TimeAreaCam {
   std::string title;   ///< name of the file; empty for a lift table
   std::string header;  ///< its heading, which may be several lines
   bool isCamDoctor = false;
+  bool inCamDegrees = false;  ///< the steps of the file are degrees of the cam
 };
 
 /// What the reports are made of. Valves, areas and the user's coefficient are above 0.

@@ -167,7 +167,7 @@ void CamTools::ConvertS96File() {
   LiftColumnFile intake = read(intakePath);
   Tell("Please Select Exhaust Lift S96 on next screen or Click Cancel if NONE WANTED");
   LiftFile file;
-  file.format = LiftFormat::CamDoctor;  // each side has its own rocker ratio
+  file.format = LiftFormat::S96;
   file.step = intake.side.step;
   file.intake = std::move(intake.side);
   file.exhaust.step = file.step;

@@ -28,7 +28,8 @@ struct LiftSide {
 
 enum class LiftFormat {
   Cmm,        ///< the program's own, with any step
-  CamDoctor,  ///< rows of intake and exhaust, every 2 degrees
+  CamDoctor,  ///< rows of intake and exhaust, every 2 degrees of the cam
+  S96,        ///< a column a side, every 2 degrees of the crank
 };
 
 /// What a lift file says.

@@ -55,6 +55,9 @@ FileContents ContentsOf(std::string_view text) {
         equals == std::string_view::npos ? std::string_view{} : line.substr(0, equals);
     if (Lower(key) == Lower(kNotesKey)) {
       contents.notes = Trim(text.substr(equals + 2));
+      while (contents.notes.ends_with('\n') || contents.notes.ends_with('\r')) {
+        contents.notes.pop_back();
+      }
       return contents;
     }
     text = rest;
@@ -70,19 +73,21 @@ FileContents ContentsOf(std::string_view text) {
   return contents;
 }
 
-FileComparison Compare(const FileContents& here, const FileContents& there,
-                       const FileContents* asRead) {
+FileContents OfFile(const FileContents& state, const FileContents& asRead) {
   std::set<std::string> inFile;
-  if (asRead != nullptr) {
-    for (const FileRecord& record : asRead->records) inFile.insert(Matched(record));
-  }
+  for (const FileRecord& record : asRead.records) inFile.insert(Matched(record));
+  FileContents contents;
+  std::ranges::copy_if(state.records, std::back_inserter(contents.records),
+                       [&](const FileRecord& record) { return inFile.contains(Matched(record)); });
+  contents.notes = asRead.notes;
+  return contents;
+}
+
+FileComparison Compare(const FileContents& here, const FileContents& there) {
   std::map<std::string, const FileRecord*> known;
-  for (const FileRecord& record : there.records) {
-    if (asRead == nullptr || inFile.contains(Matched(record))) known[Matched(record)] = &record;
-  }
+  for (const FileRecord& record : there.records) known[Matched(record)] = &record;
   std::set<std::string> ours;
   for (const FileRecord& record : here.records) ours.insert(Matched(record));
-
   std::vector<std::string> theirs;
   theirs.reserve(there.records.size());
   std::ranges::transform(there.records, std::back_inserter(theirs), Matched);
@@ -96,7 +101,7 @@ FileComparison Compare(const FileContents& here, const FileContents& there,
   const auto addTheirs = [&](std::size_t end) {
     for (; next < end; ++next) {
       const FileRecord& record = there.records[next];
-      if (ours.contains(theirs[next]) || !known.contains(theirs[next])) continue;
+      if (ours.contains(theirs[next])) continue;
       differences.push_back({record.name, record.key, std::string(kLacking), record.value});
     }
   };
@@ -111,8 +116,7 @@ FileComparison Compare(const FileContents& here, const FileContents& there,
     }
   }
   addTheirs(theirs.size());
-  comparison.notesDiffer =
-      here.notes != there.notes && (asRead == nullptr || here.notes != asRead->notes);
+  comparison.notesDiffer = here.notes != there.notes;
   return comparison;
 }
 

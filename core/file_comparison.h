@@ -43,11 +43,13 @@ struct FileComparison {
   std::vector<KeyDifference> differences;  ///< in the order of the file
   bool notesDiffer = false;
 };
-/// Compares two states of the program, as the writer writes them.
-/// @param asRead  what the file of `there` itself holds: of the keys that it lacks, the state that
-///                was read from it tells what was there before
-FileComparison Compare(const FileContents& here, const FileContents& there,
-                       const FileContents* asRead = nullptr);
+/// Compares what two sides hold, as the writer writes it.
+FileComparison Compare(const FileContents& here, const FileContents& there);
+
+/// What of a state of the program, into which a file was read, is the file's own: of the keys that
+/// the file lacks the state tells what was there before.
+/// @param asRead  what the file itself holds
+FileContents OfFile(const FileContents& state, const FileContents& asRead);
 
 /// Where a key is at home.
 struct KeyPlace {

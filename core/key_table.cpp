@@ -54,6 +54,12 @@ constexpr KeyRow Table(std::string_view key, TableForm form, int firstRow, std::
   return row;
 }
 
+constexpr KeyRow ColumnOf(std::string_view table, KeyRow row) {
+  row.columnOf = table;
+  row.rowWidth = 1;
+  return row;
+}
+
 // clang-format off
 constexpr KeyRow kTable[] = {
     Key("Bore", KeyForm::Number, &P::Bore, "Form1.Text1"),
@@ -221,7 +227,7 @@ constexpr KeyRow kTable[] = {
     Key("Exh Advance Retard", KeyForm::FieldText, &P::ExhAdvanceRetard, "Form4.Text75"),
     Key("A-F Lobe Sep Angle", KeyForm::FieldText, &P::AFLobeSepAngle, "Form4.Text76"),
     Key("Valve to Piston Cl", KeyForm::FieldText, &P::ValvetoPistonCl, "Form4.Text77"),
-    Table<&P::LiftTable>("Lift Table", TableForm::Fields, 0, "Form4"),
+    ColumnOf("IntakeLift", Table<&P::IntakeLiftTable>("Lift Table", TableForm::Fields, 0, "Form4")),
     Key("H Factor", KeyForm::FieldText, &P::HFactor, "Form4.Text114"),
     Key("AirFuel Option5", KeyForm::Integer, &P::AirFuelOption5, "Form4.Option5"),
     Key("Show Dots", KeyForm::YesNo, &P::ShowDots, "Form4.Check1(0)"),

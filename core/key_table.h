@@ -54,9 +54,12 @@ struct KeyRow {
   /// One number of an array by row and column; null for other keys.
   /// Throws std::out_of_range beyond the bounds.
   double& (*cell)(ParameterBlock&, int row, int column) = nullptr;
-  int firstRow = 0;          ///< the first row that has a line
-  int rows = 0;              ///< rows of the array, those before the first line counted
-  int rowWidth = 1;          ///< numbers in a row
+  int firstRow = 0;  ///< the first row that has a line
+  int rows = 0;      ///< rows of the array, those before the first line counted
+  int rowWidth = 1;  ///< numbers in a row
+  /// The key of the table whose first column this one tells again. What that key says in the same
+  /// file holds.
+  std::string_view columnOf = {};
   std::int16_t onValue = 1;  ///< what a switch holds while it is on
   /// The reader knows the key only with a blank behind its "=".
   bool blankBehindEquals = false;

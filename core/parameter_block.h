@@ -220,7 +220,6 @@ struct SharedNumbers {
   double ExhAdvanceRetard{0};
   double AFLobeSepAngle{0};
   double ValvetoPistonCl{0};
-  std::array<double, 16> LiftTable{};
   double HFactor{0};
   std::int16_t AirFuelOption5{0};
   std::int16_t ShowDots{0};

@@ -739,12 +739,18 @@ class ParameterFile::Reader {
     // Stages of nitrous have lost their last number in some files.
     const Numbers numbers =
         ReadNumbers(value, row.tableForm == TableForm::NitrousStages ? width - 1 : width, width);
-    int& next = nextRow_[static_cast<std::size_t>(&row - KeyTable().data())];
+    int& next = RowsRead(row);
     if (next >= row.rows) ThrowTableIsFull();
-    for (std::size_t i = 0; i < width; ++i) {
+    const bool isGiven = !row.columnOf.empty() && RowsRead(*FindKey(row.columnOf)) > next;
+    for (std::size_t i = 0; i < width && !isGiven; ++i) {
       StoreCell(row, next, static_cast<int>(i), numbers.values[i]);
     }
     ++next;
+  }
+
+  /// How many lines of an array key were read: the row that its next one fills.
+  int& RowsRead(const KeyRow& row) {
+    return nextRow_[static_cast<std::size_t>(&row - KeyTable().data())];
   }
 
   void StoreCell(const KeyRow& row, int index, int column, double number) const {

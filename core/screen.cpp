@@ -245,7 +245,7 @@ void ReportBox::ShowReport(std::string report, int fontSize, const ReportFile& f
   Assign(shown_,
          Shown{file.isWhole ? std::string(kNoPrompt) + report : std::move(report), fontSize, file,
                std::move(picture), true},
-         Aspect::Data);
+         reportAspect());
   SetText(std::move(shown));
   SetVisible(true);
   if (screen().focus() != this) Assign(before_, screen().focus(), Aspect::Place);
@@ -260,7 +260,7 @@ void ReportBox::ShowSentence(std::string sentence) {
 }
 
 void ReportBox::CloseReport() {
-  if (shown_.isThere) Assign(shown_, Shown{}, Aspect::Data);
+  if (shown_.isThere) Assign(shown_, Shown{}, reportAspect());
   Assign(sentence_, std::string{}, Aspect::Place);
   Control* before = before_;
   if (before != nullptr) Assign(before_, nullptr, Aspect::Place);
@@ -369,7 +369,11 @@ void CheckBox::SetOn(bool on) {
 }
 
 bool CheckBox::Click() {
-  if (!enabled() || !Reachable()) return false;
+  return Reachable() && TurnOver();
+}
+
+bool CheckBox::TurnOver() {
+  if (!enabled()) return false;
   const History::Step step(*this, History::Kind::Other);
   SetOn(!on_);
   const bool done = handler_ == nullptr || screen().Perform(handler_);
@@ -663,7 +667,7 @@ void Screen::Quit() {
   if (CheckBox* box = MetricBox(); box != nullptr && box->on()) {
     if (block().FormsCleared == 1) {
       SwitchBlankUnits(false);
-    } else if (!box->Click()) {
+    } else if (!box->TurnOver()) {
       // An unread number keeps the screen open: its box has told which field holds it.
       return;
     }

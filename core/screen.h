@@ -332,6 +332,8 @@ class ReportBox : public TextControl {
   /// The report is what counts, and its text follows of it.
   Aspect textAspect() const override { return Aspect::Place; }
   Aspect visibility() const override { return Aspect::Place; }
+  /// A report is part of the data that its screen works out.
+  virtual Aspect reportAspect() const { return Aspect::Data; }
 
  private:
   struct Shown {
@@ -456,9 +458,12 @@ class CheckBox : public Control {
   bool on() const { return on_; }
   /// Sets the state without running the handler.
   void SetOn(bool on);
-  /// Turns the box over and runs its handler; when the handler fails, the box turns back.
-  /// False when it cannot be clicked or its handler failed.
+  /// Turns the box over, as TurnOver. False also where the user cannot reach it.
   bool Click();
+  /// Turns the box over and runs its handler; when the handler fails, the box turns back. For the
+  /// program itself: the box may stand in a panel that is put away.
+  /// False when it is disabled or its handler failed.
+  bool TurnOver();
   /// Keeps a switch of the shared values in step with the box.
   void Bind(std::int16_t& slot);
 

@@ -7,8 +7,12 @@
 #include <system_error>
 #include <utility>
 
+#include "core/build_sheet.h"
+#include "core/dry_run.h"
 #include "core/files.h"
+#include "core/key_table.h"
 #include "core/text.h"
+#include "core/units.h"
 #include "core/version.h"
 
 namespace veldox {
@@ -191,10 +195,11 @@ bool Shell::IsStep(const MenuItem& item) {
   if (item.kind != MenuKind::Action && item.kind != MenuKind::RecentFile) return false;
   // These open a panel or work on the file alone.
   constexpr std::array kNoSteps = {
-      &Shell::Graph,     &Shell::Notes,     &Shell::EntryAlig,
-      &Shell::T_B_Style, &Shell::O_C_Style, &Shell::Co_Name,
-      &Shell::Exit,      &Shell::Write,     &Shell::Print_Head_Location,
-      &Shell::Undo,      &Shell::Redo,      &Shell::Steps,
+      &Shell::Graph,       &Shell::Notes,        &Shell::EntryAlig,
+      &Shell::T_B_Style,   &Shell::O_C_Style,    &Shell::Co_Name,
+      &Shell::Exit,        &Shell::Write,        &Shell::Print_Head_Location,
+      &Shell::Undo,        &Shell::Redo,         &Shell::Steps,
+      &Shell::Build_Sheet, &Shell::Compare_File, &Shell::Compare_Files,
   };
   return std::find(kNoSteps.begin(), kNoSteps.end(), item.action) == kNoSteps.end();
 }
@@ -231,7 +236,7 @@ void Shell::Open(Screen& screen) {
     if (block().FormsCleared == 1) {
       screen.SwitchBlankUnits(true);
     } else {
-      box->Click();
+      box->TurnOver();
     }
   }
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
@@ -262,6 +267,75 @@ Button Shell::Question(const std::string& text, std::vector<Button> buttons) {
 
 void Shell::Inform(const std::string& text, Icon icon) {
   context().host.Ask({icon, title(), text, {Button::OK}});
+}
+
+// ---------------------------------------------------------------- build sheet and comparison
+
+void Shell::ShowBuildSheet(const std::vector<const Screen*>& screens) {
+  const std::string& path = block().ParameterFileName;
+  BuildSheetHead head;
+  head.fileName = path.substr(path.find_last_of('/') + 1);
+  head.made = context().host.Now();
+  sheet.ShowSheet(BuildSheet(screens, head, block()), "Build Sheet");
+}
+
+FileContents Shell::ContentsOfFile(const std::filesystem::path& file) {
+  const std::string bytes = LoadFile(file);
+  DryRun run(context());
+  // Files hold inches.
+  context().HandOver(nullptr);
+  parameterFile_.ReadBytes(bytes, PathText(file.filename()));
+  if (!run.log().error.empty()) throw CommandError(ErrorKind::File, run.log().error);
+  return OfFile(ContentsOf(parameterFile_.Compose().bytes), ContentsOf(DecodeText(bytes)));
+}
+
+FileComparison Shell::CompareWith(const std::filesystem::path& file) {
+  const FileContents there = ContentsOfFile(file);
+  DryRun run(context());
+  context().HandOver(nullptr);
+  return Compare(ContentsOf(parameterFile_.Compose().bytes), there);
+}
+
+FileComparison Shell::CompareTwo(const std::filesystem::path& here,
+                                 const std::filesystem::path& there) {
+  return Compare(ContentsOfFile(here), ContentsOfFile(there));
+}
+
+KeyPlace Shell::PlaceOfKey(const KeyDifference& difference) {
+  KeyPlace place;
+  const KeyRow* row = FindKey(difference.key);
+  if (row == nullptr) return place;
+  const Control* control = FindControl(row->owner);
+  const Screen* screen = control != nullptr
+                             ? &control->screen()
+                             : FindScreen(row->owner.substr(0, row->owner.find('.')));
+  if (screen != nullptr && screen != this) place.screen = screen->title();
+  const auto* field = dynamic_cast<const Field*>(control);
+  if (field == nullptr || difference.name != difference.key) return place;
+  place.label = field->PlainCaption();
+  // Files hold inches, and pounds.
+  place.unit = UnitSign(field->unit(), false);
+  return place;
+}
+
+void Shell::ShowComparison(const FileComparison& comparison, const std::string& here,
+                           const std::string& there) {
+  sheet.ShowSheet(
+      ComparisonReport(
+          comparison, here, there,
+          [this](const KeyDifference& difference) { return PlaceOfKey(difference); }, mark()),
+      "Comparison of Parameter Files");
+}
+
+void Shell::Compare_File() {
+  const std::filesystem::path file = AskParameterFile(FileDialog::Kind::Open);
+  ShowComparison(CompareWith(file), "the present values", PathText(file.filename()));
+}
+
+void Shell::Compare_Files() {
+  const std::filesystem::path here = AskParameterFile(FileDialog::Kind::Open);
+  const std::filesystem::path there = AskParameterFile(FileDialog::Kind::Open);
+  ShowComparison(CompareTwo(here, there), PathText(here.filename()), PathText(there.filename()));
 }
 
 std::filesystem::path Shell::AskParameterFile(FileDialog::Kind kind) {

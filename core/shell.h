@@ -13,6 +13,7 @@
 #include "core/appearance_panel.h"
 #include "core/company_panel.h"
 #include "core/delimited_columns_panel.h"
+#include "core/file_comparison.h"
 #include "core/file_taker.h"
 #include "core/graph_options_panel.h"
 #include "core/menu_table.h"
@@ -22,6 +23,7 @@
 #include "core/screen_printing.h"
 #include "core/screen_scaling.h"
 #include "core/settings.h"
+#include "core/sheet_panel.h"
 #include "core/steps_panel.h"
 #include "core/title_animation.h"
 
@@ -91,6 +93,14 @@ class Shell : public Screen, public FileTaker {
   /// The given caption, the file that is worked on, and a mark while its data have changed.
   std::string WindowTitle() const;
   Settings& settings() { return settings_; }
+  /// Shows a build sheet of screens in the main form.
+  void ShowBuildSheet(const std::vector<const Screen*>& screens);
+  /// Compares the present values with those of a parameter file. Nothing is changed.
+  /// @throws CommandError (File) for a file that cannot be read
+  FileComparison CompareWith(const std::filesystem::path& file);
+  /// Compares two parameter files. Nothing is changed.
+  /// @throws CommandError (File) for a file that cannot be read
+  FileComparison CompareTwo(const std::filesystem::path& here, const std::filesystem::path& there);
   /// The main window's close box.
   void CloseWindow();
   /// The main window was minimised.
@@ -115,8 +125,9 @@ class Shell : public Screen, public FileTaker {
 
   /// The panels that take the launcher's place while they are shown.
   std::vector<ScreenPart*> Panels() {
-    std::vector<ScreenPart*> panels{&notes,   &delimitedColumns, &graphOptions, &appearance,
-                                    &company, &companyPlace,     &steps};
+    std::vector<ScreenPart*> panels{&notes,      &delimitedColumns, &graphOptions,
+                                    &appearance, &company,          &companyPlace,
+                                    &steps,      &sheetChoice,      &sheet};
     panels.insert(panels.end(), toolPanels_.begin(), toolPanels_.end());
     return panels;
   }
@@ -136,6 +147,9 @@ class Shell : public Screen, public FileTaker {
   void Undo() { context().history.Undo(); }
   void Redo() { context().history.Redo(); }
   void Steps() { steps.Open(); }
+  void Build_Sheet() { sheetChoice.Open(); }
+  void Compare_File();
+  void Compare_Files();
   void Clear();
   void Metric();
   void Printer() { printing.SetUpPrinter(); }
@@ -182,6 +196,11 @@ class Shell : public Screen, public FileTaker {
   void Inform(const std::string& text, Icon icon = Icon::Information);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
+  /// What a parameter file holds, as it would be written again.
+  FileContents ContentsOfFile(const std::filesystem::path& file);
+  void ShowComparison(const FileComparison& comparison, const std::string& here,
+                      const std::string& there);
+  KeyPlace PlaceOfKey(const KeyDifference& difference);
   /// Shows what other values than those of controls have been put back.
   void ShowPutBack();
   /// Whether what a menu item changes can be undone as a step.
@@ -238,6 +257,8 @@ class Shell : public Screen, public FileTaker {
   CompanyPanel company{*this};
   CompanyPlacePanel companyPlace{*this};
   StepsPanel steps{*this};
+  SheetChoicePanel sheetChoice{*this};
+  SheetPanel sheet{*this};
 
   ScreenPrinting printing{context()};
 };

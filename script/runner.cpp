@@ -152,6 +152,10 @@ void ScriptRunner::RunLine(std::string_view line) {
     TellVaried(rest);
   } else if (verb == "seek") {
     TellSought(rest);
+  } else if (verb == "compare") {
+    TellCompared(rest);
+  } else if (verb == "sheet") {
+    MakeSheet(rest);
   } else if (verb == "value") {
     TellValue(rest);
   } else if (isOneOf({"answer", "file", "font", "color", "printer"})) {
@@ -315,6 +319,36 @@ void ScriptRunner::TellPreview(Command& command) {
   if (preview.report) print_("report");
   if (preview.graph) print_("graph");
   for (const std::string& note : preview.notes) print_("note: " + EscapeText(note));
+}
+
+void ScriptRunner::TellCompared(std::string_view file) {
+  try {
+    const FileComparison comparison =
+        program_.shell().CompareWith(folder_ / std::filesystem::path(UnescapeText(file)));
+    for (const KeyDifference& difference : comparison.differences) {
+      print_(difference.name + " : " + EscapeText(difference.here) + " | " +
+             EscapeText(difference.there));
+    }
+    if (comparison.notesDiffer) print_("notes : differ");
+  } catch (const CommandError& error) {
+    print_("error: " + EscapeText(error.message()));
+  }
+}
+
+void ScriptRunner::MakeSheet(std::string_view names) {
+  std::vector<const Screen*> screens;
+  while (!names.empty()) {
+    const std::string_view name = TakeWord(names);
+    const Screen* screen = program_.shell().FindScreen(name);
+    if (screen == nullptr) throw ScriptError("no such screen: " + std::string(name));
+    screens.push_back(screen);
+  }
+  if (screens.empty()) {
+    for (const Screen* screen : program_.shell().screens()) {
+      if (screen->visible()) screens.push_back(screen);
+    }
+  }
+  program_.shell().ShowBuildSheet(screens);
 }
 
 double ScriptRunner::TakeNumber(std::string_view& text) const {

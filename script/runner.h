@@ -33,6 +33,8 @@ class ScriptRunner {
   void Prepare(std::string_view verb, std::string_view text);
   void Touch(std::string_view verb, std::string_view target, std::string_view text);
   void Tell(std::string_view verb, std::string_view target);
+  void TellCompared(std::string_view file);
+  void MakeSheet(std::string_view names);
   void TellValue(std::string_view key);
   void TellHistory();
   void TellPreview(Command& command);

@@ -234,10 +234,14 @@ void FramePanel::PlaceCommands(FaceSet& faces, const std::vector<Command*>& comm
     for (const QPushButton* sign : cell.signs) wide += sign->minimumWidth() + cells->spacing();
     width = std::max(width, wide);
   }
-  const int room = std::max(grid_->minimumSize().width(), kCommandFrameWidth);
+  // Beside pages they take as much of the window's width as a screen gives them.
+  constexpr int kWindowEdges = 60;
+  const int room = isBesidePages_ ? screen()->availableSize().width() - kWindowEdges
+                                  : std::max(grid_->minimumSize().width(), kCommandFrameWidth);
   const int fitting = (room + cells->spacing()) / (width + cells->spacing());
   const int count = static_cast<int>(filled.size());
-  const int columns = std::clamp(grows_ || isBesidePages_ ? count : fitting, 1, kMostCommandsInRow);
+  const int inRow = grows_ ? count : isBesidePages_ ? std::min(fitting, count) : fitting;
+  const int columns = std::clamp(inRow, 1, kMostCommandsInRow);
   for (int i = 0; i < count; ++i) {
     const Cell& cell = filled[static_cast<std::size_t>(i)];
     // The column's share of the width, not the caption, makes the buttons equal.

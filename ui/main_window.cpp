@@ -131,7 +131,18 @@ void MainWindow::BuildPages() {
   pages_->addWidget(scroll);
 }
 
+QWidget* MainWindow::BuildReport(ReportBox& box) {
+  auto* panel = new ReportPanel(box, faces_.look(), pages_);
+  faces_.Make<ReportFace>(box, panel, nullptr);
+  return panel;
+}
+
 QWidget* MainWindow::BuildPanel(PanelFace& panel) {
+  for (Control* control : panel.frame().controls()) {
+    if (control->kind() == ControlKind::ReportBox) {
+      return BuildReport(static_cast<ReportBox&>(*control));
+    }
+  }
   // A text or a list takes all the room there is; fields stand close together.
   const auto& controls = panel.frame().controls();
   const bool takesRoom = std::any_of(controls.begin(), controls.end(), [](const Control* control) {

@@ -54,6 +54,8 @@ class MainWindow : public QWidget, public ShellFace {
   void UpdateAction(QAction& action, const MenuItem& item);
   void BuildBody();
   void BuildPages();
+  /// A report of the main form, over the whole room.
+  QWidget* BuildReport(ReportBox& box);
   QWidget* BuildPanel(PanelFace& panel);
   void ShowPanel(PanelFace& panel);
 

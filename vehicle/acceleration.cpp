@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "core/numbers.h"
@@ -57,11 +58,14 @@ constexpr int kCvtSampleSteps = 50;
 constexpr int kGearSamples = 600;
 constexpr int kMostIntervalSamples = 40;
 
+/// Feet a second squared. No clock tells a car that gains speed more slowly from one that gains
+/// none.
+constexpr double kLeastAcceleration = 1e-6;
+
 // Bounds that keep a run within steps and speeds that there are
 constexpr double kMostRpm = 1e6;
 constexpr double kLeastRpmGap = 0.01;
 constexpr double kMostMph = 10000;
-constexpr double kMostValue = 1e9;
 
 constexpr double kNever = std::numeric_limits<double>::max();
 
@@ -144,13 +148,12 @@ class ActiveStages {
   std::size_t byRpm_ = 0;  ///< of them, which come first
 };
 
-/// The car in a step.
-struct Moment {
+/// What a step makes of the car.
+struct StepValues {
   double rpm = 0;
   double torque = 0;
   double mph = 0;
   double speedFps = 0;
-  double lastSpeedFps = 0;
   double meanSpeedFps = 0;
   double power = 0;
   double aeroHp = 0;
@@ -159,6 +162,11 @@ struct Moment {
   double nitrousHp = 0;
   double hoodPressure = 0;
   double acceleration = 0;
+  bool limited = false;  ///< by the tires
+};
+
+/// The car after a step that it has taken.
+struct Moment : StepValues {
   double lastTimeStep = 0;  ///< of the last step that took time
   double lastRpmStep = 0;   ///< its rise in RPM
   double elapsed = 0;
@@ -178,24 +186,28 @@ class Run {
 
  private:
   void ReadGearTables(std::size_t gear);
+  void ReadGearOfStep();
   void ReadNitrous(double gear);
   void FindLaunch();
-  void LaunchPhase();
-  bool ShiftGear(std::size_t to);
-  void RunGear(bool shifts);
-  void Step(double rpm, double torque);
-  void Resist(double mph);
-  void Power(double power);
-  double AddNitrous();
-  void Move(double dV, double thrust);
+  bool LaunchPhase();
+  std::optional<RunEnd> ShiftGear(std::size_t to, bool pulls);
+  bool RunGear(bool shifts);
+  StepValues StepAt(double rpm, double torque) const;
+  bool Take(const StepValues& step);
+  void Resist(StepValues& step, double mph) const;
+  void Power(StepValues& step, double power) const;
+  void Accelerate(StepValues& step, double thrust) const;
+  double AddNitrous(StepValues& step) const;
   bool Happens();
   void Happen();
-  void TakeTopSpeed(double feetASecond);
+  void EndAtPower();
+  void TakeTopSpeed();
   void EndRollout(bool late);
   void TakeMarks();
   void WriteDueRows();
   void WriteChartRow();
   void ForceRow();
+  double ChartSpeedGap() const;
   void ThrottleStop();
   RunRow Row() const;
   void Sample();
@@ -229,6 +241,7 @@ class Run {
 
   // The present gear
   std::size_t gear_ = 0;
+  std::size_t gearOfStep_ = 0;  ///< of the last step, while rowAfterShift_
   double gearRatio_ = 1;
   double growth_ = 0;
   double overallRatio_ = 1;
@@ -255,7 +268,8 @@ class Run {
 
   // Marks and rows
   bool launching_ = false;
-  bool varies_ = false;  ///< the engine keeps its speed
+  bool varies_ = false;      ///< the engine keeps its speed
+  bool wholeTable_ = false;  ///< all of the table is gone through, whether the car can or not
   bool clockRuns_ = false;
   bool stopDone_ = false;
   bool rowAfterShift_ = false;
@@ -264,13 +278,11 @@ class Run {
   double nextChartSpeed_ = 5;
   double nextChartMile_ = kFeetInMile;
   double lastRowAt_ = 0;
-  double lastRowElapsed_ = -1;
   int sampleSteps_ = 0;
   int untilSample_ = 0;
 
   // What is told of the run
   RunResult result_;
-  bool gains_ = false;  ///< the last step gained speed
 };
 
 Run::Run(const AccelerationInputs& inputs, RunSink& sink)
@@ -297,6 +309,10 @@ Run::Run(const AccelerationInputs& inputs, RunSink& sink)
   }
 }
 
+void Run::ReadGearOfStep() {
+  if (rowAfterShift_) ReadGearTables(gearOfStep_);
+}
+
 void Run::ReadNitrous(double gear) {
   stages_ = ActiveStages(in_, gear);
 }
@@ -321,10 +337,9 @@ void Run::ReadGearTables(std::size_t gear) {
   ReadNitrous(static_cast<double>(gear + 1));
 }
 
-inline double Run::AddNitrous() {
-  Moment& m = now_;
-  m.nitrousHp = stages_.At(m.rpm, m.elapsed);
-  return m.nitrousHp * nitrousFactor_;
+inline double Run::AddNitrous(StepValues& step) const {
+  step.nitrousHp = stages_.At(step.rpm, now_.elapsed);
+  return step.nitrousHp * nitrousFactor_;
 }
 
 void Run::BeginClock() {
@@ -357,38 +372,33 @@ void Run::TakeMarks() {
   }
 }
 
-inline void Run::Move(double dV, double thrust) {
+/// @return false where the thrust does not bring the car to the step's speed; it stays as it is
+inline bool Run::Take(const StepValues& step) {
   Moment& m = now_;
-  const bool limited = thrust > tractionLimit_;
-  if (limited) thrust = tractionLimit_;
-  m.acceleration = thrust * perMass_;
-  // A car that gains no speed stands still in time and distance: what is left of the table goes by
-  // without it.
-  if (!(m.acceleration > 0)) return;
-  const double dT = dV / m.acceleration;
+  ++m.steps;
+  const double dV = step.speedFps - m.speedFps;
+  const bool gains = step.acceleration > kLeastAcceleration;
+  if (!gains && dV > 0 && !wholeTable_) return false;
+  static_cast<StepValues&>(m) = step;
+  if (!gains) return true;
+  const double dT = dV / step.acceleration;
   if (dT > 0) {
     m.elapsed += dT;
-    m.distance += dT * m.meanSpeedFps;
+    m.distance += dT * step.meanSpeedFps;
     m.lastTimeStep = dT;
     m.lastRpmStep = rpmStep_;
   }
-  if (limited) m.limitedFeet = m.distance;
+  if (step.limited) m.limitedFeet = m.distance;
+  return true;
 }
 
 inline bool Run::Happens() {
   const Moment& m = now_;
   return --untilSample_ <= 0 || m.distance >= nextMark_ || m.mph >= nextChartSpeed_ ||
-         m.distance >= nextChartMile_ || rowAfterShift_ || (m.acceleration > 0) != gains_;
+         m.distance >= nextChartMile_ || rowAfterShift_;
 }
 
 void Run::Happen() {
-  if ((now_.acceleration > 0) != gains_) {
-    if (gains_) {
-      TakeTopSpeed(2 * now_.meanSpeedFps - now_.speedFps);
-    } else {
-      gains_ = true;
-    }
-  }
   if (now_.distance >= nextMark_) {
     if (!clockRuns_) EndRollout(!launching_ && !varies_);
     TakeMarks();
@@ -401,49 +411,56 @@ void Run::Happen() {
   if (untilSample_ <= 0) Sample();
 }
 
-void Run::TakeTopSpeed(double feetASecond) {
-  gains_ = false;
-  result_.topSpeed = feetASecond / kFeetASecondPerMph;
-  result_.topSpeedRpm = varies_ ? now_.rpm : result_.topSpeed / speedFactor_;
+void Run::EndAtPower() {
+  if (!(now_.speedFps > 0)) return;
+  Happen();
+  WriteChartRow();
+  Sample();
+}
+
+void Run::TakeTopSpeed() {
+  result_.topSpeed = now_.mph;
+  result_.topSpeedRpm = now_.rpm;
   result_.topSpeedGear = static_cast<int>(gear_) + 1;
   result_.topSpeedTime = now_.elapsed;
   result_.topSpeedFeet = now_.distance;
 }
 
-inline void Run::Resist(double mph) {
-  Moment& m = now_;
+inline void Run::Resist(StepValues& step, double mph) const {
   const double air = mph + headWind_;
-  m.aeroHp = air * air * mph * aeroFactor_;
-  m.rollHp = rollFactor_ * mph;
+  step.aeroHp = air * air * mph * aeroFactor_;
+  step.rollHp = rollFactor_ * mph;
 }
 
-inline void Run::Power(double power) {
-  Moment& m = now_;
-  m.power = power;
+inline void Run::Power(StepValues& step, double power) const {
+  step.power = power;
   if (in_.hoodScoop) {
-    m.hoodPressure = m.meanSpeedFps * m.meanSpeedFps * hoodFactor_;
-    m.power *= (m.hoodPressure + kAtmosphere) / kAtmosphere;
+    step.hoodPressure = step.meanSpeedFps * step.meanSpeedFps * hoodFactor_;
+    step.power *= (step.hoodPressure + kAtmosphere) / kAtmosphere;
   }
-  m.netHp = m.power - m.aeroHp - m.rollHp;
-  if (in_.nitrous) m.netHp += AddNitrous();
+  step.netHp = step.power - step.aeroHp - step.rollHp;
+  if (in_.nitrous) step.netHp += AddNitrous(step);
 }
 
-inline void Run::Step(double rpm, double torque) {
-  Moment& m = now_;
-  ++m.steps;
-  m.rpm = rpm;
-  m.torque = torque;
-  m.mph = rpm * speedFactor_;
-  m.speedFps = m.mph * kFeetASecondPerMph;
-  const double dV = m.speedFps - m.lastSpeedFps;
-  m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
-  m.lastSpeedFps = m.speedFps;
-  Resist(m.mph);
-  Power(rpm * torque * powerFactor_);
+inline void Run::Accelerate(StepValues& step, double thrust) const {
+  step.limited = thrust > tractionLimit_;
+  step.acceleration = (step.limited ? tractionLimit_ : thrust) * perMass_;
+}
+
+inline StepValues Run::StepAt(double rpm, double torque) const {
+  StepValues step;
+  step.rpm = rpm;
+  step.torque = torque;
+  step.mph = rpm * speedFactor_;
+  step.speedFps = step.mph * kFeetASecondPerMph;
+  step.meanSpeedFps = (now_.speedFps + step.speedFps) / 2;
+  Resist(step, step.mph);
+  Power(step, rpm * torque * powerFactor_);
   // The thrust of the net torque; a converter below its stall speed multiplies both alike.
-  double thrust = rpm > 0 ? m.netHp / rpm * thrustFactor_ : 0;
+  double thrust = rpm > 0 ? step.netHp / rpm * thrustFactor_ : 0;
   if (rpm <= stallRpm_) thrust += (1 - rpm / stallRpm_) * thrust * (in_.torqueMultiplier - 1);
-  Move(dV, thrust);
+  Accelerate(step, thrust);
+  return step;
 }
 
 RunRow Run::Row() const {
@@ -463,8 +480,16 @@ RunRow Run::Row() const {
   row.engineHp = now_.power;
   if (now_.lastTimeStep > 0) row.rpsRate = now_.lastRpmStep / now_.lastTimeStep;
   if (varies_) {
-    if (now_.mph > 0)
-      row.wheelThrust = (now_.netHp + now_.aeroHp + now_.rollHp) * kPoundMphOfHp / now_.mph;
+    if (!(now_.mph > 0)) return row;
+    // The step was driven at its mean speed. The row tells of its own.
+    StepValues shown = now_;
+    Resist(shown, now_.mph);
+    row.aeroHp = shown.aeroHp;
+    row.rollHp = shown.rollHp;
+    const double driving = now_.netHp + now_.aeroHp + now_.rollHp;
+    row.wheelThrust = driving * kPoundMphOfHp / now_.mph;
+    Accelerate(shown, (driving - row.aeroHp - row.rollHp) * kPoundMphOfHp / now_.mph);
+    row.acceleration = shown.acceleration;
     return row;
   }
   row.wheelForce = overallRatio_ * now_.torque * efficiency_ / rollRadiusFt_;
@@ -479,21 +504,20 @@ RunRow Run::Row() const {
 void Run::WriteChartRow() {
   const double at = varies_ ? now_.mph : now_.rpm;
   if (at == lastRowAt_) return;
-  // Of a car past its top speed one row tells all.
-  if (!(now_.acceleration > 0) && now_.elapsed == lastRowElapsed_) return;
   lastRowAt_ = at;
-  lastRowElapsed_ = now_.acceleration > 0 ? -1 : now_.elapsed;
   sink_.Row(Row());
 }
 
 void Run::ForceRow() {
   now_.acceleration = 0;
-  lastRowElapsed_ = -1;
   WriteChartRow();
 }
 
 void Run::ThrottleStop() {
   stopDone_ = true;
+  // Directly behind a shift the last step is one of the gear before.
+  const std::size_t gear = gear_;
+  ReadGearOfStep();
   sink_.ThrottleStopStarts();
   const double before = now_.acceleration;
   lastRowAt_ = now_.rpm - 1;
@@ -504,16 +528,20 @@ void Run::ThrottleStop() {
   ForceRow();
   now_.acceleration = before;
   sink_.ThrottleStopEnds();
+  if (gear_ != gear) ReadGearTables(gear);
+}
+
+double Run::ChartSpeedGap() const {
+  constexpr double kGap = 5, kFineGap = 1;
+  const bool coarse =
+      launching_ || (now_.elapsed < kFineChartSeconds && now_.distance < kFineChartFeet);
+  return coarse ? kGap : kFineGap;
 }
 
 void Run::WriteDueRows() {
   if (now_.mph < nextChartSpeed_ && now_.distance < nextChartMile_) return;
   WriteChartRow();
-  if (now_.mph >= nextChartSpeed_) {
-    const bool coarse =
-        launching_ || (now_.elapsed < kFineChartSeconds && now_.distance < kFineChartFeet);
-    nextChartSpeed_ = Floor(now_.mph) + (coarse ? 5 : 1);
-  }
+  if (now_.mph >= nextChartSpeed_) nextChartSpeed_ = Floor(now_.mph) + ChartSpeedGap();
   if (now_.distance >= nextChartMile_) nextChartMile_ = Floor(now_.distance) + kFeetInMile;
 }
 
@@ -567,19 +595,24 @@ void Run::FindLaunch() {
   WalkTo(in_.launchRpm, gap / subSteps, (TableTorque(above) - TableTorque(index_)) / subSteps);
 }
 
-void Run::LaunchPhase() {
+bool Run::LaunchPhase() {
   rpmStep_ = kLaunchStep;
   const int everyStep = sampleSteps_;
   sampleSteps_ = kLaunchSampleSteps;
   for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
-    Step(wheelRpm, torqueNow_);
+    if (!Take(StepAt(wheelRpm, torqueNow_))) {
+      EndAtPower();
+      return false;
+    }
     if (Happens()) Happen();
   }
   sampleSteps_ = everyStep;
   launching_ = false;
+  return true;
 }
 
-void Run::RunGear(bool shifts) {
+/// @return false where the thrust has ended before the gear
+bool Run::RunGear(bool shifts) {
   const double shiftRpm = shifts ? shiftRpm_ : kNever;
   double stopRpm = shifts && in_.throttleStop && !stopDone_ ? in_.throttleStopRpm : kNever;
   double rpm = currentRpm_, torque = torqueNow_;
@@ -598,7 +631,10 @@ void Run::RunGear(bool shifts) {
         stopRpm = kNever;
         ThrottleStop();
       }
-      Step(rpm, torque);
+      if (!Take(StepAt(rpm, torque))) {
+        EndAtPower();
+        return false;
+      }
       rpm += rpmStep;
       torque += torqueStep;
       if (Happens()) Happen();
@@ -608,23 +644,34 @@ void Run::RunGear(bool shifts) {
     // The next step would be above the RPM to shift at, or the last one was just there.
     if (rpm <= next + tolerance || std::abs(now_.rpm - shiftRpm) <= tolerance) break;
   }
+  return true;
 }
 
-bool Run::ShiftGear(std::size_t to) {
+/// @param pulls  the gear before still gained speed
+/// @return why there is no change: the run ends in the gear before, with its last step
+std::optional<RunEnd> Run::ShiftGear(std::size_t to, bool pulls) {
   const double time = in_.shiftTime[to - 1];
-  if (gains_) TakeTopSpeed(now_.speedFps);
+  const Moment before = now_;
+  if (!rowAfterShift_) gearOfStep_ = gear_;
+  const auto stay = [&](RunEnd end) {
+    now_ = before;
+    ReadGearTables(gearOfStep_);
+    return pulls ? end : RunEnd::Power;
+  };
   now_.elapsed += time;
-  Resist(now_.mph);
+  Resist(now_, now_.mph);
+  // However long the change takes, the car does not roll back.
   now_.distance +=
-      (now_.speedFps - (std::sqrt(time) * ((now_.aeroHp + now_.rollHp) * 10) / mass_) / 2) * time;
+      std::max(0.0,
+               now_.speedFps - (std::sqrt(time) * ((now_.aeroHp + now_.rollHp) * 10) / mass_) / 2) *
+      time;
   ReadGearTables(to);
   const int number = static_cast<int>(to);
   std::size_t point = 0;
   while (point <= LastPoint() && TableRpm(point) * speedFactor_ < now_.mph) ++point;
   if (point > LastPoint()) {
-    sink_.GearTooShort(number, number + 1);
-    ReadGearTables(to - 1);
-    return false;
+    if (pulls) sink_.GearTooShort(number, number + 1);
+    return stay(RunEnd::GearTooShort);
   }
   const bool belowTable = point == 0;
   index_ = belowTable ? 0 : point - 1;
@@ -636,26 +683,32 @@ bool Run::ShiftGear(std::size_t to) {
     currentRpm_ += step;
     torqueNow_ += torqueStep;
   }
+  if (!(StepAt(currentRpm_, torqueNow_).acceleration > kLeastAcceleration)) {
+    return stay(RunEnd::NextGear);
+  }
   sink_.GearChange(number, number + 1, belowTable);
   rowAfterShift_ = true;
   untilSample_ = sampled_ ? 0 : untilSample_;
-  return true;
+  return std::nullopt;
 }
 
 RunResult Run::Launched() {
   Restart();
   ReadGearTables(0);
   FindLaunch();
-  if (launching_) LaunchPhase();
-  RunGear(true);
+  if (launching_ && !LaunchPhase()) return Finish(RunEnd::Power);
+  bool pulls = RunGear(true);
   for (std::size_t gear = 1; gear < kGears && in_.transRatio[gear] > 0; ++gear) {
-    if (!ShiftGear(gear)) return Finish(RunEnd::GearTooShort);
-    RunGear(true);
+    // A car that never moved has nothing to shift for.
+    if (!(now_.speedFps > 0)) break;
+    if (const std::optional<RunEnd> end = ShiftGear(gear, pulls)) return Finish(*end);
+    pulls = RunGear(true);
   }
-  return Finish(now_.acceleration > 0 ? RunEnd::Gearing : RunEnd::Power);
+  return Finish(pulls ? RunEnd::Gearing : RunEnd::Power);
 }
 
 RunResult Run::EachGear() {
+  wholeTable_ = true;
   for (std::size_t gear = 0; gear < kGears && in_.transRatio[gear] > 0; ++gear) {
     Restart();
     ReadGearTables(gear);
@@ -665,8 +718,8 @@ RunResult Run::EachGear() {
     index_ = 0;
     currentRpm_ = TableRpm(0);
     torqueNow_ = TableTorque(0);
-    now_.lastSpeedFps = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
-    lastRowAt_ = lastRowElapsed_ = -1;
+    now_.speedFps = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
+    lastRowAt_ = -1;
     nextChartSpeed_ = nextChartMile_ = 0;
     RunGear(false);
   }
@@ -689,30 +742,29 @@ RunResult Run::Cvt() {
   while (above < LastPoint() && TableRpm(above) < in_.cvtRpm) ++above;
   const double low = TableRpm(above - 1);
   const double part = (in_.cvtRpm - low) / (TableRpm(above) - low);
-  now_.torque = TableTorque(above - 1) + part * (TableTorque(above) - TableTorque(above - 1));
-  now_.rpm = in_.cvtRpm;
-  const double enginePower = now_.rpm * now_.torque * efficiency_ / kPowerOfTorque;
+  StepValues step;
+  step.torque = TableTorque(above - 1) + part * (TableTorque(above) - TableTorque(above - 1));
+  step.rpm = in_.cvtRpm;
+  const double enginePower = step.rpm * step.torque * efficiency_ / kPowerOfTorque;
   const double end = FurtherMarkFeet(kFurtherMarks - 1);
   StepBound bound(kMostCvtSteps);
-  Moment& m = now_;
-  while (m.distance < end) {
+  bool pulls = true;
+  while (pulls && now_.distance < end) {
     bound.Step();
-    ++m.steps;
-    m.lastSpeedFps = m.speedFps;
-    m.speedFps = static_cast<double>(m.steps) * kCvtStep;
-    m.meanSpeedFps = (m.lastSpeedFps + m.speedFps) / 2;
-    m.mph = m.speedFps / kFeetASecondPerMph;
+    step.speedFps = static_cast<double>(now_.steps + 1) * kCvtStep;
+    step.meanSpeedFps = (now_.speedFps + step.speedFps) / 2;
+    step.mph = step.speedFps / kFeetASecondPerMph;
     // The forces stand for the whole step: at its mean speed power and thrust give the same energy.
-    const double meanMph = m.meanSpeedFps / kFeetASecondPerMph;
-    Resist(meanMph);
-    Power(enginePower);
-    Move(kCvtStep, m.netHp * kPoundMphOfHp / meanMph);
-    if (Happens()) Happen();
-    if (!(m.acceleration > 0)) break;
+    const double meanMph = step.meanSpeedFps / kFeetASecondPerMph;
+    Resist(step, meanMph);
+    Power(step, enginePower);
+    Accelerate(step, step.netHp * kPoundMphOfHp / meanMph);
+    pulls = Take(step);
+    if (pulls && Happens()) Happen();
   }
   WriteChartRow();
   Sample();
-  return Finish(now_.acceleration > 0 ? RunEnd::Distance : RunEnd::Power);
+  return Finish(pulls ? RunEnd::Distance : RunEnd::Power);
 }
 
 void Run::HoldSpeed(double feetASecond) {
@@ -735,34 +787,36 @@ bool Run::RollOut() {
   sink_.ExtensionBegins();
   const double area = in_.frontalArea * in_.dragCoefficient;
   nextChartSpeed_ = 0;
-  double nextRow = Floor(now_.mph) - 5;
+  constexpr double kTolerance = kRollOutStep * kStepTolerance;
+  // Rows stand at the speeds that those of the run stand at.
+  const double gap = ChartSpeedGap();
+  double nextRow = (Floor((now_.mph - kTolerance) / gap)) * gap;
   StepBound bound(kMostRollOutSteps);
   now_.torque = now_.power = now_.nitrousHp = 0;
   while (now_.distance < kQuarterMile) {
     bound.Step();
+    const double lastFps = now_.speedFps;
     now_.mph -= kRollOutStep;
     if (!(now_.mph > 0)) break;
     now_.speedFps = now_.mph * kFeetASecondPerMph;
     now_.rpm = now_.mph / speedFactor_;
-    const double dV = now_.lastSpeedFps - now_.speedFps;
-    now_.meanSpeedFps = (now_.lastSpeedFps + now_.speedFps) / 2;
-    now_.lastSpeedFps = now_.speedFps;
-    Resist(now_.mph);
+    const double dV = lastFps - now_.speedFps;
+    now_.meanSpeedFps = (lastFps + now_.speedFps) / 2;
+    Resist(now_, now_.mph);
     const double deceleration = now_.rollHp / mass_ + (now_.speedFps * now_.speedFps *
                                                        densityFactor_ * kRollOutDensity * area) /
                                                           (2 * in_.carWeight) / efficiencyRaw_;
-    if (!(deceleration > 0)) break;
+    if (!(deceleration > kLeastAcceleration)) break;
     now_.acceleration = -deceleration;
     now_.elapsed += dV / deceleration;
     now_.distance += dV / deceleration * now_.meanSpeedFps;
-    lastRowElapsed_ = -1;
     if (now_.distance >= nextMark_) {
       if (!clockRuns_) EndRollout(true);
       TakeMarks();
     }
-    if (now_.mph <= nextRow) {
+    if (now_.mph <= nextRow + kTolerance) {
       WriteChartRow();
-      nextRow = Floor(now_.mph) - 5;
+      nextRow -= ChartSpeedGap();
     }
   }
   if (now_.distance >= kQuarterMile) return true;
@@ -772,20 +826,21 @@ bool Run::RollOut() {
 }
 
 RunResult Run::Finish(RunEnd end) {
+  ReadGearOfStep();
   result_.tireDiameter = tireDiameter_;
   result_.windDirection = windDirection_;
   result_.steps = now_.steps;
   result_.last = Row();
   result_.end = end;
   if (now_.limitedFeet > 0) result_.tractionLimitedFeet = now_.limitedFeet;
-  if (gains_) TakeTopSpeed(now_.speedFps);
+  TakeTopSpeed();
   if (!(result_.topSpeed > 0)) {
     result_.end = RunEnd::NoThrust;
     return result_;
   }
-  // A car whose power has ended keeps its top speed, whatever the table goes on to.
+  // A car whose power has ended keeps its top speed.
   const bool powerEnded = end == RunEnd::Power;
-  const double lastFps = powerEnded ? result_.topSpeed * kFeetASecondPerMph : now_.speedFps;
+  const double lastFps = now_.speedFps;
   const double rpm = now_.rpm;
   const double left = kQuarterMile - now_.distance;
   if (now_.distance < kOutOfGearFeet && !varies_) {
@@ -797,13 +852,12 @@ RunResult Run::Finish(RunEnd end) {
                                (2 * kInchTurnsPerMph * speed * ratio);
   }
   if (left <= 0) return result_;
-  const double elapsed = now_.elapsed, distance = now_.distance;
+  const Moment before = now_;
   const bool clockRan = clockRuns_;
   if (now_.distance < kExtensionFeet && !powerEnded && RollOut()) {
     result_.rest = RunRest::Deceleration;
   } else {
-    now_.elapsed = elapsed;
-    now_.distance = distance;
+    now_ = before;
     clockRuns_ = clockRan;
     HoldSpeed(lastFps);
     result_.rest = RunRest::ConstantVelocity;
@@ -831,20 +885,24 @@ void Require(bool holds, RunField field, const char* reason) {
 }
 
 bool Usable(double value) {
-  return std::abs(value) <= kMostValue;
+  return std::abs(value) <= kMostUsual;
 }  // no for what is no number
 
 constexpr const char* kMustBePositive = "must be above 0.";
 constexpr const char* kMustNotBeNegative = "must not be below 0.";
 constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
-constexpr const char* kMustBeNumber = "must be a number of usual size.";
 
 void RequireNumber(double value, RunField field, std::size_t index = 0) {
-  Require(Usable(value), field, index, kMustBeNumber);
+  Require(Usable(value), field, index, kMustBeUsual);
 }
 void RequirePositive(double value, RunField field, std::size_t index = 0) {
   RequireNumber(value, field, index);
   Require(value > 0, field, index, kMustBePositive);
+}
+/// Positive, and large enough that a run comes to times and distances that can be told.
+void RequireUsual(double value, RunField field) {
+  RequirePositive(value, field);
+  Require(IsOfUsualSize(value), field, kMustBeUsual);
 }
 void RequireNotNegative(double value, RunField field, std::size_t index = 0) {
   RequireNumber(value, field, index);
@@ -875,15 +933,15 @@ void RequireTable(const AccelerationInputs& in) {
 
 void RequireCar(const AccelerationInputs& in) {
   RequireTable(in);
-  RequirePositive(in.tireRollingRadius, RunField::TireRollingRadius);
-  RequirePositive(in.tireDiameter, RunField::TireDiameter);
-  RequirePositive(in.dynoCorrection, RunField::DynoCorrection);
-  RequirePositive(in.carWeight, RunField::CarWeight);
+  RequireUsual(in.tireRollingRadius, RunField::TireRollingRadius);
+  RequireUsual(in.tireDiameter, RunField::TireDiameter);
+  RequireUsual(in.dynoCorrection, RunField::DynoCorrection);
+  RequireUsual(in.carWeight, RunField::CarWeight);
   RequireNotNegative(in.dragCoefficient, RunField::DragCoefficient);
   RequireNotNegative(in.frontalArea, RunField::FrontalArea);
   RequireNotNegative(in.rollingResistance, RunField::RollingResistance);
   RequireNotNegative(in.rollout, RunField::Rollout);
-  RequirePositive(in.frictionMu, RunField::FrictionMu);
+  RequireUsual(in.frictionMu, RunField::FrictionMu);
   Require(in.frictionMu < kFrictionLimit, RunField::FrictionMu,
           "must be below 36 / 7 (5.142857), where the car would turn over.");
   RequireNotNegative(in.trackPressure, RunField::TrackPressure);
@@ -893,7 +951,7 @@ void RequireCar(const AccelerationInputs& in) {
   for (std::size_t i = 0; i < kNitrousStages; ++i) {
     for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
       if (!Usable(in.nitrousStages[i][k])) {
-        throw RunInputError(RunField::Nitrous, i, kMustBeNumber).InColumn(k);
+        throw RunInputError(RunField::Nitrous, i, kMustBeUsual).InColumn(k);
       }
     }
   }
@@ -967,6 +1025,10 @@ std::string CaptionOf(RunField field, std::size_t index) {
   return {};
 }
 
+bool IsOfUsualSize(double value) {
+  return std::abs(value) >= kLeastUsual && std::abs(value) <= kMostUsual;
+}
+
 std::string FurtherMarkName(std::size_t index) {
   const std::size_t quarters = index + 2;
   std::string name;
@@ -1007,8 +1069,8 @@ double TractionLimit(double carWeight, double mu) {
 
 void RequireRun(const AccelerationInputs& inputs, RunKind kind) {
   RequireCar(inputs);
-  RequirePositive(inputs.rearGearRatio, RunField::RearGearRatio);
-  if (inputs.usesPrimaryDrive) RequirePositive(inputs.primaryDrive, RunField::PrimaryDrive);
+  RequireUsual(inputs.rearGearRatio, RunField::RearGearRatio);
+  if (inputs.usesPrimaryDrive) RequireUsual(inputs.primaryDrive, RunField::PrimaryDrive);
   RequireLoss(inputs.rearEndLoss, RunField::RearEndLoss);
   if (inputs.automatic) {
     RequireLoss(inputs.converterSlippage, RunField::ConverterSlippage);

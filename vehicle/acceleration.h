@@ -90,6 +90,13 @@ struct AccelerationInputs {
   }
 };
 
+// Numbers of a car, an engine or a rate lie within these.
+inline constexpr double kLeastUsual = 1e-6;
+inline constexpr double kMostUsual = 1e9;
+inline constexpr const char* kMustBeUsual = "must be a number of usual size.";
+/// True for a number within them, of either sign; false for 0.
+bool IsOfUsualSize(double value);
+
 /// How a run goes through the table.
 enum class RunKind {
   Launched,  ///< launched at the launch RPM, with gears changed at their RPM
@@ -245,6 +252,7 @@ enum class RunEnd {
   Gearing,       ///< the table or the last gear's shift RPM ended while the car still gained speed
   Power,         ///< drag has taken all of the thrust
   GearTooShort,  ///< the next gear is too short for the speed that was reached
+  NextGear,      ///< the next gear cannot pull at the speed that was reached
   Distance,      ///< a CVT had passed the last of the marks
   NoThrust,      ///< the car has never moved
 };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "vehicle/acceleration.h"
 #include "vehicle/road_load.h"
 #include "vehicle/torque_table.h"
 
@@ -84,6 +85,7 @@ void AccelerationPage::ShiftTorqueCurve() {
 void AccelerationPage::CorrectTorqueCurve() {
   ReadFields({&Text67});
   Require(block().DynoCorrection > 0, Text67, kAboveZero);
+  Require(IsOfUsualSize(block().DynoCorrection), Text67, kMustBeUsual);
   std::vector<TorquePoint> points = TorquePoints(block());
   RequireTorquePoints(points);
   for (TorquePoint& point : points) {

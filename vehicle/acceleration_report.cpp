@@ -1,5 +1,6 @@
 #include "vehicle/acceleration_report.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -15,6 +16,10 @@ constexpr double kChartFeet = 6600;  // beyond it distances are in miles
 constexpr double kEighthMile = 660;
 constexpr double kSixtyFeet = 60;
 constexpr double kThirdOfEighth = 330;
+constexpr double kThousandFeet = 1000;
+constexpr double kQuarterMile = 1320;
+/// Rows of the longest chart: no car of usual numbers comes near.
+constexpr int kMostRows = 20000;
 
 /// Writes the chart while the run goes on.
 class ChartSink final : public RunSink {
@@ -69,12 +74,10 @@ class ChartSink final : public RunSink {
  private:
   void WriteChartHeader();
   void WriteChartRow(const RunRow& row);
-  void AddSummary(const RunResult& result);
   void AddSpeeds(const RunResult& result);
   void AddTime(ReportWriter& lines, std::string_view name, double time);
   void AddSpeed(ReportWriter& lines, std::string_view name, double mph);
-  void AddEighth(const RunResult& result);
-  void AddQuarter(const RunResult& result);
+  void AddMarks(const RunResult& result, double from, double to);
 
   const AccelerationInputs& inputs_;
   const RunListener& listener_;
@@ -85,6 +88,7 @@ class ChartSink final : public RunSink {
   ReportWriter* lines_ = &report_;
   bool firstRow_ = true;
   bool rollsOut_ = false;
+  int rows_ = 0;
 };
 
 void ChartSink::WriteChartHeader() {
@@ -114,6 +118,13 @@ void ChartSink::WriteChartHeader() {
 }
 
 void ChartSink::WriteChartRow(const RunRow& row) {
+  if (++rows_ > kMostRows) {
+    if (rows_ == kMostRows + 1) {
+      lines_->Add("The chart has its ").Add<"0">(kMostRows);
+      lines_->Add(" rows. Those that follow are left out.").EndLine();
+    }
+    return;
+  }
   ReportWriter& lines = *lines_;
   lines.Add<"0.0">(row.rpm, 7).Add<"0.00">(row.mph, 8).Add<".000">(row.feetASecond, 9);
   if (!varies_) {
@@ -155,26 +166,24 @@ void ChartSink::AddSpeed(ReportWriter& lines, std::string_view name, double mph)
   lines.Add(name).Add<".00">(mph).EndLine();
 }
 
-void ChartSink::AddEighth(const RunResult& result) {
-  AddTime(report_, "1/8 Mile ET  = ", result.Et8());
-  AddSpeed(report_, "1/8 Mile MPH = ", result.EighthMileMph());
-}
-
-void ChartSink::AddQuarter(const RunResult& result) {
-  AddTime(report_, "1000 Foot ET = ", result.at(StripMark::Feet1000).time);
-  AddTime(report_, "1/4 Mile ET  = ", result.Et());
-  AddSpeed(report_, "1/4 Mile MPH = ", result.QuarterMileMph());
-}
-
-void ChartSink::AddSummary(const RunResult& result) {
-  const double reached = result.last.distance;
-  if (reached >= kSixtyFeet) AddTime(report_, "60 Foot ET   = ", result.Et60());
-  if (reached >= kThirdOfEighth) {
+/// The lines of the marks beyond one distance, up to another.
+void ChartSink::AddMarks(const RunResult& result, double from, double to) {
+  const auto within = [&](double feet) { return feet > from && feet <= to; };
+  if (within(kSixtyFeet)) AddTime(report_, "60 Foot ET   = ", result.Et60());
+  if (within(kThirdOfEighth)) {
     AddTime(report_, "330 Foot ET  = ", result.at(StripMark::Feet330).time);
   }
-  if (reached < kEighthMile) return;
-  AddEighth(result);
-  AddQuarter(result);
+  if (within(kEighthMile)) {
+    AddTime(report_, "1/8 Mile ET  = ", result.Et8());
+    AddSpeed(report_, "1/8 Mile MPH = ", result.EighthMileMph());
+  }
+  if (within(kThousandFeet)) {
+    AddTime(report_, "1000 Foot ET = ", result.at(StripMark::Feet1000).time);
+  }
+  if (within(kQuarterMile)) {
+    AddTime(report_, "1/4 Mile ET  = ", result.Et());
+    AddSpeed(report_, "1/4 Mile MPH = ", result.QuarterMileMph());
+  }
 }
 
 void ChartSink::AddSpeeds(const RunResult& result) {
@@ -184,6 +193,10 @@ void ChartSink::AddSpeeds(const RunResult& result) {
     case RunEnd::Power: report_.Add("The power ends there: drag takes all of the thrust"); break;
     case RunEnd::Gearing: report_.Add("The gearing ends there: the car still gains speed"); break;
     case RunEnd::GearTooShort: report_.Add("The next gear is too short to go on"); break;
+    case RunEnd::NextGear:
+      report_.Add("The run ends there: gear ").Add<"0">(result.topSpeedGear + 1);
+      report_.Add(" cannot pull at this speed");
+      break;
     case RunEnd::Distance: report_.Add("The chart ends there: the car still gains speed"); break;
     case RunEnd::NoThrust: break;
   }
@@ -203,20 +216,20 @@ std::string ChartSink::Finish(const RunResult& result) {
          "Resistance and the wind."});
     return report_.Finish();
   }
-  AddSummary(result);
+  const double reached = result.last.distance;
+  AddMarks(result, 0, reached);
   if (result.tryRearGearRatio) {
     report_.Add("Try Using Rear Gear Ratio = ").Add<"0.0##">(*result.tryRearGearRatio).EndLine();
   }
-  const bool pastEighth = result.last.distance >= kEighthMile;
   if (result.rest == RunRest::Deceleration) {
     report_.AddLines({"------- Calculated From DeAcceleration"});
     report_.Add(extension_.ReportLine);
-    if (!pastEighth) AddEighth(result);
-    AddQuarter(result);
-  } else if (result.rest == RunRest::ConstantVelocity && !pastEighth) {
+  } else if (result.rest == RunRest::ConstantVelocity) {
     report_.AddLines({"------- Calculated From Constant Velocity"});
-    AddEighth(result);
-    AddQuarter(result);
+  }
+  // The eighth and the quarter mile are told of every car, what lies before only if it got there.
+  if (result.rest != RunRest::None) {
+    AddMarks(result, std::max(reached, kThirdOfEighth), kQuarterMile);
   }
   for (std::size_t i = 0; i < kFurtherMarks; ++i) {
     const RunMark& mark = result.further[i];

@@ -31,4 +31,12 @@ inline void WriteHeads(ReportWriter& report, std::span<const ChartColumn> column
   report.EndLine();
 }
 
+/// Adds a number that ends at the right of its column, with a blank before it however wide it is.
+template <PatternText Pattern>
+void AddNumber(ReportWriter& report, double value, int width) {
+  report.Cell<Pattern>(value, width);
+  if (!report.CellText.starts_with(' ')) report.Add(" ");
+  report.Add(report.CellText);
+}
+
 }  // namespace veldox

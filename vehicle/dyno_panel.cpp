@@ -82,6 +82,7 @@ SheetCorrection DynoPanel::ReadCorrection() {
   ReadFields({&entered, &Text83, &Text84, &Text85});
   const ParameterBlock& b = block();
   Require(b.DynoCorrection > 0, entered, kAboveZero);
+  Require(IsOfUsualSize(b.DynoCorrection), entered, kMustBeUsual);
   const SheetCorrection correction =
       CorrectionOfSheet(b.DynoCorrection, {b.DynoBP, b.DynoTemp, b.DynoVP});
   if (!correction.isEntered) {

@@ -26,7 +26,7 @@ double At(std::span<const double> column, std::size_t row) {
 template <PatternText Pattern>
 void AddMeasured(ReportWriter& report, double value) {
   if (value > 0) {
-    report.Add<Pattern>(value, kWidth);
+    AddNumber<Pattern>(report, value, kWidth);
   } else {
     report.Add(std::string(kWidth, ' '));
   }
@@ -126,14 +126,14 @@ std::string DynoSheetReport(const DynoColumns& columns, const DynoSheetLayout& l
     const double power = PowerForTorque(torque, rpm);
     highestTorque.Take(torque, rpm);
     highestPower.Take(power, rpm);
-    report.Add<"0">(rpm, kRpmWidth)
-        .Add<"0.0">(torque * unit, kTorqueWidth)
-        .Add<"0.0">(power, kWidth);
+    AddNumber<"0">(report, rpm, kRpmWidth);
+    AddNumber<"0.0">(report, torque * unit, kTorqueWidth);
+    AddNumber<"0.0">(report, power, kWidth);
     if (layout.cubicInches > 0) {
-      report.Add<"0.0">(MeanPressureForTorque(torque, layout.cubicInches), kWidth);
+      AddNumber<"0.0">(report, MeanPressureForTorque(torque, layout.cubicInches), kWidth);
     }
-    report.Add<"0.0">(torque * unit * factor, kTorqueWidth);
-    report.Add<"0.0">(power * factor, kTorqueWidth);
+    AddNumber<"0.0">(report, torque * unit * factor, kTorqueWidth);
+    AddNumber<"0.0">(report, power * factor, kTorqueWidth);
     if (hasFuel) {
       AddMeasured<"0.0">(report, At(columns.fuel, row));
       AddMeasured<"0.000">(report, At(columns.bsfc, row));

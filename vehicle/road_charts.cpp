@@ -33,12 +33,14 @@ RoadCharts::RoadCharts(Screen& screen, RunInputs& inputs)
 double RoadCharts::ReadAboveZero(Field& field, double P::*value) {
   ReadFields({&field});
   Require(block().*value > 0, field, kAboveZero);
+  Require(IsOfUsualSize(block().*value), field, kMustBeUsual);
   return block().*value;
 }
 
 double RoadCharts::ReadPrimaryDrive() {
   const double primary = page_.ReadPrimaryDrive();
   Require(primary > 0, page_.Text62, kAboveZero);
+  Require(IsOfUsualSize(primary), page_.Text62, kMustBeUsual);
   return primary;
 }
 
@@ -111,6 +113,7 @@ void RoadCharts::ChartEngineSpeeds() {
   const RoadGear gear = ReadGear();
   const double rate = Read(page_.Text70);
   Require(rate >= 0, page_.Text70, "must not be below 0.");
+  Require(rate == 0 || IsOfUsualSize(rate), page_.Text70, kMustBeUsual);
   ShowChart([&] {
     const ParameterBlock& b = block();
     return RoadEngineChart(car, gear, Rows(b.RoadRpm, b.RoadRpmRowCount),

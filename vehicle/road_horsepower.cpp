@@ -50,10 +50,14 @@ void WriteEngineRows(ReportWriter& report, const RoadDrive& drive,
     const double rowTorque = TorqueForPower(row.TotalHp(), rpm);
     if (row.TotalHp() > power.value) power = {row.TotalHp(), rpm};
     if (rowTorque > torque.value) torque = {rowTorque, rpm};
-    report.Add<"0.0">(rpm, 9).Add<"0.00">(row.mph, 9).Add<"0.0000">(row.seconds, 10);
-    report.Add<"0.00">(row.accelerationHp, 11).Add<"0.00">(row.aeroHp, 10);
-    report.Add<"0.00">(row.rollHp, 10).Add<"0.00">(row.TotalHp(), 10);
-    report.Add<"0.00">(rowTorque, 10).EndLine();
+    AddNumber<"0.0">(report, rpm, 9);
+    AddNumber<"0.00">(report, row.mph, 9);
+    AddNumber<"0.0000">(report, row.seconds, 10);
+    AddNumber<"0.00">(report, row.accelerationHp, 11);
+    for (const double value : {row.aeroHp, row.rollHp, row.TotalHp(), rowTorque}) {
+      AddNumber<"0.00">(report, value, 10);
+    }
+    report.EndLine();
   }
   report.EndLine();
   if (power.value > 0) {
@@ -183,9 +187,13 @@ std::string RoadWeightChart(const RoadCar& car, std::span<const double> mph,
       powers.begin(), powers.end(),
       [](const RoadPower& a, const RoadPower& b) { return a.TotalHp() < b.TotalHp(); });
   for (const RoadPower& row : powers) {
-    report.Add<"0.00">(row.mph, 9).Add<"0.0000">(row.seconds, 10);
-    report.Add<"0.00">(row.accelerationHp, 11);
-    if (hasDrag) report.Add<"0.00">(row.aeroHp, 10).Add<"0.00">(row.TotalHp(), 10);
+    AddNumber<"0.00">(report, row.mph, 9);
+    AddNumber<"0.0000">(report, row.seconds, 10);
+    AddNumber<"0.00">(report, row.accelerationHp, 11);
+    if (hasDrag) {
+      AddNumber<"0.00">(report, row.aeroHp, 10);
+      AddNumber<"0.00">(report, row.TotalHp(), 10);
+    }
     report.EndLine();
   }
   report.EndLine();
@@ -236,14 +244,14 @@ std::string StartingLineChart(const StartingLine& line, DecimalMark mark) {
   report.AddPadCell(kWidth * (1 + own));
   report.EndLine(LineMark::Heading);
   report.Add(" Diameter");
-  for (const double ratio : ratios) report.Add<"0.00#">(ratio, kWidth);
+  for (const double ratio : ratios) AddNumber<"0.00#">(report, ratio, kWidth);
   report.EndLine(LineMark::Heading);
   for (int i = -kRowsAside; i <= kRowsAside; ++i) {
     const double diameter = line.tireDiameter + i * kDiameterStep;
     if (diameter <= 0) continue;
     report.Add<"0.0##">(diameter, kWidth);
     for (const double ratio : ratios) {
-      report.Add<"0.00">(line.RpmPerMph(ratio, diameter), kWidth);
+      AddNumber<"0.00">(report, line.RpmPerMph(ratio, diameter), kWidth);
     }
     report.EndLine(i == 0 ? LineMark::Bold : LineMark::None);
   }

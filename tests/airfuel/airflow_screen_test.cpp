@@ -3,10 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 #include <memory>
+#include <numbers>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/field_copy.h"
 #include "core/report.h"
@@ -498,15 +502,144 @@ TEST_F(AirflowScreen, SetLiftTableTakesTheDurationsOfTheCam) {
   Set(panel.Text88, ".06");
   Set(flow.Text48[2], ".24");
   EXPECT_TRUE(Click(panel.Command87));
+  // The flow begins at .1: the row of no lift stands before it. The valve leaves its seat behind
+  // .04 at the lobe, the record at 10 degrees, whose part of a degree is straight.
+  EXPECT_EQ(panel.Text95[0].text(), "0.0");
+  EXPECT_NEAR(block_.IntakeLiftTable[0].Flow, 180, 1e-9);
   // .24 at the valve is .2 at the lobe, from 50 to 150 degrees; .1 is .10667, from 26.667.
-  EXPECT_EQ(panel.Text95[2].text(), "0.24");
-  EXPECT_NEAR(block_.IntakeLiftTable[2].Flow, 100, 1e-9);
-  EXPECT_NEAR(block_.IntakeLiftTable[0].Flow, 200 - 2 * (.16 / 1.5) * 250, 1e-9);
+  EXPECT_EQ(panel.Text95[3].text(), "0.24");
+  EXPECT_NEAR(block_.IntakeLiftTable[3].Flow, 100, 1e-9);
+  EXPECT_NEAR(block_.IntakeLiftTable[1].Flow, 200 - 2 * (.16 / 1.5) * 250, 1e-9);
   // The lobe has .54 for the valve: .55 is not reached.
-  EXPECT_EQ(panel.Text96[5].text(), "0.0");
-  EXPECT_EQ(block_.LiftTable[2], .24);
-  EXPECT_TRUE(panel.IntakeTable.IsDimmed(5));
-  EXPECT_FALSE(panel.IntakeTable.IsDimmed(2));
+  EXPECT_EQ(panel.Text95[6].text(), "0.55");
+  EXPECT_EQ(panel.Text96[6].text(), "0.0");
+  EXPECT_TRUE(panel.IntakeTable.IsDimmed(6));
+  EXPECT_FALSE(panel.IntakeTable.IsDimmed(3));
+}
+
+TEST_F(AirflowScreen, LiftTablesStayAsTheyAreWithoutALobe) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text95[3], ".21");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(Click(panel.Command87));
+  EXPECT_EQ(host_.messages.back().text.substr(0, 17), "No cam is loaded.");
+  EXPECT_EQ(panel.Text95[3].text(), ".21");
+  EXPECT_EQ(panel.Text96[3].text(), "208");
+  EXPECT_EQ(panel.Text95Exhaust[1].text(), ".050");
+  // A file of the intake alone.
+  LiftFile file = StraightLobe();
+  file.exhaust.lifts.clear();
+  camFiles_.StoreTables(file, "intake.cmm", false);
+  EXPECT_TRUE(Click(panel.Command87));
+  EXPECT_NE(panel.Text95[3].text(), ".21");
+  EXPECT_EQ(panel.Text95Exhaust[1].text(), ".050");
+  EXPECT_EQ(panel.Text96Exhaust[1].text(), "270");
+  EXPECT_EQ(form_.Text78.text(),
+            "The lift file has no exhaust: its lift table is as it was. The intake's is that of "
+            "the cam.");
+}
+
+TEST_F(AirflowScreen, LiftTablesTellTheCamThatFilledThem) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  const auto source = [&] {
+    EXPECT_TRUE(Click(panel.Command52));
+    const std::string report = form_.Text78.report();
+    form_.Text78.CloseReport();
+    const std::size_t from = report.find("From the Lift Table");
+    return report.substr(from, report.find("\r\n", from) - from);
+  };
+  EXPECT_EQ(source(), "From the Lift Table   Intake = As Entered   Exhaust = As Entered");
+  EXPECT_TRUE(Click(panel.Command87));
+  EXPECT_EQ(source(), "From the Lift Table   Intake = straight.cmm   Exhaust = straight.cmm");
+  // Neither millimetres nor another cam that is loaded change what the table is of.
+  EXPECT_TRUE(panel.Metric.Click());
+  camFiles_.StoreTables(StraightLobe(), "other.cmm", false);
+  EXPECT_EQ(source(), "From the Lift Table   Intake = straight.cmm   Exhaust = straight.cmm");
+  EXPECT_TRUE(panel.Metric.Click());
+  Set(panel.Text96Exhaust[1], "143");
+  EXPECT_EQ(source(), "From the Lift Table   Intake = straight.cmm   Exhaust = As Entered");
+}
+
+TEST_F(AirflowScreen, LobesAreToldWholeWhateverTheLashIs) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  // .36 sin^2(180 x / 300), every 2 crank degrees.
+  LiftFile file;
+  file.step = 2;
+  for (LiftSide* side : {&file.intake, &file.exhaust}) {
+    side->step = 2;
+    for (int i = 0; i <= 150; ++i) {
+      side->lifts.push_back(.36 * std::pow(std::sin(std::numbers::pi * i / 150), 2));
+    }
+  }
+  camFiles_.StoreTables(file, "sine.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  for (const char* lash : {"0", ".012", ".024", ".036"}) {
+    Set(panel.Text88, lash);
+    EXPECT_TRUE(Click(panel.Command111));
+    std::string report = form_.Text78.report();
+    form_.Text78.CloseReport();
+    report =
+        report.substr(report.find("CAM      "), report.find("E  X  H") - report.find("CAM   "));
+    std::vector<std::string> durations;
+    std::vector<std::string> middles;
+    std::istringstream lines(report.substr(report.find('\n') + 1));
+    for (std::string line; std::getline(lines, line) && line.find("Minor") == std::string::npos;) {
+      std::istringstream words(line);
+      const std::vector<std::string> row{std::istream_iterator<std::string>(words), {}};
+      ASSERT_EQ(row.size(), 6U) << line;
+      durations.push_back(row[3]);
+      middles.push_back(row[5]);
+    }
+    // 300 (1 - 2 asin(sqrt(lift / .36)) / 180): 275.27 for .006, 254.59, 227.08, 193.23 and 133.65
+    // for the others; 268.02 for .010.
+    ASSERT_EQ(durations.size(), 5U) << lash;
+    EXPECT_EQ(durations[0], "275.3") << lash;
+    EXPECT_EQ(durations[1], "254.6") << lash;
+    EXPECT_EQ(durations[2], "227.1") << lash;
+    for (const std::string& middle : middles) EXPECT_EQ(middle, middles[0]) << lash;
+    EXPECT_NE(report.find("Minor Intensity 40.9 "), std::string::npos) << report;
+    EXPECT_NE(report.find("Major Intensity 27.5 "), std::string::npos) << report;
+  }
+}
+
+TEST_F(AirflowScreen, LiftsOfAReportTellTheirDegrees) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  camFiles_.StoreTables(StraightLobe(), "straight.cmm", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  const auto has = [&](const char* text) {
+    EXPECT_TRUE(Click(panel.Command111));
+    const std::string report = form_.Text78.report();
+    form_.Text78.CloseReport();
+    return report.find(text) != std::string::npos;
+  };
+  EXPECT_TRUE(has("Lift File = Every 10.0 Crank Degrees\r\n"));
+  EXPECT_TRUE(panel.CamDegrees.Click());
+  EXPECT_TRUE(has("Lift File = Every 20.0 Crank Degrees, 10.0 Cam Degrees\r\n"));
+}
+
+TEST_F(AirflowScreen, SingleColumnsHaveTheDegreesOfTheirConvertedFile) {
+  TimeAreaPanel& panel = form_.TimeArea;
+  LiftFile columns;
+  columns.format = LiftFormat::S96;
+  columns.step = 2;
+  for (LiftSide* side : {&columns.intake, &columns.exhaust}) {
+    *side = ParseS96("0.1\n0.2\n0.3\n0.2\n0.1\n", "a.s96", DecimalMark::Point).side;
+  }
+  camFiles_.StoreTables(columns, "a.s96", false);
+  EXPECT_TRUE(Click(form_.Command48));
+  Set(panel.Text88, "0");
+  const std::string inMemory = panel.CamNotes.text();
+  EXPECT_NE(inMemory.find("every 2.0 crank degrees"), std::string::npos) << inMemory;
+  const auto written = ParseLiftFile(
+      "every x degrees = 2\nintake\n0.0\n0.1\n0.2\n0.3\n0.2\n0.1\nexhaust\n0.0\n0.1\n0.2\n"
+      "0.3\n0.2\n0.1\n",
+      "a.s96", DecimalMark::Point);
+  camFiles_.StoreTables(*written, "a.s96", false);
+  panel.ShowCam();
+  EXPECT_EQ(panel.CamNotes.text(), inMemory);
 }
 
 TEST_F(AirflowScreen, LiftTablesInMillimetersGiveTheSameReport) {

@@ -113,6 +113,7 @@ TEST_F(FileToolsTest, SingleColumnsBecomeACmmFile) {
             "Please Select Exhaust Lift S96 on next screen or Click Cancel if NONE WANTED");
   EXPECT_EQ(program_.context().block.IntakeLiftCount, 3);
   EXPECT_EQ(program_.context().block.ExhaustLiftCount, 2);
+  EXPECT_EQ(program_.context().block.LiftsOfCamDoctor, 0);
   // Without an exhaust.
   host_.AnswerFile(folder_ / "in.s96");
   host_.Answer(Button::OK);

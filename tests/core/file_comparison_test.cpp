@@ -23,7 +23,7 @@ TEST(FileContents, NumbersTheRowsThatTheFileDoesNot) {
                   FileRecord{"VE RPM 1", "VE RPM", ".8"}, FileRecord{"VE RPM 2", "VE RPM", ".9"},
                   FileRecord{"Acceleration 1", "Acceleration", "2000 300"},
                   FileRecord{"Acceleration 2", "Acceleration", "2500 310"}));
-  EXPECT_EQ(contents.notes, "first = one\r\nsecond");
+  EXPECT_EQ(contents.notes, "first = one\r\nsecond");  // lines of the file end, notes do not
 }
 
 TEST(FileContents, TellsTheRoadTablesApartByTheirCase) {
@@ -53,7 +53,7 @@ TEST(FileComparison, AKeyThatTheFileLacksIsNoneOfIts) {
   // Read over the present state, the file's own stroke is that state's.
   const FileContents there = ContentsOf("Bore = 4.125\nStroke = 3.25\nNotes = theirs");
   const FileContents asRead = ContentsOf("bore = 4.1250\nNotes = theirs");
-  const FileComparison comparison = Compare(here, there, &asRead);
+  const FileComparison comparison = Compare(here, OfFile(there, asRead));
   EXPECT_THAT(comparison.differences, ElementsAre(KeyDifference{"Bore", "Bore", "4.0", "4.125"},
                                                   KeyDifference{"Stroke", "Stroke", "3.25", "-"}));
   EXPECT_TRUE(comparison.notesDiffer);

@@ -859,7 +859,7 @@ TEST(ParameterFileWriter, ArrayLines) {
   Program program;
   program.block.VERPM[53] = 1234.56789;
   program.block.BSACRPM[0] = 0.05;
-  program.block.LiftTable[1] = 0.15;
+  program.block.IntakeLiftTable[1].Lift = 0.15;
   program.block.ExhaustFlowTable[15] = {0.75, 201.25};
   program.block.TGear[17] = 0.654321;
   program.block.ShiftRPM[1] = 7250.4;
@@ -1473,7 +1473,20 @@ TEST(ParameterFileReader, ARowBeyondAnArrayIsAReadingError) {
   for (int i = 0; i < 17; ++i) bytes += "Lift Table = " + std::to_string(i) + "\r\n";
   program.host.Answer(Button::OK);
   EXPECT_EQ(program.Read(bytes), 17);
-  EXPECT_EQ(program.block.LiftTable[15], 15);
+  EXPECT_EQ(program.block.IntakeLiftTable[15].Lift, 15);
+}
+
+TEST(ParameterFileReader, AColumnYieldsToItsTable) {
+  for (const char* order : {"Lift Table = .1\r\nLift Table = .2\r\nIntakeLift = .15 262\r\n",
+                            "IntakeLift = .15 262\r\nLift Table = .1\r\nLift Table = .2\r\n"}) {
+    Program program;
+    program.block.IntakeLiftTable[1].Flow = 242;
+    program.Read(order);
+    EXPECT_EQ(program.block.IntakeLiftTable[0].Lift, .15) << order;
+    EXPECT_EQ(program.block.IntakeLiftTable[0].Flow, 262) << order;
+    EXPECT_EQ(program.block.IntakeLiftTable[1].Lift, .2) << order;
+    EXPECT_EQ(program.block.IntakeLiftTable[1].Flow, 242) << order;
+  }
 }
 
 TEST(ParameterFileReader, NitrousStagesHaveFourOrFiveNumbers) {

@@ -38,7 +38,19 @@ set Form13.Text42 6
 click Form13.Command13
 set Form13.Text42 0
 click Form13.Command25
+set Form13.Text42 1e-300
+click Form13.Command25
+click Form13.Command13
 set Form13.Text42 5.0
+set Form13.Text51 1e-300
+click Form13.Command25
+set Form13.Text51 2350
+set Form13.Text67 1e300
+click Form13.Command14
+set Form13.Text67 1e-300
+click Form13.Command14
+click Form13.Command25
+set Form13.Text67 1.00
 check Form13.Check2
 set Form13.Text62 0
 click Form13.Command25

@@ -53,6 +53,10 @@ click Form13.Command26
 set Form13.Text66 0.015
 set Form13.Text70 -5
 click Form13.Command27
+set Form13.Text70 1e300
+click Form13.Command27
+set Form13.Text70 1e-300
+click Form13.Command27
 set Form13.Text70 0
 check Form13.Check1
 set Form13.Text41 100

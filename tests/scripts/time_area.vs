@@ -11,6 +11,9 @@ press Form4.Text78 x
 click Form4.Command71
 click Form4.Command111
 click Form4.Command67
+click Form4.Command87
+get Form4.Text95(1)
+get Form4.Text96(1)
 messages
 pause a cam of harmonic motion, whose lashes come with it
 file cam_info/harmonic.cmm
@@ -30,6 +33,8 @@ pause its durations at the lifts of the flow tables
 click Form4.Command87
 get Form4.Text95(0)
 get Form4.Text96(0)
+get Form4.Text95(1)
+get Form4.Text96(1)
 get Form4.Text95(4)
 get Form4.Text96(4)
 get Form4.Text95(5)

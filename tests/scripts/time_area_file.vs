@@ -99,3 +99,28 @@ click Form2.subend
 menu AIRFUEL
 get Form4.Text92
 get Form4.Text88
+pause lifts of a table alone, and beside the table itself, which holds
+answer No
+file time_area/lifts.prm
+menu Read
+get Form4.Text95(0)
+get Form4.Text96(0)
+get Form4.Text95(1)
+get Form4.Text95(2)
+get Form4.Text95(16)
+file time_area/both.prm
+menu Read
+get Form4.Text95(0)
+get Form4.Text96(0)
+get Form4.Text95(1)
+get Form4.Text95(2)
+messages
+pause options that no button has end the reading, here as in all groups
+file time_area/ports.prm
+menu Read
+get Form4.Option5
+get Form4.Text65
+file time_area/throat.prm
+menu Read
+get Form4.Option1
+get Form4.Text65

@@ -55,3 +55,28 @@ get Form4.Text77
 get Form4.Text95(3)
 show Form4.CamNotes
 messages
+pause the menu item ticks the box while the panel is put away, and Quit unticks it
+click Form4.Command53
+menu Metric
+click Form4.subend
+menu AIRFUEL
+get Form4.Check1(4)
+get Form4.Text78
+get Form4.Text88
+get Form4.Text52
+get Form4.Text79
+click Form4.subend
+get Form4.Check1(4)
+get Form4.Text88
+value Intake Lash
+pause with the box ticked on the panel the screen is left from its page
+menu Metric
+menu AIRFUEL
+get Form4.Check1(4)
+click Form4.Command48
+check Form4.Check1(4)
+click Form4.Command53
+click Form4.subend
+state Form4.subend
+get Form4.Check1(4)
+messages

@@ -198,13 +198,73 @@ TEST(AccelerationReport, AShortRunIsToldWithItsRollOut) {
   EXPECT_THAT(row, testing::ContainsRegex("-\\.[0-9]{3}$"));
 }
 
-TEST(AccelerationReport, ARunBehindTheEighthHasItsLinesTwice) {
+/// The lines of the marks and the heading among them, by their first words.
+std::vector<std::string> MarksOf(const std::string& report) {
+  std::vector<std::string> marks;
+  for (const std::string& line : LinesOf(report)) {
+    if (line.starts_with("-------")) marks.push_back(line.substr(8));
+    if (line.find("ET ") <= 10 && line.find(" = ") != std::string::npos) {
+      marks.push_back(line.substr(0, line.find("ET ") - 1));
+    }
+  }
+  return marks;
+}
+
+TEST(AccelerationReport, ComputedTimesStandUnderTheirHeading) {
   SampleCar car = test::StartCar();
-  car.inputs.transRatio = {3.25, 2.25, 1.25, 1.0};
+  car.inputs.transRatio = {3.25, 2.25, 1.25, 1.15};
+  AccelerationChart chart = ChartRun(car.Run(), false, DecimalMark::Point);
+  ASSERT_GT(chart.result.last.distance, 660);
+  ASSERT_LT(chart.result.last.distance, 1000);
+  EXPECT_THAT(MarksOf(chart.report),
+              ElementsAre("60 Foot", "330 Foot", "1/8 Mile", "Calculated From DeAcceleration",
+                          "1000 Foot", "1/4 Mile"));
+  // The last gear a little taller: it ends behind 1000 feet.
+  car.inputs.transRatio[3] = 1.0;
+  chart = ChartRun(car.Run(), false, DecimalMark::Point);
+  ASSERT_GT(chart.result.last.distance, 1000);
+  ASSERT_LT(chart.result.last.distance, 1260);
+  EXPECT_THAT(MarksOf(chart.report), ElementsAre("60 Foot", "330 Foot", "1/8 Mile", "1000 Foot",
+                                                 "Calculated From DeAcceleration", "1/4 Mile"));
+  EXPECT_GT(chart.report.find("1/4 Mile MPH = "), chart.report.find("------- Calculated"));
+}
+
+TEST(AccelerationReport, ACarHeldByDragHasItsHeadingBehindTheEighth) {
+  SampleCar car = test::StartCar();
+  car.inputs.dragCoefficient = 21;
+  const AccelerationChart chart = ChartRun(car.Run(), false, DecimalMark::Point);
+  ASSERT_EQ(chart.result.end, RunEnd::Power);
+  ASSERT_GT(chart.result.last.distance, 660);
+  ASSERT_LT(chart.result.last.distance, 1320);
+  const std::vector<std::string> marks = MarksOf(chart.report);
+  const auto heading = std::ranges::find(marks, "Calculated From Constant Velocity");
+  ASSERT_NE(heading, marks.end());
+  EXPECT_EQ(marks.back(), "1/4 Mile");
+  EXPECT_LT(std::ranges::find(marks, "1/8 Mile"), heading);
+}
+
+TEST(AccelerationReport, AGearThatCannotPullIsToldInWords) {
+  SampleCar car = test::StartCar();
+  car.inputs.dragCoefficient = 15;
   const std::string report = ChartOf(car);
-  EXPECT_EQ(CountOf(report, "1/8 Mile ET  = "), 1U);
-  EXPECT_EQ(CountOf(report, "1/4 Mile ET  = "), 2U);
-  EXPECT_EQ(CountOf(report, "------- Calculated From DeAcceleration"), 1U);
+  EXPECT_THAT(report, HasSubstr("Top Speed MPH = 77.4"));
+  EXPECT_THAT(report, HasSubstr("The run ends there: gear 3 cannot pull at this speed, in gear 2 "
+                                "at 10000 RPM."));
+  EXPECT_THAT(report, Not(HasSubstr("drag takes all")));
+  EXPECT_EQ(CountOf(report, ">>>>--- Gear Change"), 1U);
+}
+
+TEST(AccelerationReport, AChartHasAnEndHoweverSlowTheCar) {
+  SampleCar car = test::StartCar();
+  car.inputs.frictionMu = 2e-6;
+  car.inputs.rollingResistance = car.inputs.dragCoefficient = 0;
+  car.rpm.clear();
+  for (double rpm = 5000; rpm <= 10000; rpm += 100) car.rpm.push_back(rpm);
+  car.torque.assign(car.rpm.size(), 700);
+  const std::string report = ChartOf(car);
+  EXPECT_EQ(CountOf(report, "The chart has its 20000 rows. Those that follow are left out."), 1U);
+  EXPECT_LT(report.size(), 3'000'000U);
+  EXPECT_THAT(report, HasSubstr("1/4 Mile ET  = "));
 }
 
 TEST(AccelerationReport, ARunThatCannotRollOutKeepsItsSpeed) {

@@ -356,6 +356,32 @@ TEST(Acceleration, ThrottleStopKeepsTheSpeed) {
   EXPECT_NEAR(before.rpm, 7000, 1.25);
 }
 
+TEST(Acceleration, AThrottleStopDirectlyBehindAShiftShowsTheStepOfTheGearBefore) {
+  SampleCar car = test::StartCar();
+  // A tire that shrinks lifts the engine to the stop's RPM with the change itself.
+  car.inputs.transRatio = {3.25, 3.25};
+  car.inputs.tireGrowth[1] = -3;
+  car.inputs.shiftRpm[0] = 8000;
+  car.inputs.throttleStop = true;
+  car.inputs.throttleStopRpm = 8200;
+  car.inputs.throttleStopTime = 0.3;
+  KeepingSink sink;
+  SimulateRun(car.Run(), sink);
+  ASSERT_THAT(sink.changes, ElementsAre("1-2"));
+  ASSERT_EQ(sink.stops.size(), 2U);
+  ASSERT_EQ(sink.stops[1], sink.stops[0] + 2);
+  for (const std::size_t i : {sink.stops[0], sink.stops[0] + 1}) {
+    const RunRow& row = sink.rows[i];
+    EXPECT_EQ(row.gear, 1);
+    EXPECT_NEAR(row.mph, row.rpm * 12 / (3.25 * 4.1 * 168.06762), 1e-9);
+    EXPECT_NEAR(row.wheelForce, 3.25 * 4.1 * row.torque * 0.94 * 0.935, 1e-6);
+  }
+  // The run goes on in the gear that it was shifted to.
+  const RunRow& next = sink.rows[sink.stops[1]];
+  EXPECT_EQ(next.gear, 2);
+  EXPECT_NEAR(next.wheelForce, 3.25 * 4.1 * next.torque * 0.94 * 0.935 / 0.97, 1e-6);
+}
+
 // ------------------------------------------------------------ air, tires, nitrous
 
 TEST(Acceleration, DensityAndPressureOfStandardAirAreTheSame) {
@@ -451,15 +477,132 @@ TEST(Acceleration, ATimedStageActsUntilItsStop) {
 
 // ------------------------------------------------------------ the end of a run
 
-TEST(Acceleration, ARunPastItsTopSpeedHasOneRowOfStandingTime) {
-  KeepingSink sink;
-  SampleCar car = test::StockCar();
-  SimulateRun(car.Run(), sink);
-  int standing = 0;
-  for (const RunRow& row : sink.rows) {
-    if (row.gear == 4 && !(row.acceleration > 0)) ++standing;
+/// Each row is a moment of one drive: nothing goes back, and no speed is beyond the top speed.
+void ExpectOneDrive(const KeepingSink& sink, const RunResult& run) {
+  for (std::size_t i = 0; i < sink.rows.size(); ++i) {
+    const RunRow& row = sink.rows[i];
+    EXPECT_LE(row.mph, run.topSpeed) << i;
+    EXPECT_GE(row.acceleration, 0) << i;
+    if (i == 0) continue;
+    EXPECT_GE(row.mph, sink.rows[i - 1].mph) << i;
+    EXPECT_GE(row.distance, sink.rows[i - 1].distance) << i;
   }
-  EXPECT_EQ(standing, 1);
+}
+
+TEST(Acceleration, NoRowHasASpeedThatTheCarNeverHas) {
+  for (SampleCar car : {test::StockCar(), test::TopSpeedCar(), test::Truck()}) {
+    SCOPED_TRACE(car.name);
+    KeepingSink sink;
+    const RunResult run = SimulateRun(car.Run(), sink);
+    ExpectOneDrive(sink, run);
+    EXPECT_EQ(sink.rows.back().mph, run.topSpeed);
+    EXPECT_EQ(run.last.mph, run.topSpeed);
+    EXPECT_EQ(run.last.elapsed, run.topSpeedTime);
+  }
+}
+
+/// The start's car in air that is thicker by far: its power ends before its last gear.
+SampleCar CarInThickAir(double dragCoefficient) {
+  SampleCar car = test::StartCar();
+  car.inputs.dragCoefficient = dragCoefficient;
+  return car;
+}
+
+/// Horsepower that the wheels have in the start's car. The table stands 500 RPM apart.
+double WheelPower(const SampleCar& car, double rpm) {
+  const auto i = std::min(static_cast<std::size_t>((rpm - 5000) / 500), car.rpm.size() - 2);
+  const double part = (rpm - car.rpm[i]) / 500;
+  const double torque = car.torque[i] + part * (car.torque[i + 1] - car.torque[i]);
+  return rpm * torque * 0.94 * 0.935 / 5252;
+}
+
+double Resistance(const SampleCar& car, double mph) {
+  return mph * mph * mph * car.inputs.dragCoefficient * 19.4 / 146625 + 3500 * 0.015 * mph / 375;
+}
+
+/// Agrees with steps of time up to the run's end.
+void ExpectMarksOfTruth(SampleCar& car, const RunResult& run) {
+  test::StripIntegration truth(car.Run());
+  int marks = 0;
+  for (std::size_t i = 0; i < kStripMarks.size() && kStripMarks[i] < run.last.distance; ++i) {
+    if (run.strip[i].mph > run.topSpeed - 0.1) break;
+    const auto passing = truth.At(kStripMarks[i]);
+    ASSERT_TRUE(passing.has_value());
+    EXPECT_NEAR(run.strip[i].time, passing->seconds, 2e-4 * passing->seconds);
+    ++marks;
+  }
+  EXPECT_GE(marks, 1);
+}
+
+TEST(Acceleration, ARunEndsWhereTheNextGearCannotPull) {
+  SampleCar car = CarInThickAir(15);
+  // Gear 2 pulls up to its last RPM, gear 3 does not at the same speed.
+  const double speed = 10000 * 12 / (2.25 * 4.1 * 168.06762);
+  ASSERT_GT(WheelPower(car, 10000), Resistance(car, speed));
+  ASSERT_LT(WheelPower(car, 10000 * 1.25 / 2.25), Resistance(car, speed));
+  KeepingSink sink;
+  const RunResult run = SimulateRun(car.Run(), sink);
+  EXPECT_THAT(sink.changes, ElementsAre("1-2"));
+  EXPECT_EQ(run.end, RunEnd::NextGear);
+  EXPECT_EQ(run.topSpeedGear, 2);
+  EXPECT_NEAR(run.topSpeed, speed, 0.01);
+  EXPECT_NEAR(run.topSpeedRpm, 10000, 0.01);
+  ExpectOneDrive(sink, run);
+  ExpectMarksOfTruth(car, run);
+  // It rolls out from its last step: no time and no way of a change that there was not.
+  EXPECT_EQ(run.last.elapsed, sink.rows.back().elapsed);
+  EXPECT_EQ(run.last.distance, sink.rows.back().distance);
+  ASSERT_EQ(run.rest, RunRest::Deceleration);
+  ASSERT_FALSE(sink.rolledOut.empty());
+  EXPECT_NEAR(sink.rolledOut.front().mph, 75, 0.025);
+  EXPECT_GT(sink.rolledOut.front().distance, run.last.distance);
+  EXPECT_GT(sink.rolledOut.front().elapsed, run.last.elapsed);
+}
+
+TEST(Acceleration, ARunEndsWhereDragTakesTheThrustBeforeTheLastGear) {
+  SampleCar car = CarInThickAir(25);
+  const auto speedAt = [](double rpm) { return rpm * 12 / (2.25 * 4.1 * 168.06762); };
+  double low = 7000, high = 10000;
+  ASSERT_GT(WheelPower(car, low), Resistance(car, speedAt(low)));
+  ASSERT_LT(WheelPower(car, high), Resistance(car, speedAt(high)));
+  while (high - low > 1e-6) {
+    const double rpm = (low + high) / 2;
+    (WheelPower(car, rpm) > Resistance(car, speedAt(rpm)) ? low : high) = rpm;
+  }
+  KeepingSink sink;
+  const RunResult run = SimulateRun(car.Run(), sink);
+  EXPECT_THAT(sink.changes, ElementsAre("1-2"));
+  EXPECT_EQ(run.end, RunEnd::Power);
+  EXPECT_EQ(run.topSpeedGear, 2);
+  // Within a step of 1.25 RPM.
+  EXPECT_LE(run.topSpeedRpm, low + 0.1);
+  EXPECT_GT(run.topSpeedRpm, low - 1.35);
+  ExpectOneDrive(sink, run);
+  ExpectMarksOfTruth(car, run);
+  ASSERT_EQ(run.rest, RunRest::ConstantVelocity);
+  const double fps = run.topSpeed * 22 / 15;
+  EXPECT_NEAR(run.Et(), run.last.elapsed + (1320 - run.last.distance) / fps, 1e-9);
+}
+
+TEST(Acceleration, AnEngineThatLosesItsTorqueIsShiftedWhereTheNextGearPulls) {
+  SampleCar car = test::StartCar();
+  car.torque[8] = car.torque[9] = car.torque[10] = -50;  // from 9000 RPM on
+  KeepingSink sink;
+  const RunResult run = SimulateRun(car.Run(), sink);
+  // Gear 3 takes the engine from just below 9000 to 5000 RPM, where the table begins.
+  EXPECT_THAT(sink.changes, ElementsAre("1-2", "2-3 below", "3-4", "4-5"));
+  EXPECT_EQ(run.end, RunEnd::Power);
+  EXPECT_EQ(run.topSpeedGear, 5);
+  for (const RunRow& row : sink.rows) EXPECT_LT(row.rpm, 9000);
+  ExpectOneDrive(sink, run);
+}
+
+TEST(Acceleration, AChangeThatLastsForeverDoesNotRollTheCarBack) {
+  SampleCar car = test::StartCar();
+  car.inputs.shiftTime[0] = 1e6;
+  KeepingSink sink;
+  const RunResult run = SimulateRun(car.Run(), sink);
+  ExpectOneDrive(sink, run);
 }
 
 TEST(Acceleration, ACarThatCannotMoveHasNoTimes) {
@@ -493,6 +636,25 @@ TEST(Acceleration, BeyondItsLastGearACarRollsOut) {
   EXPECT_NEAR(run.Et8(), timeAt(660), 1e-3);
   EXPECT_NEAR(run.at(StripMark::Feet1320).mph, (v0 - k * (1320 - x0)) * 15 / 22, 0.03);
   EXPECT_FALSE(sink.rolledOut.empty());
+}
+
+TEST(Acceleration, RowsOfTheRollOutStandAtWholeFives) {
+  SampleCar car = test::StartCar();
+  car.inputs.transRatio = {3.25, 2.25};
+  car.inputs.dragCoefficient = 3;
+  KeepingSink sink;
+  const RunResult run = SimulateRun(car.Run(), sink);
+  ASSERT_EQ(run.rest, RunRest::Deceleration);
+  double next = 75;  // from 77.4 MPH down
+  for (const RunRow& row : sink.rolledOut) {
+    const bool isMark = std::ranges::any_of(
+        kStripMarks, [&](double feet) { return row.distance >= feet && row.distance - feet < 10; });
+    if (isMark && std::abs(row.mph - next) > 0.025) continue;
+    // The first of the steps of 0.025 MPH that is there.
+    EXPECT_NEAR(row.mph, next - 0.0125, 0.01251);
+    next -= 5;
+  }
+  EXPECT_LT(next, 65);
 }
 
 TEST(Acceleration, RollingOutTheAirSlowsACarMoreTheMoreItsGearsLose) {
@@ -588,11 +750,28 @@ TEST(Acceleration, ConstantPowerIsTheLawOfTheCvt) {
   EXPECT_TRUE(run.further.back().reached());
 }
 
+TEST(Acceleration, ARowOfTheCvtTellsTheDragOfItsOwnSpeed) {
+  SampleCar car = CvtCar();
+  KeepingSink sink;
+  SimulateCvtRun(car.Run(), sink);
+  ASSERT_GT(sink.rows.size(), 20U);
+  const double power = 9250 * 758.5 * 0.8 / 5252;
+  for (const RunRow& row : sink.rows) {
+    const double aero = std::pow(row.mph, 3) * 0.34 * 19.4 / 146625;
+    const double roll = 3500 * 0.015 * row.mph / 375;
+    EXPECT_NEAR(row.aeroHp, aero, 1e-9 * aero);
+    EXPECT_NEAR(row.rollHp, roll, 1e-9 * roll);
+    const double thrust = std::min((power - aero - roll) * 375 / row.mph, 90.0 * 3500);
+    EXPECT_NEAR(row.acceleration / kGravity, thrust / 3500, 1e-9 * thrust / 3500);
+  }
+}
+
 TEST(Acceleration, TheCvtEndsWhereDragTakesItsPower) {
   SampleCar car = CvtCar();
   car.inputs.dragCoefficient = 2;
-  RunSink nothing;
-  const RunResult run = SimulateCvtRun(car.Run(), nothing);
+  KeepingSink sink;
+  const RunResult run = SimulateCvtRun(car.Run(), sink);
+  ExpectOneDrive(sink, run);
   EXPECT_EQ(run.end, RunEnd::Power);
   const double v = run.topSpeed;
   const double power = 9250 * 758.5 * 0.8 / 5252;
@@ -701,6 +880,16 @@ INSTANTIATE_TEST_SUITE_P(
                 RunField::FrictionMu, "Coefficient of Mu must be below 36 / 7"},
         Refusal{"NoFriction", [](SampleCar& c) { c.inputs.frictionMu = 0; }, RunField::FrictionMu,
                 "Coefficient of Mu must be above 0."},
+        Refusal{"TinyWeight", [](SampleCar& c) { c.inputs.carWeight = 1e-300; },
+                RunField::CarWeight, "Vehicle Weight plus driver must be a number of usual size."},
+        Refusal{"TinyFriction", [](SampleCar& c) { c.inputs.frictionMu = 1e-300; },
+                RunField::FrictionMu, "Coefficient of Mu must be a number of usual size."},
+        Refusal{"TinyDynoFactor", [](SampleCar& c) { c.inputs.dynoCorrection = 1e-300; },
+                RunField::DynoCorrection, "Dyno Correct Factor must be a number of usual size."},
+        Refusal{"TinyTire", [](SampleCar& c) { c.inputs.tireDiameter = 1e-300; },
+                RunField::TireDiameter, "Tire Diameter must be a number of usual size."},
+        Refusal{"TinyRear", [](SampleCar& c) { c.inputs.rearGearRatio = 1e-300; },
+                RunField::RearGearRatio, "Rear Gear Ratio must be a number of usual size."},
         Refusal{"DynoFactor", [](SampleCar& c) { c.inputs.dynoCorrection = 0; },
                 RunField::DynoCorrection, "Dyno Correct Factor must be above 0."},
         Refusal{"RearLoss", [](SampleCar& c) { c.inputs.rearEndLoss = 100; }, RunField::RearEndLoss,

@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <sstream>
+#include <string>
 
 #include "core/error.h"
 #include "core/report.h"
@@ -250,6 +253,29 @@ TEST(RoadCharts, OfTheWeightAloneTakeDragOnlyWhereItIsTold) {
     EXPECT_THAT(without, Not(HasSubstr("Coefficient of Drag")));
     EXPECT_THAT(without, HasSubstr("Highest Horse Power = 95.4 @ 61.0 MPH"));
   }
+}
+
+TEST(RoadCharts, ColumnsStandApartHoweverLargeTheirNumbers) {
+  const std::vector<double> mph{60, 62, 64};
+  const std::vector<double> seconds{7, 7.5, 8.25};
+  RoadCar car = kCar;
+  car.weight = 5e8;  // of more than ten million horsepower
+  const auto rows = [&](const std::string& report, std::size_t numbers) {
+    int found = 0;
+    for (const std::string& line : Lines(report)) {
+      if (line.find_first_not_of(" .0123456789") != std::string::npos || line.empty()) continue;
+      std::istringstream words(line);
+      std::size_t count = 0;
+      for (std::string word; words >> word; ++count) {
+        EXPECT_EQ(std::ranges::count(word, '.'), 1) << line;
+      }
+      EXPECT_EQ(count, numbers) << line;
+      ++found;
+    }
+    EXPECT_EQ(found, 2);
+  };
+  rows(RoadSpeedChart(car, {1, kDrive}, mph, seconds, DecimalMark::Point), 8);
+  rows(RoadWeightChart(car, mph, seconds, DecimalMark::Point), 5);
 }
 
 TEST(StartingLineChart, HasTheCarInTheMiddle) {

@@ -1,0 +1,70 @@
+#include "core/sheet_panel.h"
+
+#include <utility>
+
+#include "core/shell.h"
+
+namespace veldox {
+
+namespace {
+
+constexpr int kSheetFontSize = 10;
+constexpr const char* kNoScreen =
+    "No screen is chosen for the build sheet. Please tick one, or open the screens first.";
+
+}  // namespace
+
+SheetPanel::SheetPanel(Screen& screen) : ScreenPart(screen) {
+  SetFrames({&SheetFrame});
+  SetAreOptions();
+  // A key that closes the report puts the panel away.
+  Sheet.WhenChanged([this] {
+    if (!Sheet.showsReport() && SheetFrame.visible()) Hide();
+  });
+}
+
+void SheetPanel::ShowSheet(std::string report, std::string title) {
+  SheetFrame.SetCaption(std::move(title));
+  Sheet.ShowReport(std::move(report), kSheetFontSize);
+  Show();
+  Sheet.Focus();
+}
+
+SheetChoicePanel::SheetChoicePanel(Shell& shell) : ScreenPart(shell), shell_(shell) {
+  for (const MenuItem& item : Shell::Menu()) {
+    if (item.kind != MenuKind::PrintScreen || item.screen == "Form8" || item.screen == "Form15") {
+      continue;
+    }
+    boxes.push_back(std::make_unique<CheckBox>(
+        SheetChoiceFrame, "Sheet_" + std::string(item.screen), std::string(item.caption),
+        "What this screen holds stands in the build sheet."));
+  }
+  SetFrames({&SheetChoiceFrame, &SheetCommandFrame});
+  SetAreOptions();
+}
+
+void SheetChoicePanel::Open() {
+  ChooseOpen();
+  Show();
+  Sheet_Make.Focus();
+}
+
+void SheetChoicePanel::ChooseOpen() {
+  for (const auto& box : boxes) {
+    const Screen* screen = shell_.FindScreen(box->name().substr(box->name().find('_') + 1));
+    box->SetOn(screen != nullptr && screen->visible());
+  }
+}
+
+void SheetChoicePanel::MakeSheet() {
+  std::vector<const Screen*> screens;
+  for (const auto& box : boxes) {
+    if (!box->on()) continue;
+    const Screen* screen = shell_.FindScreen(box->name().substr(box->name().find('_') + 1));
+    if (screen != nullptr) screens.push_back(screen);
+  }
+  if (screens.empty()) throw CommandError(ErrorKind::InvalidArgument, kNoScreen);
+  shell_.ShowBuildSheet(screens);
+}
+
+}  // namespace veldox
