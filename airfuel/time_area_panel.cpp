@@ -278,7 +278,7 @@ void TimeAreaPanel::SetLiftTable() {
       Store(fields.lifts[row], read.lift);
       Store(fields.durations[row], read.duration);
     }
-    FilledTable& filled = side == CamSide::Intake ? intakeFilled_ : exhaustFilled_;
+    FilledTable& filled = (side == CamSide::Intake ? intakeFilled_ : exhaustFilled_).Change();
     filled = {CamName(), rows};
     std::erase_if(filled.rows, [](const LiftDuration& row) { return !(row.duration > 0); });
   }
@@ -288,7 +288,7 @@ void TimeAreaPanel::SetLiftTable() {
 }
 
 std::string TimeAreaPanel::CamOfTable(CamSide side, std::span<const LiftDuration> rows) const {
-  const FilledTable& filled = side == CamSide::Intake ? intakeFilled_ : exhaustFilled_;
+  const FilledTable& filled = *(side == CamSide::Intake ? intakeFilled_ : exhaustFilled_);
   // What fields show is rounded.
   const auto same = [](const LiftDuration& a, const LiftDuration& b) {
     return std::abs(a.lift - b.lift) < 1e-4 && std::abs(a.duration - b.duration) < 1e-2;

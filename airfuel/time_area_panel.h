@@ -17,6 +17,7 @@
 #include "core/field_array.h"
 #include "core/field_copy.h"
 #include "core/frame_row.h"
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/results.h"
 #include "core/screen_part.h"
@@ -108,8 +109,8 @@ class TimeAreaPanel : public ScreenPart {
     std::string cam;
     std::vector<LiftDuration> rows;  ///< those with a duration
   };
-  FilledTable intakeFilled_;
-  FilledTable exhaustFilled_;
+  Kept<FilledTable> intakeFilled_{screen()};
+  Kept<FilledTable> exhaustFilled_{screen()};
 
  public:
   Panel Frame12{screen(), "Frame12", "Valve - Cam Details"};

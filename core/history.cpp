@@ -254,20 +254,22 @@ void History::Saved() {
   for (std::size_t i = 0; i < steps_.size(); ++i) steps_[i].dirtyAfter = i + 1 != done_;
 }
 
-void History::Exchange(TakenStep& step) {
-  Journal& journal = context_.journal;
-  // Nobody follows while half of it is back.
-  journal.Record(nullptr);
-  const std::vector<ControlChange> changes = ChangesSince(step.recording, nullptr);
-  journal.Swap(step.recording);
+namespace {
+
+/// Shows what has been put back.
+void ShowPutBack(const Recording& recording) {
   std::set<Control*> controls;
   std::set<Screen*> screens;
-  for (const auto& place : step.recording.places()) {
+  for (const auto& place : recording.places()) {
     if (place->owner().control != nullptr) controls.insert(place->owner().control);
     if (place->owner().screen != nullptr) screens.insert(place->owner().screen);
   }
   for (Control* control : controls) control->PutBack();
   for (Screen* screen : screens) screen->PutBack();
+}
+
+/// Marks the fields that have changed, as a command does.
+void MarkChanged(const std::vector<ControlChange>& changes) {
   std::set<Screen*> marked;
   for (const ControlChange& change : changes) {
     Screen& screen = change.control->screen();
@@ -276,6 +278,25 @@ void History::Exchange(TakenStep& step) {
     }
     if (change.control->kind() == ControlKind::Field) change.control->SetMark(Mark::Changed);
   }
+}
+
+}  // namespace
+
+void History::Exchange(TakenStep& step) {
+  Journal& journal = context_.journal;
+  journal.Record(nullptr);
+  const std::vector<ControlChange> changes = ChangesSince(step.recording, nullptr);
+  journal.Swap(step.recording);
+  // What follows of a mark or a report on some screens has been put back already: whatever it
+  // writes anew is taken back.
+  Recording stray(Recording::Scope::Between);
+  journal.Record(&stray);
+  ShowPutBack(step.recording);
+  MarkChanged(changes);
+  journal.Record(nullptr);
+  journal.TakeBlockInto(stray);
+  journal.Swap(stray);
+  ShowPutBack(stray);
   journal.Record(&between_);
 }
 

@@ -49,21 +49,28 @@ class FloatGuard {
   std::fenv_t before_{};
 };
 
-/// The number that a control stands for: its shared value, in the units it shows, else its text.
+/// One unit of the last digit of a number's text.
+double LastDigitOf(const std::string& text) {
+  const auto mark = text.find_first_of(".,");
+  const auto decimals = mark == std::string::npos ? 0 : text.size() - mark - 1;
+  return std::pow(10.0, -static_cast<double>(decimals));
+}
+
+/// The number that a control stands for: its shared value, in the units it shows, or its text
+/// where that shows another number: some commands show a result and keep it nowhere.
 /// @throws CommandError (NotANumber)
 double NumberOf(const Control& control) {
   const Screen& screen = control.screen();
-  if (control.kind() == ControlKind::Field) {
-    const auto& field = static_cast<const Field&>(control);
-    if (field.holds().isShared()) {
-      const Holds::Slot slot = field.holds().In(screen.block());
-      if (auto* const* number = std::get_if<double*>(&slot)) {
-        const bool keptInUs = field.holds().conversion() == Holds::Conversion::ShownOnly;
-        return keptInUs ? screen.AsShown(field, **number) : **number;
-      }
-    }
-  }
-  return ParseNumber(ShownText(control), screen.mark());
+  const std::string text = ShownText(control);
+  const double shown = ParseNumber(text, screen.mark());
+  if (control.kind() != ControlKind::Field) return shown;
+  const auto& field = static_cast<const Field&>(control);
+  const Holds::Slot slot = field.holds().In(screen.block());
+  auto* const* number = std::get_if<double*>(&slot);
+  if (number == nullptr) return shown;
+  const bool keptInUs = field.holds().conversion() == Holds::Conversion::ShownOnly;
+  const double kept = keptInUs ? screen.AsShown(field, **number) : **number;
+  return std::abs(kept - shown) <= LastDigitOf(text) ? kept : shown;
 }
 
 /// One unit of the last digit that a field can show of a value.

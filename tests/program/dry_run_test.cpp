@@ -207,8 +207,8 @@ TEST_P(DryRuns, TellWhatTheClickDoesAndTheClickIsUndoneAndDoneAgain) {
 /// What a screen keeps beside its controls and the shared values has to be put back too.
 TEST(ValuesOfScreens, AreKeptUnlessTheyTellWhereTheUserIs) {
   // The place in a list, the last kind of file in a dialog, the mouse on the graph.
-  const std::set<std::string> places = {"places_", "filterIndex_", "cardFilter_",
-                                        "frame_",  "strokeAt_",    "moveableLines_"};
+  const std::set<std::string> places = {"places_",   "filterIndex_",   "cardFilter_", "frame_",
+                                        "strokeAt_", "moveableLines_", "parts_"};
   const std::regex member(
       R"(^  (double|float|int|bool|unsigned|std::(string|optional|vector|array|map|pair|size_t|int\d+_t|filesystem::path)\b[^&*()]*|[A-Z]\w*) (\w+_)( = [^;]*|\{[^;]*\})?;)");
   int kept = 0;
