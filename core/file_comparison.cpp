@@ -5,6 +5,7 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 #include <utility>
 
 #include "core/key_table.h"
@@ -32,6 +33,29 @@ bool HasRows(std::string_view key) {
 std::string Matched(const FileRecord& record) {
   return record.key.starts_with("Ro") || record.key.starts_with("RO") ? record.name
                                                                       : Lower(record.name);
+}
+
+/// True for values that are the same, whatever their form: ".016" and "0.016" are.
+bool SameValue(const std::string& one, const std::string& other) {
+  if (one == other) return true;
+  const auto numbers = [](const std::string& text) {
+    std::istringstream words(text);
+    return std::vector<std::string>(std::istream_iterator<std::string>(words), {});
+  };
+  const auto same = [](const std::string& left, const std::string& right) {
+    if (left == right) return true;
+    for (const DecimalMark mark : {DecimalMark::Point, DecimalMark::Comma}) {
+      if (IsNumber(left, mark) && IsNumber(right, mark)) {
+        const double ours = ParseNumber(left, mark);
+        const double theirs = ParseNumber(right, mark);
+        // A field's text may have digits more than the writer gives the number that was read.
+        return ours == theirs || FormatSmart(ours, mark) == right ||
+               FormatSmart(theirs, mark) == left;
+      }
+    }
+    return false;
+  };
+  return std::ranges::equal(numbers(one), numbers(other), same);
 }
 
 std::optional<double> NumberIn(const std::string& value, DecimalMark mark) {
@@ -111,7 +135,7 @@ FileComparison Compare(const FileContents& here, const FileContents& there) {
     if (place != placeOfTheirs.end()) addTheirs(place->second);
     const auto found = known.find(name);
     const std::string other(found == known.end() ? kLacking : found->second->value);
-    if (other != record.value) {
+    if (!SameValue(record.value, other)) {
       differences.push_back({record.name, record.key, record.value, other});
     }
   }

@@ -153,7 +153,7 @@ class ScreenPages {
 
   void AddCommand(const Command& command, std::string& commands) const {
     if (!command.isBuilt()) return;
-    commands += "- **" + Plain(Caption(command.caption())) + "**" + Help(command) + "\n";
+    commands += "- **\"" + Plain(Caption(command.caption())) + "\"**" + Help(command) + "\n";
     for (const std::string& note : notes_.Of(screen_.name(), command.name())) {
       commands += "  - *In words:* " + Plain(note) + "\n";
     }

@@ -46,6 +46,10 @@ TEST(FileComparison, TellsWhatDiffersAndWhatOneSideLacks) {
                           KeyDifference{"Acceleration 2", "Acceleration", "2500 310", "-"}));
   EXPECT_FALSE(comparison.notesDiffer);
   EXPECT_THAT(Compare(here, here).differences, IsEmpty());
+  EXPECT_THAT(Compare(ContentsOf("Bore = .5\nShow Dots = 1 2.0\n"),
+                      ContentsOf("Bore = 0.50\nShow Dots = 1.0 2\n"))
+                  .differences,
+              IsEmpty());
 }
 
 TEST(FileComparison, AKeyThatTheFileLacksIsNoneOfIts) {

@@ -109,6 +109,7 @@ TEST(KeyTable, NoTwoKeysShareAMember) {
   ParameterBlock block;
   std::set<const void*> seen;
   for (const KeyRow* row : Keys()) {
+    if (!row->columnOf.empty()) continue;  // a column of another key's table
     const void* place = std::visit(
         [&](auto member) -> const void* {
           if constexpr (std::is_same_v<decltype(member), std::monostate>) {

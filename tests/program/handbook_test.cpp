@@ -87,7 +87,7 @@ TEST_F(HandbookTest, TellsFieldsCommandsAndFormulas) {
   EXPECT_THAT(book, HasSubstr("  - *In words:* Swept volume of a \\*cylinder\\*.\n"));
   EXPECT_THAT(book,
               HasSubstr("![Engine Displacement Calculator](handbook/Form1.png)\n\nOf engines.\n"));
-  EXPECT_THAT(book, HasSubstr("- **Stroke**: Calculate Stroke needed from"));
+  EXPECT_THAT(book, HasSubstr("- **\"Stroke\"**: Calculate Stroke needed from"));
 }
 
 TEST(FormulaNotesTest, AFunctionWithWordsOfItsOwnTakesNoneOfTheOneAboveIt) {

@@ -26,7 +26,9 @@ class StepsWindowTest : public WindowTest {
     Edit(name).setFocus(Qt::TabFocusReason);
     Settle();
   }
-  void Undo(QWidget& widget) { PressKey(widget, Qt::Key_Z, "\x1a", Qt::ControlModifier); }
+  void Undo(QWidget& widget) {
+    PressKey(widget, Qt::Key_Z, QStringLiteral("\x1a"), Qt::ControlModifier);
+  }
 
   QWidget& window;
 };
@@ -42,11 +44,12 @@ TEST_F(StepsWindowTest, CtrlZTakesBackTheTypingFirstAndThenTheSteps) {
   EXPECT_EQ(Text("Text1"), "4.25");
   Undo(Edit("Text3"));
   EXPECT_EQ(Text("Text1"), "4.0") << "the step before it";
-  PressKey(Edit("Text3"), Qt::Key_Z, "\x1a", Qt::ControlModifier | Qt::ShiftModifier);
+  PressKey(Edit("Text3"), Qt::Key_Z, QStringLiteral("\x1a"),
+           Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(Text("Text1"), "4.25");
   EXPECT_EQ(Edit("Text1").text(), QStringLiteral("4.25"));
   Undo(Edit("Text3"));
-  PressKey(Edit("Text3"), Qt::Key_Y, "\x19", Qt::ControlModifier);
+  PressKey(Edit("Text3"), Qt::Key_Y, QStringLiteral("\x19"), Qt::ControlModifier);
   EXPECT_EQ(Text("Text1"), "4.25");
 }
 
@@ -79,7 +82,6 @@ TEST_F(StepsWindowTest, ALineTellsWhatACommandWouldChange) {
   Enter("Text1");
   TypeText(Edit("Text1"), "4.125");
   auto& button = Child<QPushButton>(window, "Command1");
-  const std::string help = Model<Label>("Form1.Label17").caption();
   EnterWidget(button);
   Settle();
   const std::string told = FromQt(Line().text());
@@ -99,7 +101,8 @@ TEST_F(StepsWindowTest, ALineTellsWhyACommandCannot) {
   TypeText(Edit("Text2"), "0");
   EnterWidget(Child<QPushButton>(window, "Command3"));
   Settle();
-  EXPECT_EQ(FromQt(Line().text()).substr(0, 28), "\"Number Of Cylinders\" is 0, a");
+  EXPECT_TRUE(FromQt(Line().text()).starts_with("\"Number Of Cylinders\" is 0, and "))
+      << FromQt(Line().text());
   EXPECT_TRUE(host.messages.empty());
 }
 
