@@ -183,8 +183,7 @@ class TimeAreaPanel : public ScreenPart {
                   "Read a lift file, *.cmm or Cam Doctor, into the lift tables of all screens.",
                   Runs(&TimeAreaPanel::ReadLiftFile, CommandRole::Serves)};
 
-  FrameRow RockerRow{Frame12, "TimeAreaRockerRow", 1};
-  Frame IntakeFrame{RockerRow, "TimeAreaIntakeFrame", "Intake", 0};
+  Frame IntakeFrame{Frame12, "TimeAreaIntakeFrame", "Intake", 1};
   Field Text92{IntakeFrame, "Text92", "Rocker Arm Ratio", "1.5",
                Entry(KeyRule::UnsignedReal, Holds(&P::RockerArmRatio).ShownAtOpening(),
                      LeaveCheck::HasDigits)};
@@ -199,7 +198,7 @@ class TimeAreaPanel : public ScreenPart {
       Entry(KeyRule::SignedReal, Unit::Degrees, Holds(&P::IntakeValveAngle), LeaveCheck::HasDigits),
       "The angle of the valve's stem to the bore."};
 
-  Frame ExhaustFrame{RockerRow, "TimeAreaExhaustFrame", "Exhaust", 1};
+  Frame ExhaustFrame{Frame12, "TimeAreaExhaustFrame", "Exhaust", 1};
   Field Text93{ExhaustFrame, "Text93", "Rocker Arm Ratio", "1.5",
                Entry(KeyRule::UnsignedReal, Holds(&P::ExhaustRockerArmRatio).ShownAtOpening(),
                      LeaveCheck::HasDigits)};

@@ -43,7 +43,8 @@ struct FileComparison {
   std::vector<KeyDifference> differences;  ///< in the order of the file
   bool notesDiffer = false;
 };
-/// Compares what two sides hold, as the writer writes it. A number in another form is no difference.
+/// Compares what two sides hold, as the writer writes it. A number in another form is no
+/// difference.
 FileComparison Compare(const FileContents& here, const FileContents& there);
 
 /// What of a state of the program, into which a file was read, is the file's own: of the keys that

@@ -31,15 +31,22 @@ void SheetPanel::ShowSheet(std::string report, std::string title) {
 }
 
 SheetChoicePanel::SheetChoicePanel(Shell& shell) : ScreenPart(shell), shell_(shell) {
+  std::vector<const MenuItem*> printed;
   for (const MenuItem& item : Shell::Menu()) {
-    if (item.kind != MenuKind::PrintScreen || item.screen == "Form8" || item.screen == "Form15") {
-      continue;
-    }
-    boxes.push_back(std::make_unique<CheckBox>(
-        SheetChoiceFrame, "Sheet_" + std::string(item.screen), std::string(item.caption),
-        "What this screen holds stands in the build sheet."));
+    // The grapher and the version hold nothing that belongs to an engine.
+    const bool isSheet =
+        item.kind == MenuKind::PrintScreen && item.screen != "Form8" && item.screen != "Form15";
+    if (isSheet) printed.push_back(&item);
   }
-  SetFrames({&SheetChoiceFrame, &SheetCommandFrame});
+  for (const MenuItem* item : printed) {
+    Frame& frame = boxes.size() < (printed.size() + 1) / 2 ? SheetChoiceFrame : SheetMoreFrame;
+    std::string caption(item->caption);
+    std::erase(caption, '&');
+    boxes.push_back(
+        std::make_unique<CheckBox>(frame, "Sheet_" + std::string(item->screen), caption,
+                                   "What this screen holds stands in the build sheet."));
+  }
+  SetFrames({&SheetChoiceFrame, &SheetMoreFrame, &SheetCommandFrame});
   SetAreOptions();
 }
 

@@ -46,10 +46,11 @@ class SheetChoicePanel : public ScreenPart {
   Shell& shell_;
 
  public:
-  Frame SheetChoiceFrame{screen(), "SheetChoiceFrame", "Screens of the Build Sheet"};
+  Frame SheetChoiceFrame{screen(), "SheetChoiceFrame", "Screens of the Build Sheet", 0};
+  Frame SheetMoreFrame{screen(), "SheetMoreFrame", "More Screens", 1};
   /// One for each screen that the Print menu has, called by the screen's name: `Sheet_Form1`.
   std::vector<std::unique_ptr<CheckBox>> boxes;
-  Frame SheetCommandFrame{screen(), "SheetCommandFrame", "Build Sheet"};
+  Frame SheetCommandFrame{screen(), "SheetCommandFrame", "Build Sheet", 2};
   Command Sheet_Make{SheetCommandFrame, "Sheet_Make", "&Make Build Sheet",
                      "Show what the chosen screens hold as a report, to be saved or printed.",
                      CommandWork([this] { MakeSheet(); }, CommandRole::Serves)};
