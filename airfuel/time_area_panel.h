@@ -270,6 +270,26 @@ class TimeAreaPanel : public ScreenPart {
                      LeaveCheck::HasDigits),
                "The valve's timing is told at each of these lifts."};
 
+  Frame ReportFrame{Frame12, "TimeAreaReportFrame", "Text Reports", 2};
+  Command Command52{
+      ReportFrame, "Command52", "Port Time Area",
+      "Calculate Time Area, Piston Flow, Velocities and Depressions of both ports "
+      "for each lift of the lift tables. The averages are those of the rows where the "
+      "air goes the port's own way.",
+      Runs(&TimeAreaPanel::ReportLiftTable)};
+  Command Command71{ReportFrame, "Command71", "Port Time Area 2",
+                    "Calculate Time Area, Valve Velocity, Lift, Piston Travel, Flow and Discharge "
+                    "Coefficient of both ports for each record of the lift file.",
+                    Runs(&TimeAreaPanel::ReportLiftFile)};
+  Command Command111{ReportFrame, "Command111", "Just Cam Spec",
+                     "Tell only when the valves of the lift file open and close.",
+                     Runs(&TimeAreaPanel::ReportCamSpec)};
+
+  Command Command53{ReportFrame, "Command53", "&Done", "Back to the air and fuel flow.",
+                    PutsAway()};
+  Command Command91{ReportFrame, "Command91(5)", "Done", "Back to the air and fuel flow.",
+                    PutsAway()};
+
   FrameRow TableRow{Frame12, "TimeAreaTableRow", 2};
   Frame IntakeTableFrame{TableRow, "IntakeLiftFrame", "Intake Lift Table", 0};
   FieldArray Text95{IntakeTableFrame,
@@ -332,26 +352,6 @@ class TimeAreaPanel : public ScreenPart {
                     "The lift tables get a row without lift and the lifts of the flow tables, and "
                     "their durations from the cam that is loaded.",
                     Runs(&TimeAreaPanel::SetLiftTable, CommandRole::Serves)};
-
-  Frame ReportFrame{Frame12, "TimeAreaReportFrame", "Text Reports", 2};
-  Command Command52{
-      ReportFrame, "Command52", "Port Time Area",
-      "Calculate Time Area, Piston Flow, Velocities and Depressions of both ports "
-      "for each lift of the lift tables. The averages are those of the rows where the "
-      "air goes the port's own way.",
-      Runs(&TimeAreaPanel::ReportLiftTable)};
-  Command Command71{ReportFrame, "Command71", "Port Time Area 2",
-                    "Calculate Time Area, Valve Velocity, Lift, Piston Travel, Flow and Discharge "
-                    "Coefficient of both ports for each record of the lift file.",
-                    Runs(&TimeAreaPanel::ReportLiftFile)};
-  Command Command111{ReportFrame, "Command111", "Just Cam Spec",
-                     "Tell only when the valves of the lift file open and close.",
-                     Runs(&TimeAreaPanel::ReportCamSpec)};
-
-  Command Command53{ReportFrame, "Command53", "&Done", "Back to the air and fuel flow.",
-                    PutsAway()};
-  Command Command91{ReportFrame, "Command91(5)", "Done", "Back to the air and fuel flow.",
-                    PutsAway()};
 };
 
 }  // namespace veldox
