@@ -18,6 +18,7 @@ constexpr double kFeetASecondPerMph = 1.4666666666666666;
 constexpr double kPowerOfTorque = 5252;  // foot pounds x RPM of a horsepower
 constexpr double kInchesInFoot = 12;
 constexpr double kInchTurnsPerMph = 168.06762;  // speed of a radius in inches at an RPM
+constexpr double kTireTurnsPerMph = 336.13524;  // the same of a diameter
 constexpr double kAeroPower = 146625;           // square feet x MPH cubed of a horsepower
 constexpr double kPoundMphOfHp = 375;
 constexpr double kHoodPressure = 9266.1264;     // from pounds a cubic foot and feet a second
@@ -89,19 +90,19 @@ struct StageRamp {
   double startPercent = 100;
   double full = 0;
   double stop = kNever;
-  double slope = 1;  ///< of RPM or seconds a percent
+  double nitrousSlope = 1;  ///< of RPM or seconds a percent
 
   /// @param at  RPM or seconds
   double At(double at) const {
     if (at < start || (at >= stop && stop < kNever)) return 0;
     if (at >= full || startPercent >= 100) return horsepower;
-    return horsepower * ((at - start) / slope + startPercent) / 100;
+    return horsepower * ((at - start) / nitrousSlope + startPercent) / 100;
   }
 };
 
 StageRamp RampOf(double horsepower, double start, double startPercent, double full, double stop) {
   StageRamp ramp{horsepower, start, startPercent, full, stop};
-  if (startPercent < 100 && full > start) ramp.slope = (full - start) / (100 - startPercent);
+  if (startPercent < 100 && full > start) ramp.nitrousSlope = (full - start) / (100 - startPercent);
   return ramp;
 }
 
@@ -214,7 +215,7 @@ class Run {
   bool Take(const StepValues& step);
   void Resist(StepValues& step, double mph) const;
   void Power(StepValues& step, double power) const;
-  void Accelerate(StepValues& step, double thrust) const;
+  void Accelerate(StepValues& step, double netThrust) const;
   double AddNitrous(StepValues& step) const;
   bool Happens();
   void Happen();
@@ -460,9 +461,9 @@ inline void Run::Power(StepValues& step, double power) const {
   if (in_.nitrous) step.netHp += AddNitrous(step);
 }
 
-inline void Run::Accelerate(StepValues& step, double thrust) const {
-  step.limited = thrust > tractionLimit_;
-  step.acceleration = (step.limited ? tractionLimit_ : thrust) * perMass_;
+inline void Run::Accelerate(StepValues& step, double netThrust) const {
+  step.limited = netThrust > tractionLimit_;
+  step.acceleration = (step.limited ? tractionLimit_ : netThrust) * perMass_;
 }
 
 inline StepValues Run::StepAt(double rpm, double torque) const {
@@ -475,9 +476,11 @@ inline StepValues Run::StepAt(double rpm, double torque) const {
   Resist(step, step.mph);
   Power(step, rpm * torque * powerFactor_);
   // The thrust of the net torque; a converter below its stall speed multiplies both alike.
-  double thrust = rpm > 0 ? step.netHp / rpm * thrustFactor_ : 0;
-  if (rpm <= stallRpm_) thrust += (1 - rpm / stallRpm_) * thrust * (in_.torqueMultiplier - 1);
-  Accelerate(step, thrust);
+  double netThrust = rpm > 0 ? step.netHp / rpm * thrustFactor_ : 0;
+  if (rpm <= stallRpm_) {
+    netThrust += (1 - rpm / stallRpm_) * netThrust * (in_.torqueMultiplier - 1);
+  }
+  Accelerate(step, netThrust);
   return step;
 }
 
@@ -803,7 +806,7 @@ bool Run::RollOut() {
   }
   if (!(efficiencyRaw_ > 0)) return false;
   sink_.ExtensionBegins();
-  const double area = in_.frontalArea * in_.dragCoefficient;
+  const double dragArea = in_.frontalArea * in_.dragCoefficient;
   nextChartSpeed_ = 0;
   constexpr double kTolerance = kRollOutStep * kStepTolerance;
   // Rows stand at the speeds that those of the run stand at.
@@ -821,9 +824,10 @@ bool Run::RollOut() {
     const double dV = lastSpeedFps - now_.speedFps;
     now_.meanSpeedFps = (lastSpeedFps + now_.speedFps) / 2;
     Resist(now_, now_.mph);
-    const double deceleration = now_.rollHp / mass_ + (now_.speedFps * now_.speedFps *
-                                                       densityFactor_ * kRollOutDensity * area) /
-                                                          (2 * in_.carWeight) / efficiencyRaw_;
+    const double deceleration =
+        now_.rollHp / mass_ +
+        (now_.speedFps * now_.speedFps * densityFactor_ * kRollOutDensity * dragArea) /
+            (2 * in_.carWeight) / efficiencyRaw_;
     if (!(deceleration > kLeastAcceleration)) break;
     now_.acceleration = -deceleration;
     now_.elapsed += dV / deceleration;
@@ -868,7 +872,7 @@ RunResult Run::Finish(RunEnd end) {
     const double ratio = gearRatio_ * (in_.usesPrimaryDrive ? in_.primaryDrive : 1);
     result_.tryRearGearRatio = (in_.automatic ? Kept(in_.converterSlippage) : 1) * rpm *
                                tireDiameter_ * (1 + growth_ / 100) /
-                               (2 * kInchTurnsPerMph * speed * ratio);
+                               (kTireTurnsPerMph * speed * ratio);
   }
   if (left <= 0) return result_;
   const Moment before = now_;
