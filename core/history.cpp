@@ -213,7 +213,7 @@ void History::Settle() {
 
 std::string History::TitleOf(OpenStep& step) const {
   if (step.control == nullptr) return step.title;
-  const std::string name = NameOf(*step.control);
+  std::string name = NameOf(*step.control);
   if (step.kind == Kind::Other) return step.title.empty() ? name : step.title;
   const std::vector<ControlChange> changes = ChangesSince(step.recording, &step.control->screen());
   if (step.kind == Kind::Entry) {
