@@ -50,6 +50,7 @@ inline std::size_t HeapBytes(const std::string& text) {
 }
 template <class T>
 std::size_t HeapBytes(const std::vector<T>& values) {
+  // NOLINTNEXTLINE(bugprone-sizeof-expression): what a vector holds may be pointers
   std::size_t bytes = values.capacity() * sizeof(T);
   for (const T& value : values) bytes += HeapBytes(value);
   return bytes;
