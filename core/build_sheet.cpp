@@ -1,7 +1,6 @@
 #include "core/build_sheet.h"
 
 #include <algorithm>
-#include <sstream>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "core/field_copy.h"
 #include "core/panel.h"
 #include "core/report.h"
+#include "core/report_text.h"
 #include "core/table.h"
 #include "core/text.h"
 #include "core/units.h"
@@ -21,33 +21,6 @@ namespace {
 constexpr std::size_t kSheetWidth = 94;
 constexpr std::size_t kGap = 4;
 constexpr std::size_t kColumnWidth = (kSheetWidth - kGap) / 2;
-
-/// The number of characters that a text takes on a line.
-std::size_t Length(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-  }));
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  const std::size_t length = Length(text);
-  if (length < width) text.append(width - length, ' ');
-  return text;
-}
-
-std::string RightAligned(const std::string& text, std::size_t width) {
-  const std::size_t length = Length(text);
-  return length < width ? std::string(width - length, ' ') + text : text;
-}
-
-/// A line's end may not look like a mark of the printer.
-std::string WithoutMark(std::string line) {
-  line.erase(line.find_last_not_of(' ') + 1);
-  if (!line.empty() && std::string_view("_^~").find(line.back()) != std::string_view::npos) {
-    line += ' ';
-  }
-  return line;
-}
 
 /// The lines of a text, which may break them by CR LF or LF.
 std::vector<std::string> LinesOf(std::string_view text) {
@@ -68,23 +41,6 @@ struct SheetEntry {
   std::string label;
   std::string value;
 };
-
-/// A text in lines of whole words.
-std::vector<std::string> Wrapped(const std::string& text, std::size_t width) {
-  std::vector<std::string> lines(1);
-  std::istringstream words(text);
-  for (std::string word; words >> word;) {
-    std::string& line = lines.back();
-    if (line.empty()) {
-      line = word;
-    } else if (Length(line) + 1 + Length(word) <= width) {
-      line.append(1, ' ').append(word);
-    } else {
-      lines.emplace_back(word);
-    }
-  }
-  return lines;
-}
 
 /// A column of a table on the sheet.
 struct SheetColumn {
@@ -127,7 +83,7 @@ class SheetWriter {
   void WriteScreen(const Screen& screen) {
     Line("");
     Line(screen.title(), kBold);
-    Line(std::string(std::min(Length(screen.title()), kSheetWidth), '='));
+    Line(std::string(std::min(TextLength(screen.title()), kSheetWidth), '='));
     for (const Control* control : screen.ReadingOrder()) {
       if (control->kind() == ControlKind::Frame) WriteFrame(static_cast<const Frame&>(*control));
     }
@@ -238,13 +194,13 @@ class SheetWriter {
   }
 
   static bool Fits(const SheetEntry& entry) {
-    return Length(entry.label) + Length(entry.value) + 3 <= kColumnWidth;
+    return TextLength(entry.label) + TextLength(entry.value) + 3 <= kColumnWidth;
   }
 
   /// The label at the left, dots, and the value at the right.
   static std::string Laid(const SheetEntry& entry, std::size_t width) {
     std::string label = "  " + entry.label + ' ';
-    const std::size_t taken = Length(label) + Length(entry.value) + 1;
+    const std::size_t taken = TextLength(label) + TextLength(entry.value) + 1;
     if (taken >= width) return label + entry.value;
     return label + std::string(width - taken, '.') + ' ' + entry.value;
   }
@@ -275,9 +231,9 @@ class SheetWriter {
     for (SheetColumn& column : columns) {
       heads = std::max(heads, column.head.size());
       for (const std::string& word : column.head)
-        column.width = std::max(column.width, Length(word));
+        column.width = std::max(column.width, TextLength(word));
       for (const std::string& cell : column.cells) {
-        column.width = std::max(column.width, Length(cell));
+        column.width = std::max(column.width, TextLength(cell));
       }
     }
     if (const std::string caption = table.PlainCaption(); !caption.empty()) Line("  " + caption);

@@ -109,6 +109,8 @@ ShownSince ShownIn(const Recording& recording) {
 // ---------------------------------------------------------------- the steps
 
 History::Step::Step(Control& control, Kind kind) : history_(nullptr) {
+  // What tools change is no data.
+  if (control.screen().IsTool()) return;
   ProgramContext& context = control.screen().context();
   if (context.history.Open(kind, {}, &control)) history_ = &context.history;
 }

@@ -53,7 +53,7 @@ class History {
   /// A step lasts as long as this lives. Within another one it is a part of that.
   class Step {
    public:
-    /// A control is worked.
+    /// A control is worked; nothing for one of a tool.
     Step(Control& control, Kind kind);
     /// @param title  what it is called
     Step(ProgramContext& context, Kind kind, std::string title = {});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -113,6 +114,19 @@ struct ClockTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
 };
 
+/// Tells the user how far something is that takes long.
+class Progress {
+ public:
+  Progress() = default;
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+  virtual ~Progress() = default;
+
+  /// @param done  of all that there is to do
+  /// @return false where the user does not want to go on
+  virtual bool GoOn(std::size_t done) = 0;
+};
+
 /// All that the program asks of the world. The windows answer with real dialogs,
 /// a script with prepared answers.
 class Host {
@@ -156,6 +170,12 @@ class Host {
   }
   /// Shows or ends the hourglass.
   virtual void SetBusy(bool busy) = 0;
+  /// Shows how far something is, as long as the answer lives and where it takes long.
+  /// @param all  how much there is to do
+  /// @return null where nobody looks on
+  virtual std::unique_ptr<Progress> ShowProgress(const std::string& /*what*/, std::size_t /*all*/) {
+    return nullptr;
+  }
 
   // Pictures need windows. Without them they are refused.
 

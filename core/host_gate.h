@@ -62,6 +62,9 @@ class HostGate : public Host {
   void SetBusy(bool busy) override {
     if (log_ == nullptr) host_.SetBusy(busy);
   }
+  std::unique_ptr<Progress> ShowProgress(const std::string& what, std::size_t all) override {
+    return log_ == nullptr ? host_.ShowProgress(what, all) : nullptr;
+  }
   void SetPictureMaker(PictureMaker* maker) override { host_.SetPictureMaker(maker); }
   PictureResult EncodePicture(const PictureRequest& request) override {
     return Open(kPictures).EncodePicture(request);

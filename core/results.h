@@ -22,8 +22,19 @@ class ResultLabel : public Field {
 /// A text box for words: it is wider than one for a number.
 class TextField : public Field {
  public:
-  TextField(Frame& frame, std::string name, std::string label, std::string help)
-      : Field(frame, std::move(name), std::move(label), {}, KeyRule::AnyText, std::move(help)) {}
+  /// Room for a line of an address.
+  static constexpr int kUsualCharacters = 40;
+
+  /// @param characters  how many there is room for
+  TextField(Frame& frame, std::string name, std::string label, std::string help,
+            int characters = kUsualCharacters)
+      : Field(frame, std::move(name), std::move(label), {}, KeyRule::AnyText, std::move(help)),
+        characters_(characters) {}
+
+  int characters() const { return characters_; }
+
+ private:
+  int characters_;
 };
 
 /// Numbers over several lines, edited as text. They stand under each other.

@@ -182,13 +182,18 @@ void TextControl::Edit(std::string text) {
     return;
   }
   const History::Step step(*this, History::Kind::Entry);
-  screen().context().rules.NoteChange();
+  if (!screen().IsTool()) screen().context().rules.NoteChange();
   SetText(std::move(text));
   screen().Edited(*this);
 }
 
 char32_t TextControl::FilterKey(char32_t key) {
+  // The rules take what is typed in a tool for an option, which is no change of the data.
+  std::int16_t& isOption = screen().block().OptionFieldActive;
+  const std::int16_t before = isOption;
+  if (screen().IsTool()) isOption = 1;
   screen().context().rules.Filter(rule(), text_, key);
+  isOption = before;
   return key;
 }
 
@@ -542,7 +547,14 @@ Control* Screen::Find(std::string_view name) const {
   return found == controls_.end() ? nullptr : *found;
 }
 
+void ProgramContext::NoteVisit(Screen& screen) {
+  if (journal.isDry() || (!visited_.empty() && visited_.back() == &screen)) return;
+  std::erase(visited_, &screen);
+  visited_.push_back(&screen);
+}
+
 void Screen::SetVisible(bool visible) {
+  if (visible) context_.NoteVisit(*this);
   const bool changed = visible != visible_;
   if (changed) context_.journal.Assign(visible_, visible, this, Aspect::Place);
   if (context_.journal.isDry()) return;
@@ -822,6 +834,7 @@ void Screen::ConvertDefaultsToComma() {
 }
 
 void Screen::TakeFocus(Control* control) {
+  if (control != nullptr) context_.NoteVisit(*this);
   if (control != focus_) {
     context_.history.EndEntry();
     context_.journal.Assign(focus_, control, this, Aspect::Place);
@@ -850,6 +863,7 @@ bool MayLeave(Control* focus, const Control* to) {
 }  // namespace
 
 bool Screen::MoveFocus(Control* control) {
+  if (control != nullptr) context_.NoteVisit(*this);
   if (focus_ == control) return true;
   // What closes works always, and leaves a field as it stands.
   const auto* command = dynamic_cast<const Command*>(control);

@@ -35,6 +35,13 @@ struct HeldValue {
   double metric;  ///< what it became
 };
 
+/// What can be done with a control beside its own work, such as varying a field: an item of its
+/// context menu.
+struct ControlTool {
+  std::string caption;
+  std::function<void()> open;
+};
+
 /// What every screen works with: the shared values, the rules of fields, the world.
 struct ProgramContext {
   explicit ProgramContext(Host& realHost) : gate(realHost), rules(block, host) {}
@@ -61,9 +68,16 @@ struct ProgramContext {
   FieldRules rules;
   Journal journal{block};
   History history{*this};
+  /// The user has come to a screen, or works on it.
+  void NoteVisit(Screen& screen);
+  /// The screens that the user has come to, the last one behind.
+  const std::vector<Screen*>& visited() const { return visited_; }
+  /// What a window offers in the context menu of a control; empty where there is nothing.
+  std::function<std::vector<ControlTool>(Control&)> toolsOf;
 
  private:
   friend class Screen;
+  std::vector<Screen*> visited_;
   Screen* metricOwner_ = nullptr;  ///< whose metric units the block is in; null for inches
   std::vector<HeldValue> held_;
 };
@@ -655,6 +669,11 @@ class Screen {
   virtual ReportBox* ReportPane() { return nullptr; }
   /// The command that closes the screen, null where it has none.
   virtual Control* QuitCommand() { return Find("subend"); }
+  /// True for a screen that works on other screens and holds no data of its own: what is entered
+  /// there is no step and nothing to be saved, and Clear leaves it alone.
+  virtual bool IsTool() const { return false; }
+  /// False for a screen that shows what others work out: there is nothing for tools to work on.
+  virtual bool HasResults() const { return true; }
   /// What belongs to closing beyond hiding the window.
   virtual void Closed() {}
   /// True while the fields show metric units.
@@ -865,7 +884,8 @@ class Screen {
 
 template <class T, class V>
 void Control::Assign(T& place, V&& value, Aspect aspect) {
-  screen_.context().journal.Assign(place, std::forward<V>(value), this, aspect);
+  screen_.context().journal.Assign(place, std::forward<V>(value), this,
+                                   screen_.IsTool() ? Aspect::Place : aspect);
 }
 
 }  // namespace veldox

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cfenv>
 #include <cmath>
+#include <initializer_list>
 #include <utility>
 
 #include "core/dry_run.h"
@@ -10,6 +11,8 @@
 namespace veldox {
 
 namespace {
+
+constexpr const char* kTooMany = "These are more than 100,000 values. Please choose a larger step.";
 
 [[noreturn]] void Refuse(const std::string& why) {
   throw CommandError(ErrorKind::InvalidArgument, why);
@@ -22,17 +25,28 @@ void RequireUse(const Field& field, const Command& command) {
   if (!command.isBuilt() || !command.enabled()) Refuse("This command cannot be used now.");
 }
 
-/// Runs the command on a field's value and reads off what `read` wants of it.
+/// A text that is put into a field before the command runs.
+struct Setting {
+  Field* field;  ///< null for none
+  const std::string& text;
+};
+
+/// Runs the command on values of fields and reads off what `read` wants of it.
 /// @return why it cannot, empty where it can
-std::string Try(Field& field, const std::string& text, Command& command,
-                const std::function<void()>& read) {
+std::string Try(std::initializer_list<Setting> settings, Command& command,
+                const std::function<void()>& read,
+                std::optional<std::chrono::microseconds> limit = std::nullopt) {
   DryRun run(command.screen().context());
-  field.Edit(text);
+  if (limit) run.SetLimit(*limit);
+  for (const Setting& setting : settings) {
+    if (setting.field != nullptr) setting.field->Edit(setting.text);
+  }
   const bool done = command.Run();
   if (done) {
     read();
     return {};
   }
+  if (run.log().ranOutOfTime) return "It takes too long.";
   if (!run.log().error.empty()) return run.log().error;
   return run.log().notes.empty() ? std::string("It has nothing to do.") : run.log().notes.back();
 }
@@ -99,32 +113,70 @@ std::size_t ValueRange::Count() const {
   constexpr double kSlack = 1e-9;
   const double count = Floor(steps + kSlack) + 1;
   if (!(count <= static_cast<double>(kMostVaried))) {
-    Refuse("These are more than 100,000 values. Please choose a larger step.");
+    Refuse(kTooMany);
   }
   return static_cast<std::size_t>(count);
 }
 
-std::vector<VariedLine> Vary(Field& field, const ValueRange& range, Command& command,
-                             const std::vector<Control*>& results,
-                             const std::function<bool(std::size_t done)>& goOn) {
+std::vector<double> ValueRange::Values() const {
+  std::vector<double> values(Count());
+  for (std::size_t i = 0; i < values.size(); ++i) values[i] = At(i);
+  return values;
+}
+
+std::vector<VariedSeries> Vary(const Variation& variation, const GoOn& goOn) {
   const FloatGuard guard;
-  RequireUse(field, command);
-  if (results.empty() || results.size() > kMostVariedResults) {
+  Command& command = *variation.command;
+  RequireUse(*variation.field, command);
+  if (variation.second != nullptr) {
+    RequireUse(*variation.second, command);
+    if (variation.second == variation.field) {
+      Refuse('"' + variation.field->PlainCaption() +
+             "\" is varied already: the second field must be another one.");
+    }
+  }
+  if (variation.results.empty() || variation.results.size() > kMostVariedResults) {
     Refuse("A series has one result at least and eight at most.");
   }
-  const std::size_t count = range.Count();
-  std::vector<VariedLine> lines;
-  lines.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    VariedLine line;
-    line.text = FormatField(range.At(i), field.screen().mark());
-    line.error = Try(field, line.text, command, [&] {
-      for (const Control* result : results) line.results.push_back(ShownText(*result));
-    });
-    lines.push_back(std::move(line));
-    if (goOn && !goOn(lines.size())) break;
+  const std::size_t families = variation.second == nullptr ? 1 : variation.secondValues.size();
+  if (variation.values.size() * families > kMostVaried) Refuse(kTooMany);
+  std::size_t done = 0;
+  std::vector<VariedSeries> all(families);
+  for (std::size_t i = 0; i < families; ++i) {
+    VariedSeries& series = all[i];
+    if (variation.second != nullptr) {
+      series.text = FormatField(variation.secondValues[i], variation.second->screen().mark());
+    }
+    series.lines.reserve(variation.values.size());
+    for (const double value : variation.values) {
+      VariedLine& line = series.lines.emplace_back();
+      line.text = FormatField(value, variation.field->screen().mark());
+      line.error = Try(
+          {{variation.second, series.text}, {variation.field, line.text}}, command,
+          [&] {
+            for (const Control* result : variation.results) {
+              line.results.push_back(ShownText(*result));
+            }
+          },
+          variation.limit);
+      if (goOn && !goOn(++done)) {
+        all.resize(i + 1);
+        return all;
+      }
+    }
   }
-  return lines;
+  return all;
+}
+
+std::vector<VariedLine> Vary(Field& field, const ValueRange& range, Command& command,
+                             const std::vector<Control*>& results, const GoOn& goOn) {
+  RequireUse(field, command);
+  Variation variation;
+  variation.field = &field;
+  variation.values = range.Values();
+  variation.command = &command;
+  variation.results = results;
+  return std::move(Vary(variation, goOn).front().lines);
 }
 
 std::string Seek(Field& field, const Sought& sought, Command& command, Control& result) {
@@ -138,7 +190,8 @@ std::string Seek(Field& field, const Sought& sought, Command& command, Control& 
   const auto resultAt = [&](double value) {
     double number = 0;
     std::string fault;
-    const std::string error = Try(field, textOf(value), command, [&] {
+    const std::string text = textOf(value);
+    const std::string error = Try({{&field, text}}, command, [&] {
       try {
         number = NumberOf(result);
       } catch (const CommandError&) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,8 @@ struct ValueRange {
   /// @throws CommandError (InvalidArgument) for a range that cannot be
   std::size_t Count() const;
   double At(std::size_t index) const { return from + static_cast<double>(index) * by; }
+  /// All of them. @throws CommandError as Count
+  std::vector<double> Values() const;
 };
 
 /// What a command would show for one value of a field.
@@ -33,14 +37,42 @@ struct VariedLine {
   std::string error;                 ///< why it cannot, empty where it can
 };
 
+/// What is worked out for each value of a field, and for each value of a second one again.
+struct Variation {
+  Field* field = nullptr;
+  std::vector<double> values;
+  Field* second = nullptr;  ///< null for none
+  std::vector<double> secondValues;
+  Command* command = nullptr;
+  std::vector<Control*> results;
+  /// What one value may take; nothing where it may take its time.
+  std::optional<std::chrono::microseconds> limit = std::nullopt;
+};
+
+/// What comes of the values of the first field, at one of the second.
+struct VariedSeries {
+  std::string text;  ///< of the second field, empty where there is none
+  std::vector<VariedLine> lines;
+};
+
+/// Asked after each value, with how many are done; false ends the series there.
+using GoOn = std::function<bool(std::size_t done)>;
+
+/// Runs a command for each value of a field and of a second one, each time from the present
+/// state, and puts everything back. The order is that of the values, the first field's in each of
+/// the second's.
+/// @throws CommandError (InvalidArgument) for more than kMostVaried values, the same field twice,
+///         a field that takes no number and a command that cannot be varied; nothing has changed
+///         then
+std::vector<VariedSeries> Vary(const Variation& variation, const GoOn& goOn = {});
+
 /// Runs a command for each value of a field, each time from the present state, and puts everything
 /// back.
 /// @param goOn  asked after each value, with how many are done; false ends the series there
 /// @throws CommandError (InvalidArgument) for a range that cannot be, a field that takes no number
 ///         and a command that cannot be varied; nothing has changed then
 std::vector<VariedLine> Vary(Field& field, const ValueRange& range, Command& command,
-                             const std::vector<Control*>& results,
-                             const std::function<bool(std::size_t done)>& goOn = {});
+                             const std::vector<Control*>& results, const GoOn& goOn = {});
 
 /// Where a result is to come to by changing a field.
 struct Sought {

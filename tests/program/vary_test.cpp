@@ -19,11 +19,22 @@ namespace {
 
 using State = ProgramState;
 
+struct Sum {
+  const char* field;
+  double low;
+  double high;
+  const char* command;
+  const char* result;
+  double target;
+  double expected;  ///< of the field
+  double tolerance;
+};
+
 class VaryTest : public testing::Test {
  protected:
   VaryTest() {
     program_.Start();
-    for (const char* form : {"Form1", "Form1CR", "Form3", "Form5", "Form16", "Form18"}) {
+    for (const char* form : {"Form1", "Form1CR", "Form3", "Form5", "Form14", "Form16", "Form18"}) {
       program_.shell().Open(*program_.shell().FindScreen(form));
     }
   }
@@ -37,6 +48,46 @@ class VaryTest : public testing::Test {
   double Number(const std::string& name) {
     return ParseNumber(Find(name).text(), DecimalMark::Point);
   }
+  /// Results of commands and the value of a field that gives each, solved by hand.
+  std::vector<Sum> Sums() {
+    constexpr double kPi = std::numbers::pi;
+    const double coils = Number("Form16.Text2");
+    const double diameter = Number("Form16.Text3");
+    const double modulus = Number("Form16.Text18");
+    return {
+        // pi / 4 * bore^2 * stroke * cylinders
+        {"Form1.Text1", 3, 5, "Form1.Command1", "Form1.Text6", 400,
+         std::sqrt(400 / (kPi / 4 * 3.25 * 8)), 1e-6},
+        {"Form1.Text3", 2, 5, "Form1.Command1", "Form1.Text6", 350, 350 / (kPi / 4 * 16 * 8), 1e-6},
+        {"Form1.Text3", 2, 5, "Form1.Command22", "Form1.Text11", 1.25, 4 / 1.25, 1e-6},
+        {"Form1.Text4", 4, 8, "Form1.Command23", "Form1.Text12", 1.8, 1.8 * 3.25, 5e-6},
+        // half the stroke, rod, pin height and clearance make the deck height
+        {"Form1.Text8", 9, 10, "Form1.Command9", "Form1.Text10", 0.02,
+         3.25 / 2 + 5.7 + 1.904 + 0.02, 1e-6},
+        // feet a minute: two strokes a turn, twelve inches a foot
+        {"Form1.Text13", 3000, 4500, "Form1.Command6", "Form1.Text5", 7000, 3.25 * 7000 / 6, 0.6},
+        // G d^4 / (8 n D^3)
+        {"Form16.Text1", 0.2, 1, "Form16.Command1", "Form16.Text4", 200,
+         std::pow(200 * 8 * coils * std::pow(diameter, 3) / modulus, 0.25), 1e-5},
+        {"Form16.Text2", 2, 30, "Form16.Command1", "Form16.Text4", 200,
+         modulus * std::pow(Number("Form16.Text1"), 4) / (8 * 200 * std::pow(diameter, 3)), 1e-4},
+        // horsepower is torque times RPM by 33,000 / 2 pi
+        {"Form3.Text12", 100, 1000, "Form3.Command24", "Form3.Text5", 600,
+         600 * 33'000 / (2 * kPi) / 6500, 0.05},
+        // turns of a tire in a minute: 63,360 inches a mile
+        {"Form5.Text18", 1, 7, "Form5.Command2", "Form5.Text17", 7000,
+         7000 * 60 * kPi * Number("Form5.Text21") / (63'360 * Number("Form5.Text1")), 5e-3},
+        // the absolute pressures' ratio; an inch of mercury weighs 0.49115 pounds a square inch
+        {"Form14.Text3", 1, 20, "Form14.Command13", "Form14.Text17", 1.8,
+         0.8 * 0.49115 * Number("Form14.Text15"), 2e-3},
+        // the blower turns faster by the teeth of the crank's gear
+        {"Form14.Text10", 30, 90, "Form14.Command10", "Form14.Text12", 1.85, 1.85 * 40, 1e-4},
+        // brake mean effective pressure of a four-stroke: 48 pi * torque / size
+        {"Form3.Text12", 100, 1000, "Form3.Command13", "Form3.Text14", 200,
+         200 * Number("Form3.Text15") / (48 * kPi), 0.1},
+    };
+  }
+
   State Now() { return State(program_, State::Part::All); }
   std::string Refusal(const std::function<void()>& call) {
     const State before = Now();
@@ -120,50 +171,8 @@ TEST_F(VaryTest, WhatCannotBeIsTold) {
   EXPECT_EQ(lines[1].error, "");
 }
 
-struct Sum {
-  const char* field;
-  double low;
-  double high;
-  const char* command;
-  const char* result;
-  double target;
-  double expected;  ///< of the field
-  double tolerance;
-};
-
 TEST_F(VaryTest, SeeksAgreeWithFormulasSolvedByHand) {
-  constexpr double kPi = std::numbers::pi;
-  const double coils = Number("Form16.Text2");
-  const double diameter = Number("Form16.Text3");
-  const double modulus = Number("Form16.Text18");
-  const Sum sums[] = {
-      // pi / 4 * bore^2 * stroke * cylinders
-      {"Form1.Text1", 3, 5, "Form1.Command1", "Form1.Text6", 400,
-       std::sqrt(400 / (kPi / 4 * 3.25 * 8)), 1e-6},
-      {"Form1.Text3", 2, 5, "Form1.Command1", "Form1.Text6", 350, 350 / (kPi / 4 * 16 * 8), 1e-6},
-      {"Form1.Text3", 2, 5, "Form1.Command22", "Form1.Text11", 1.25, 4 / 1.25, 1e-6},
-      {"Form1.Text4", 4, 8, "Form1.Command23", "Form1.Text12", 1.8, 1.8 * 3.25, 5e-6},
-      // half the stroke, rod, pin height and clearance make the deck height
-      {"Form1.Text8", 9, 10, "Form1.Command9", "Form1.Text10", 0.02, 3.25 / 2 + 5.7 + 1.904 + 0.02,
-       1e-6},
-      // feet a minute: two strokes a turn, twelve inches a foot
-      {"Form1.Text13", 3000, 4500, "Form1.Command6", "Form1.Text5", 7000, 3.25 * 7000 / 6, 0.6},
-      // G d^4 / (8 n D^3)
-      {"Form16.Text1", 0.2, 1, "Form16.Command1", "Form16.Text4", 200,
-       std::pow(200 * 8 * coils * std::pow(diameter, 3) / modulus, 0.25), 1e-5},
-      {"Form16.Text2", 2, 30, "Form16.Command1", "Form16.Text4", 200,
-       modulus * std::pow(Number("Form16.Text1"), 4) / (8 * 200 * std::pow(diameter, 3)), 1e-4},
-      // horsepower is torque times RPM by 33,000 / 2 pi
-      {"Form3.Text12", 100, 1000, "Form3.Command24", "Form3.Text5", 600,
-       600 * 33'000 / (2 * kPi) / 6500, 0.05},
-      // turns of a tire in a minute: 63,360 inches a mile
-      {"Form5.Text18", 1, 7, "Form5.Command2", "Form5.Text17", 7000,
-       7000 * 60 * kPi * Number("Form5.Text21") / (63'360 * Number("Form5.Text1")), 5e-3},
-      // brake mean effective pressure of a four-stroke: 48 pi * torque / size
-      {"Form3.Text12", 100, 1000, "Form3.Command13", "Form3.Text14", 200,
-       200 * Number("Form3.Text15") / (48 * kPi), 0.1},
-  };
-  for (const Sum& sum : sums) {
+  for (const Sum& sum : Sums()) {
     SCOPED_TRACE(std::string(sum.field) + " for " + sum.result);
     const std::size_t steps = program_.context().history.done();
     const State before(program_, State::Part::Data);
@@ -182,6 +191,63 @@ TEST_F(VaryTest, SeeksAgreeWithFormulasSolvedByHand) {
     program_.context().history.Undo();
     EXPECT_EQ(State::Difference(before, State(program_, State::Part::Data)), "");
   }
+}
+
+TEST_F(VaryTest, SeriesAgreeWithFormulasSolvedByHand) {
+  const State before = Now();
+  std::size_t agreeing = 0;
+  for (const Sum& sum : Sums()) {
+    SCOPED_TRACE(std::string(sum.field) + " and " + sum.result);
+    const double apart = sum.expected / 64;
+    const std::vector<VariedLine> lines =
+        Vary(Find(sum.field), {sum.expected - apart, sum.expected + apart, apart},
+             Find<Command>(sum.command), {&Find(sum.result)});
+    ASSERT_EQ(lines.size(), 3U);
+    std::vector<double> results;
+    for (const VariedLine& line : lines) {
+      ASSERT_EQ(line.error, "");
+      results.push_back(ParseNumber(line.results.front(), DecimalMark::Point));
+    }
+    EXPECT_NEAR(results[1], sum.target, std::abs(sum.target) * 2e-4);
+    // The target is passed between its neighbours.
+    EXPECT_LT((results[0] - sum.target) * (results[2] - sum.target), 0);
+    ++agreeing;
+  }
+  EXPECT_GE(agreeing, 10U);
+  EXPECT_EQ(State::Difference(before, Now()), "");
+}
+
+TEST_F(VaryTest, ASecondFieldGivesASeriesForEachOfItsValues) {
+  Variation variation;
+  variation.field = &Find("Form1.Text1");
+  variation.values = {4, 4.1};
+  variation.second = &Find("Form1.Text3");
+  variation.secondValues = {3, 3.5, 4};
+  variation.command = &Find<Command>("Form1.Command1");
+  variation.results = {&Find("Form1.Text6")};
+  const State before = Now();
+  const std::vector<VariedSeries> all = Vary(variation);
+  ASSERT_EQ(all.size(), 3U);
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const double stroke = variation.secondValues[i];
+    EXPECT_EQ(all[i].text, FormatField(stroke, DecimalMark::Point));
+    ASSERT_EQ(all[i].lines.size(), 2U);
+    for (std::size_t k = 0; k < 2; ++k) {
+      const double bore = variation.values[k];
+      EXPECT_NEAR(ParseNumber(all[i].lines[k].results[0], DecimalMark::Point),
+                  std::numbers::pi / 4 * bore * bore * stroke * 8, 0.0001);
+    }
+  }
+  EXPECT_EQ(State::Difference(before, Now()), "");
+  // It ends where it is told to.
+  EXPECT_EQ(Vary(variation, [](std::size_t done) { return done < 3; }).back().lines.size(), 1U);
+  variation.second = variation.field;
+  EXPECT_EQ(Refusal([&] { Vary(variation); }),
+            "\"Bore\" is varied already: the second field must be another one.");
+  variation.second = &Find("Form1.Text3");
+  variation.values.resize(40'000, 4);
+  EXPECT_EQ(Refusal([&] { Vary(variation); }),
+            "These are more than 100,000 values. Please choose a larger step.");
 }
 
 /// The command that solves for the other side gives the value back that was found.

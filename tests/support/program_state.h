@@ -24,6 +24,8 @@ struct ProgramState {
     std::vector<Screen*> screens = program.shell().screens();
     screens.push_back(&program.shell());
     for (Screen* screen : screens) {
+      // What is entered in a tool is no data.
+      if (part == Part::Data && screen->IsTool()) continue;
       if (part == Part::All) {
         names.push_back(screen->name());
         const auto nameOf = [](const Control* control) {
