@@ -103,6 +103,8 @@ constexpr MenuItem kMenu[] = {
     {"Build_Sheet", "Build Sheet - What the Screens Hold", "File", MenuKind::Action, "", &Shell::Build_Sheet},
     {"Compare_File", "Compare with a Parameter File", "File", MenuKind::Action, "", &Shell::Compare_File},
     {"Compare_Files", "Compare Two Parameter Files", "File", MenuKind::Action, "", &Shell::Compare_Files},
+    {"Vary", "Vary - A Field in Steps, and What Comes of It", "File", MenuKind::Screen, "Vary"},
+    {"Seek", "Seek - The Value of a Field That Gives a Result", "File", MenuKind::Screen, "Seek"},
     {"SepBarSheet", "-", "File", MenuKind::Separator},
     {"Trans", "&Get Transmission Gear Ratios", "File", MenuKind::Submenu, "Form19"},
     {"Automatic", "A&utomatic", "Trans", MenuKind::List, "Form19"},

@@ -12,6 +12,7 @@
 #include "core/files.h"
 #include "core/key_table.h"
 #include "core/text.h"
+#include "core/tool_screen.h"
 #include "core/units.h"
 #include "core/version.h"
 
@@ -177,7 +178,11 @@ bool Shell::MenuEnabled(const MenuItem& item) {
     case MenuKind::RecentFile: return MenuVisible(item);
     case MenuKind::Screen:
     case MenuKind::List:
-    case MenuKind::PrintScreen: return FindScreen(item.screen) != nullptr;
+    case MenuKind::PrintScreen: {
+      const Screen* screen = FindScreen(item.screen);
+      // A tool needs another screen to work on.
+      return screen != nullptr && (!screen->IsTool() || FrontScreen() != nullptr);
+    }
     case MenuKind::Action:
       if (item.action == &Shell::LrgScrRes || item.action == &Shell::FullScrRes) {
         return scaling_.detected();
@@ -227,9 +232,21 @@ void Shell::Choose(const MenuItem& item) {
   }
 }
 
+Screen* Shell::FrontScreen() const {
+  const std::vector<Screen*>& visited = context().visited();
+  const auto last = std::find_if(visited.rbegin(), visited.rend(), [this](const Screen* screen) {
+    return screen != this && screen->visible() && ToolScreen::CanWorkOn(*screen);
+  });
+  return last == visited.rend() ? nullptr : *last;
+}
+
 void Shell::Open(Screen& screen) {
   const History::Step step(context(), History::Kind::None);
-  if (block().FormsCleared != 1) screen.CopyShared();
+  if (auto* tool = dynamic_cast<ToolScreen*>(&screen)) {
+    tool->WorkOn(FrontScreen());
+  } else if (block().FormsCleared != 1) {
+    screen.CopyShared();
+  }
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {

@@ -84,6 +84,9 @@ class Shell : public Screen, public FileTaker {
 
   /// Opens a screen as its menu item does.
   void Open(Screen& screen);
+  /// The open screen that the user came to last, of those that tools can work on; null where none
+  /// is open.
+  Screen* FrontScreen() const;
   /// What else is done when the menu has opened a screen.
   void SetOpenListener(std::function<void(Screen&)> listener) { opened_ = std::move(listener); }
   /// What else is done when a parameter file was read, for what no field shows.

@@ -38,6 +38,7 @@ class Form8 : public Screen, public Grapher, public FileTaker {
   void CopyFromBlock() override { OptionsChanged(); }
   Control* HelpPlace() override { return &Label7; }
   Control* QuitCommand() override { return &Command1; }
+  bool HasResults() const override { return false; }
   /// Reads a graph file and draws what it tells.
   void OpenFile(const std::filesystem::path& file) override;
   void Closed() override;

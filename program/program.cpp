@@ -8,10 +8,12 @@
 #include "cam/cam_information_screen.h"
 #include "chassis/corner_weights_screen.h"
 #include "chassis/springs_screen.h"
+#include "core/seek_screen.h"
 #include "engine/compression_gauge_screen.h"
 #include "engine/compression_ratio_screen.h"
 #include "engine/displacement_screen.h"
 #include "engine/engine_finder_screen.h"
+#include "graph/vary_screen.h"
 #include "reference/charts_screen.h"
 #include "reference/unit_conversion_screen.h"
 #include "reference/weather_screen.h"
@@ -70,6 +72,7 @@ Program::Program(Host& host)
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
   AddScreen<Form20>().AddTaker(acceleration);
   about_ = &AddScreen<Form15>();
+  AddTools();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
   shell_->SetReadListener([&acceleration] { acceleration.Torques.Follow(); });
@@ -81,6 +84,40 @@ Program::Program(Host& host)
       grapher_->DisableGrapherCommands();
     }
   });
+}
+
+void Program::AddTools() {
+  auto& vary = AddScreen<VaryScreen>(static_cast<Grapher&>(*grapher_));
+  auto& seek = AddScreen<SeekScreen>();
+  const auto open = [this](ToolScreen& tool, Control& control, bool asks) {
+    return [this, &tool, &control, asks] {
+      context_->NoteVisit(control.screen());
+      if (asks) {
+        tool.AskFor(static_cast<Field&>(control));
+      } else {
+        tool.WorkOn(control);
+      }
+      shell_->Open(tool);
+    };
+  };
+  context_->toolsOf = [this, &vary, &seek, open](Control& shown) {
+    Control& control = OriginalOf(shown);
+    std::vector<ControlTool> tools;
+    if (&control.screen() == shell_.get() || !ToolScreen::CanWorkOn(control.screen())) return tools;
+    if (ToolScreen::IsCalculation(control) && control.enabled()) {
+      tools.push_back({"Vary a Field of This Command ...", open(vary, control, false)});
+      tools.push_back({"Seek With This Command ...", open(seek, control, false)});
+    }
+    if (ToolScreen::IsEntry(control)) {
+      tools.push_back({"Vary This Field ...", open(vary, control, false)});
+      tools.push_back({"Seek a Value of This Field ...", open(seek, control, false)});
+    }
+    if (ToolScreen::IsResult(control)) {
+      tools.push_back({"Show How This Result Varies ...", open(vary, control, true)});
+      tools.push_back({"Seek What Gives This Result ...", open(seek, control, true)});
+    }
+    return tools;
+  };
 }
 
 void Program::Start() {

@@ -28,6 +28,8 @@ class Program {
  private:
   template <class S, class... Arguments>
   S& AddScreen(Arguments&&... arguments);
+  /// The screens that work on the others, and where windows offer them.
+  void AddTools();
 
   std::unique_ptr<ProgramContext> context_;
   std::unique_ptr<Shell> shell_;

@@ -345,7 +345,7 @@ void ScriptRunner::MakeSheet(std::string_view names) {
   }
   if (screens.empty()) {
     for (const Screen* screen : program_.shell().screens()) {
-      if (screen->visible()) screens.push_back(screen);
+      if (screen->visible() && !screen->IsTool()) screens.push_back(screen);
     }
   }
   program_.shell().ShowBuildSheet(screens);

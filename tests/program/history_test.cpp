@@ -282,6 +282,8 @@ TEST_P(RandomSteps, AreUndoneToWhereTheyBeganAndDoneAgainToWhereTheyEnded) {
   std::vector<Control*> controls;
   for (Screen* screen : shell().screens()) {
     shell().Open(*screen);
+    // Tools have no steps, and may be told to run a command a hundred thousand times.
+    if (screen->IsTool()) continue;
     for (Control* control : screen->controls()) {
       switch (control->kind()) {
         case ControlKind::Field:
