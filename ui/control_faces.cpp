@@ -1,15 +1,18 @@
 #include "ui/control_faces.h"
 
+#include <QAbstractItemView>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QStyle>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 
 #include "core/results.h"
+#include "core/tool_screen.h"
 #include "ui/fixed_font.h"
 #include "ui/qt_text.h"
 #include "ui/theme.h"
@@ -19,8 +22,8 @@ namespace {
 
 /// Room for the longest result, which has eleven decimals.
 constexpr int kFieldDigits = 13;
-/// Room for a line of an address.
-constexpr int kWordsDigits = 40;
+/// Room for the name of a control in a list of them.
+constexpr int kControlDigits = 30;
 /// Border and margins of a text box, and its point.
 constexpr int kFieldEdges = 20;
 /// Said beside the help of the command that it is true of.
@@ -106,8 +109,9 @@ FieldFace::FieldFace(FaceSet& set, Field& field, QWidget* parent)
   } else {
     edit_->setAlignment(QtAlignment(set.look().appearance().alignment) | Qt::AlignVCenter);
   }
-  const bool holdsWords = dynamic_cast<const TextField*>(&field) != nullptr;
-  edit_->setFixedWidth(DigitsWidth(*edit_, holdsWords ? kWordsDigits : kFieldDigits) + kFieldEdges);
+  const auto* words = dynamic_cast<const TextField*>(&field);
+  edit_->setFixedWidth(DigitsWidth(*edit_, words != nullptr ? words->characters() : kFieldDigits) +
+                       kFieldEdges);
   label_->setBuddy(edit_);
   unit_->setTextFormat(Qt::PlainText);
 }
@@ -217,6 +221,11 @@ ComboFace::ComboFace(FaceSet& set, ComboList& list, QWidget* parent)
       combo_(static_cast<QComboBox*>(widget())) {
   label_->setBuddy(combo_);
   set.look().DressEntry(*combo_);
+  if (dynamic_cast<const ControlList*>(&list) != nullptr) {
+    // Its rows are those of one screen and then of another; the box stays as wide.
+    combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo_->setFixedWidth(DigitsWidth(*combo_, kControlDigits));
+  }
   connect(combo_, &QComboBox::activated, this, [this](int row) { list_.Pick(row); });
 }
 
@@ -229,6 +238,9 @@ void ComboFace::Follow() {
   if (!same) {
     combo_->clear();
     combo_->addItems(rows);
+    // What is longer than the box is whole in its list.
+    combo_->view()->setMinimumWidth(combo_->view()->sizeHintForColumn(0) +
+                                    combo_->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   }
   combo_->setCurrentIndex(list_.chosen());
   label_->setVisible(list_.visible());

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QScrollArea>
 #include <QShortcutEvent>
@@ -9,6 +10,7 @@
 #include <utility>
 
 #include "ui/qt_text.h"
+#include "ui/tool_menu.h"
 
 namespace veldox {
 namespace {
@@ -105,6 +107,10 @@ bool Face::eventFilter(QObject* watched, QEvent* event) {
       const auto& shortcut = static_cast<QShortcutEvent&>(*event);
       return shortcut.isAmbiguous() && set_.TakeAccessKey(shortcut.key());
     }
+    case QEvent::ContextMenu:
+      // A text box adds to its own.
+      return control_.kind() == ControlKind::Command &&
+             ShowToolMenu(control_, static_cast<QContextMenuEvent*>(event)->globalPos());
     case QEvent::FocusIn: FocusCame(static_cast<QFocusEvent*>(event)->reason()); break;
     case QEvent::KeyPress:
       // The first key after the window came to the front enters the control. What a control

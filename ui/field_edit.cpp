@@ -13,6 +13,7 @@
 #include "ui/file_drop.h"
 #include "ui/qt_text.h"
 #include "ui/step_keys.h"
+#include "ui/tool_menu.h"
 
 namespace veldox {
 namespace {
@@ -174,6 +175,7 @@ void FieldEdit::contextMenuEvent(QContextMenuEvent* event) {
     }
   }
   ExtendMenu(*menu);
+  AddTools(*menu, field_);
   menu->exec(event->globalPos());
 }
 

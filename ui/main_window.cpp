@@ -185,7 +185,13 @@ QAction* MainWindow::MakeAction(const MenuItem& item, QWidget* owner) {
     auto* menu = new QMenu(owner);
     menu->setToolTipsVisible(true);
     action = menu->menuAction();
-    connect(menu, &QMenu::aboutToShow, this, [this, menu, name = item.name] { Fill(*menu, name); });
+    connect(menu, &QMenu::aboutToShow, this, [this, menu, name = item.name] {
+      Fill(*menu, name);
+      // What can be chosen depends on the screens that are open.
+      for (const MenuItem& child : Shell::Menu()) {
+        if (child.parent == name) ActionOf(child);
+      }
+    });
   } else {
     action = new QAction(owner);
     action->setSeparator(item.kind == MenuKind::Separator);
@@ -221,7 +227,9 @@ QAction* MainWindow::ActionOf(const MenuItem& item) {
     QMenu* menu = ActionOf(*parent)->menu();
     Fill(*menu, parent->name);
     for (QAction* action : menu->actions()) {
-      if (action->objectName() == name) return action;
+      if (action->objectName() != name) continue;
+      UpdateAction(*action, item);
+      return action;
     }
   }
   for (const MenuRow* row : menu_->rows()) {

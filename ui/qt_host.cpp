@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QDateTime>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -286,6 +288,42 @@ void QtHost::SetBusy(bool busy) {
   } else {
     QGuiApplication::restoreOverrideCursor();
   }
+}
+
+namespace {
+
+/// A bar with Cancel, which comes into sight where something takes more than half a second.
+class ProgressBox : public Progress {
+ public:
+  ProgressBox(const QString& what, std::size_t all)
+      : box_(what, QStringLiteral("Cancel"), 0, static_cast<int>(all),
+             QApplication::activeWindow()) {
+    constexpr int kQuiet = 500;  // milliseconds
+    box_.setObjectName(QStringLiteral("Progress"));
+    box_.setWindowTitle(QGuiApplication::applicationDisplayName());
+    box_.setWindowModality(Qt::ApplicationModal);
+    box_.setMinimumDuration(kQuiet);
+    since_.start();
+  }
+
+  bool GoOn(std::size_t done) override {
+    // A bar that moves more often is not seen better, and slows down what it tells of.
+    constexpr qint64 kFrame = 40;  // milliseconds
+    if (since_.elapsed() < kFrame) return true;
+    since_.restart();
+    box_.setValue(static_cast<int>(done));
+    return !box_.wasCanceled();
+  }
+
+ private:
+  QProgressDialog box_;
+  QElapsedTimer since_;
+};
+
+}  // namespace
+
+std::unique_ptr<Progress> QtHost::ShowProgress(const std::string& what, std::size_t all) {
+  return std::make_unique<ProgressBox>(ToQt(what), all);
 }
 
 }  // namespace veldox

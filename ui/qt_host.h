@@ -27,6 +27,7 @@ class QtHost : public Host {
   void PrintWindow(const std::string& screen) override;
   void SetUpPrinter() override;
   void SetBusy(bool busy) override;
+  std::unique_ptr<Progress> ShowProgress(const std::string& what, std::size_t all) override;
 
  private:
   QPointer<QWidget> handbook_;  ///< while it is open

@@ -1,5 +1,8 @@
 #include "ui/window_manager.h"
 
+#include <QApplication>
+#include <QWindow>
+
 #include "ui/own_faces.h"
 #include "ui/theme.h"
 #include "ui/window_place.h"
@@ -15,6 +18,12 @@ WindowManager::WindowManager(Shell& shell) : shell_(shell), pictures_(shell, *th
     // What has changed the look may be in the middle of its own event.
     QMetaObject::invokeMethod(
         &main_, [this] { FollowAppearance(); }, Qt::QueuedConnection);
+  });
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &main_, [this](QWindow* front) {
+    for (const auto& window : windows_) {
+      if (front != nullptr && window->windowHandle() == front)
+        shell_.context().NoteVisit(window->screen());
+    }
   });
   shell_.SetFace(this);
   for (Screen* screen : shell_.screens()) screen->SetFace(this);
