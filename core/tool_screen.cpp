@@ -54,33 +54,42 @@ class Trial {
 
   /// The results in which a command shows something else when a field changes.
   std::vector<Control*> Depending(Field& field, Command& command) {
-    const auto present = PresentOf(command);
+    const auto& present = PresentOf(command);
     if (!present) return {};
-    const auto changed = TextsAfter(command, &field, NextTo(field));
+    const auto changed = OutcomeOf(command, &field, NextTo(field));
     std::vector<Control*> depending;
     if (!changed) return depending;
     for (std::size_t i = 0; i < results_.size(); ++i) {
-      if (results_[i] == &field || (*present)[i] == (*changed)[i]) continue;
-      if (IsNumber((*present)[i], screen_.mark()) || IsNumber((*changed)[i], screen_.mark())) {
+      const std::string& now = present->texts[i];
+      const std::string& then = changed->texts[i];
+      if (results_[i] == &field || now == then) continue;
+      if (IsNumber(now, screen_.mark()) || IsNumber(then, screen_.mark())) {
         depending.push_back(results_[i]);
       }
     }
     return depending;
   }
 
-  /// Whether a command shows something in a field, of which it takes nothing.
-  bool Shows(Command& command, Field& result) {
-    constexpr const char* kMark = "*";
-    const auto limit = Left();
-    if (!limit) return false;
-    DryRun run(screen_.context());
-    run.SetLimit(*limit);
-    result.SetText(kMark);
-    return command.Run() && result.text() != kMark;
+  /// Whether a command shows something in a field.
+  bool Shows(Command& command, const Field& result) {
+    const auto& present = PresentOf(command);
+    const auto found = std::find(results_.begin(), results_.end(), &result);
+    return present && found != results_.end() &&
+           present->shows[static_cast<std::size_t>(found - results_.begin())];
+  }
+  /// False for a command that shows nothing in any field: it draws a graph, or makes a report.
+  bool MayShow(Command& command) {
+    const auto& present = PresentOf(command);
+    return !present ||
+           std::find(present->shows.begin(), present->shows.end(), true) != present->shows.end();
   }
 
  private:
-  using Texts = std::optional<std::vector<std::string>>;
+  /// What the results are after a command.
+  struct Outcome {
+    std::vector<std::string> texts;
+    std::vector<bool> shows;  ///< the command has shown something there, if only the same
+  };
 
   std::optional<std::chrono::microseconds> Left() const {
     const auto now = std::chrono::steady_clock::now();
@@ -88,30 +97,35 @@ class Trial {
     return std::chrono::duration_cast<std::chrono::microseconds>(end_ - now);
   }
 
-  /// What the results are after a command; nothing where it cannot be run.
-  Texts TextsAfter(Command& command, Field* field, const std::string& text) {
+  /// Nothing where the command cannot be run.
+  std::optional<Outcome> OutcomeOf(Command& command, Field* field, const std::string& text) {
     const auto limit = Left();
     if (!limit || !command.isBuilt() || !command.enabled()) return std::nullopt;
     DryRun run(screen_.context());
     run.SetLimit(*limit);
     if (field != nullptr) field->Edit(text);
+    Outcome outcome;
+    std::vector<std::string> before;
+    for (const Field* result : results_) before.push_back(result->text());
     if (!command.Run()) return std::nullopt;
-    std::vector<std::string> texts;
-    texts.reserve(results_.size());
-    for (const Field* result : results_) texts.push_back(result->text());
-    return texts;
+    for (std::size_t i = 0; i < results_.size(); ++i) {
+      outcome.texts.push_back(results_[i]->text());
+      outcome.shows.push_back(results_[i]->mark() == Mark::Changed ||
+                              results_[i]->text() != before[i]);
+    }
+    return outcome;
   }
 
-  const Texts& PresentOf(Command& command) {
+  const std::optional<Outcome>& PresentOf(Command& command) {
     const auto known = present_.find(&command);
     if (known != present_.end()) return known->second;
-    return present_.emplace(&command, TextsAfter(command, nullptr, {})).first->second;
+    return present_.emplace(&command, OutcomeOf(command, nullptr, {})).first->second;
   }
 
   Screen& screen_;
   std::chrono::steady_clock::time_point end_;
   std::vector<Field*> results_;
-  std::map<const Command*, Texts> present_;
+  std::map<const Command*, std::optional<Outcome>> present_;
 };
 
 /// The first of the controls that is found good; the one chosen is asked first. Null for none.
@@ -185,7 +199,8 @@ std::string NameWithUnit(const Control& control) {
   if (control.kind() == ControlKind::Field) {
     const auto& field = static_cast<const Field&>(control);
     const std::string_view unit = UnitSign(field.unit(), field.screen().metric());
-    if (!unit.empty()) name.append(" (").append(unit).append(")");
+    const bool isSaid = name == unit || name.ends_with(' ' + std::string(unit));
+    if (!unit.empty() && !isSaid) name.append(" (").append(unit).append(")");
   }
   return name;
 }
@@ -248,16 +263,27 @@ bool ToolScreen::IsCalculation(const Control& control) {
   return command.isBuilt() && command.role() == CommandRole::Calculates && command.visible();
 }
 
+bool ToolScreen::ShowsResults(Command& command) {
+  return IsCalculation(command) && command.enabled() && Trial(command.screen()).MayShow(command);
+}
+
 void ToolScreen::WorkOn(Screen* subject) {
   const bool isOther = subject != subject_;
   subject_ = subject;
   std::vector<Control*> entries;
   std::vector<Control*> cells;
   std::vector<Control*> commands;
-  if (subject != nullptr) {
+  if (!isOther) {
+    commands = CommandList.controls();
+  } else if (subject != nullptr) {
+    Trial trial(*subject);
     for (Control* control : subject->ReadingOrder()) {
-      if (IsCalculation(*control)) commands.push_back(control);
+      if (IsCalculation(*control) && trial.MayShow(static_cast<Command&>(*control))) {
+        commands.push_back(control);
+      }
     }
+  }
+  if (subject != nullptr) {
     // Fields of a table register with their screen, and are many: they stand behind the others.
     for (Control* control : subject->controls()) {
       if (IsEntry(*control)) (control->whole() == nullptr ? entries : cells).push_back(control);
@@ -271,8 +297,10 @@ void ToolScreen::WorkOn(Screen* subject) {
     OfferResults(false);
     return;
   }
-  if (Command* next = subject->NextCalculation()) {
-    WorkOn(*next);
+  Command* next = subject->NextCalculation();
+  if (next == nullptr || !CommandList.ChooseControl(next)) next = nullptr;
+  if (Control* command = next != nullptr ? next : CommandList.chosenControl()) {
+    WorkOn(*command);
   } else if (Control* field = FieldList.chosenControl()) {
     WorkOn(*field);
   }
@@ -309,7 +337,7 @@ void ToolScreen::AskFor(Field& shown) {
   };
   Field* entry = nullptr;
   const auto solves = [&](Command& command) {
-    if (!command.enabled() || !trial.Shows(command, result)) return false;
+    if (!trial.Shows(command, result)) return false;
     entry = FirstOf<Field>(FieldList, FieldList.chosenControl(),
                            [&](Field& field) { return depends(field, command); });
     return entry != nullptr;

@@ -71,7 +71,9 @@ class ToolScreen : public Screen {
   static bool IsEntry(const Control& control);
   /// True for a field that a command may show a number in.
   static bool IsResult(const Control& control);
-  /// True for a command that works out results.
+  /// True for a command that shows numbers in fields, and does not only draw or report them.
+  static bool ShowsResults(Command& command);
+  /// True for a command that works something out.
   static bool IsCalculation(const Control& control);
 
  protected:

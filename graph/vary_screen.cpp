@@ -24,6 +24,8 @@ constexpr double kReach = 0.1;
 constexpr std::chrono::seconds kLongestValue(5);
 /// Each curve has a colour of its own.
 constexpr std::size_t kMostCurves = kCurveColorCount + 1;
+constexpr const char* kNoResult =
+    "The Command shows no other number in any field when this Field changes.";
 constexpr const char* kSeriesFilter = "CSV Files (*.csv)|*.csv|All Files (*.*)|*.*";
 
 /// The ends of an axis that holds both values.
@@ -107,10 +109,13 @@ void VaryScreen::OfferResults(bool anew) {
   const std::vector<Control*> results = FindResults(depending);
   for (std::size_t i = 0; i < Results.all().size(); ++i) {
     Results[i].Offer(results);
-    if (anew && depending > 0) Results[i].ChooseControl(i < depending ? results[i] : nullptr);
+    if (anew) Results[i].ChooseControl(i < depending ? results[i] : nullptr);
   }
+  if (anew && depending == 0 && subject() != nullptr) ShowHelp(kNoResult);
   SecondList.Offer(FieldList.controls());
-  if (anew) SecondList.ChooseControl(nullptr);
+  if (anew && SecondList.chosenControl() == FieldList.chosenControl()) {
+    SecondList.ChooseControl(nullptr);
+  }
   EnableSecond();
   OfferCurves();
   if (anew) CurveList.ChooseControl(Results[0].chosenControl());
@@ -121,6 +126,12 @@ void VaryScreen::EnableSecond() {
   for (Field* field : {&SecondFrom, &SecondTo, &SecondStep, static_cast<Field*>(&SecondValues)}) {
     field->SetEnabled(isChosen);
   }
+  if (isChosen) return;
+  // Nothing of another field stays behind.
+  SecondFrom.SetText("0");
+  SecondTo.SetText("10");
+  SecondStep.SetText("1");
+  SecondValues.SetText({});
 }
 
 void VaryScreen::ChooseResult(Field& result) {
@@ -199,7 +210,8 @@ Variation VaryScreen::ReadVariation() {
   variation.results = ChosenResults();
   if (variation.results.empty()) {
     throw CommandError(ErrorKind::InvalidArgument,
-                       "has nothing chosen. Please choose what the Command is to show.",
+                       "has nothing chosen. Please choose a number that the Command shows, or "
+                       "a Field that its numbers depend on.",
                        &Results[0]);
   }
   variation.limit = kLongestValue;

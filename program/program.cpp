@@ -104,7 +104,8 @@ void Program::AddTools() {
     Control& control = OriginalOf(shown);
     std::vector<ControlTool> tools;
     if (&control.screen() == shell_.get() || !ToolScreen::CanWorkOn(control.screen())) return tools;
-    if (ToolScreen::IsCalculation(control) && control.enabled()) {
+    auto* command = dynamic_cast<Command*>(&control);
+    if (command != nullptr && ToolScreen::ShowsResults(*command)) {
       tools.push_back({"Vary a Field of This Command ...", open(vary, control, false)});
       tools.push_back({"Seek With This Command ...", open(seek, control, false)});
     }

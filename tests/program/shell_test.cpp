@@ -163,11 +163,12 @@ TEST_F(ShellTest, TheMenuTreeIsWhole) {
   }
 }
 
-TEST_F(ShellTest, EveryScreenOfTheMenuHasALauncherButton) {
+TEST_F(ShellTest, EveryScreenOfTheMenuBarHasALauncherButton) {
   std::set<std::string_view> launched;
   for (const LauncherItem& item : Shell::Launcher()) launched.insert(item.menuItem);
   for (const MenuItem& item : Shell::Menu()) {
-    if (item.kind == MenuKind::Screen) {
+    // Tools stand in the File menu.
+    if (item.kind == MenuKind::Screen && item.parent.empty()) {
       EXPECT_TRUE(launched.contains(item.name)) << item.name;
     }
   }

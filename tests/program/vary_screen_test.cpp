@@ -332,6 +332,40 @@ TEST_F(Tools, RefuseToSeekWhatIsNotBetweenTheEnds) {
   EXPECT_EQ(Text("Seek.Found"), "");
 }
 
+TEST_F(Tools, LeaveOutCommandsThatShowNoNumbers) {
+  Open("Form13");
+  Choose("Vary");
+  const std::vector<std::string>& rows = Find<ComboList>("Vary.CommandList").rows();
+  EXPECT_THAT(rows, ::testing::Contains("Est Frontal Area"));
+  EXPECT_THAT(rows, Not(::testing::Contains("MPH/WTq"))) << "a graph";
+  EXPECT_TRUE(Offer("Form13.Command25").empty()) << "a report";
+  // What does not depend on the field is not shown as if it did.
+  Pick("Vary.CommandList", "Est Frontal Area");
+  Pick("Vary.FieldList", "Tire Diameter (in)");
+  EXPECT_EQ(Text("Vary.Result1"), "(none)");
+  EXPECT_THAT(Text("Vary.HelpText"), HasSubstr("no other number"));
+}
+
+TEST(SeriesInComma, HaveTheMarkOfTheSystem) {
+  const std::filesystem::path file = std::filesystem::temp_directory_path() / "series_comma.csv";
+  TestHost host;
+  host.decimalMark = DecimalMark::Comma;
+  host.Answer(Button::OK);  // told at the start
+  Program program(host);
+  program.Start();
+  Shell& shell = program.shell();
+  shell.Open(*shell.FindScreen("Form1"));
+  shell.Open(*shell.FindScreen("Vary"));
+  static_cast<Field&>(*shell.FindControl("Vary.Values")).Edit("4 4,125");
+  host.AnswerFile(file);
+  ASSERT_TRUE(static_cast<Command&>(*shell.FindControl("Vary.Save_Series")).Click());
+  const std::string written = LoadFile(file);
+  std::filesystem::remove(file);
+  EXPECT_THAT(written, HasSubstr("\"Bore (in)\";\"Engine Size (cu in)\";"));
+  EXPECT_THAT(written, HasSubstr("\r\n4,0;326,7256;"));
+  EXPECT_THAT(written, HasSubstr("\r\n4,125;347,465"));
+}
+
 TEST(RangesAboutAField, AreTidy) {
   TestHost host;
   Program program(host);
