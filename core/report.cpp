@@ -97,14 +97,32 @@ std::string ReportFileText(std::string_view report) {
   return ReportBoxText(report).append(kLineBreak);
 }
 
+namespace {
+
+/// The characters of the widest line that is printed; the first one never is.
+std::size_t PrintedWidth(std::string_view report) {
+  std::size_t widest = 0;
+  const std::vector<MarkedLine> lines = ReportLines(report);
+  for (std::size_t i = 1; i < lines.size(); ++i) {
+    widest = std::max(widest, lines[i].text.size());
+  }
+  return widest;
+}
+
+}  // namespace
+
+int FontSizeForPage(std::string_view report) {
+  // A character is as wide as 0.6 of its size, and a page has room for 94 of 10 points.
+  constexpr std::size_t kPagePoints = 940;
+  constexpr int kLargest = 10;
+  constexpr int kSmallest = 5;
+  const std::size_t width = std::max<std::size_t>(1, PrintedWidth(report));
+  return std::clamp(static_cast<int>(kPagePoints / width), kSmallest, kLargest);
+}
+
 int FontSizeByWidth(std::string_view report) {
   constexpr std::size_t kUsualWidth = 80;
-  const std::vector<MarkedLine> lines = ReportLines(report);
-  // The first line is never printed.
-  const bool wide = std::any_of(lines.begin() + 1, lines.end(), [](const MarkedLine& line) {
-    return line.text.size() > kUsualWidth;
-  });
-  return wide ? 9 : 10;
+  return PrintedWidth(report) > kUsualWidth ? 9 : 10;
 }
 
 void ReportWriter::EndLine(LineMark mark) {

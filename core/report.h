@@ -75,6 +75,10 @@ std::string ReportFileText(std::string_view report);
 /// than 80 characters, else 10.
 int FontSizeByWidth(std::string_view report);
 
+/// The same for tables of many columns: the largest size, not above 10, in which a portrait page
+/// holds the widest line.
+int FontSizeForPage(std::string_view report);
+
 /// Builds a report line by line: cells of numbers by ReportColumns, texts as they are.
 class ReportWriter : public ReportColumns {
  public:

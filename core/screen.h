@@ -672,7 +672,7 @@ class Screen {
   /// True for a screen that works on other screens and holds no data of its own: what is entered
   /// there is no step and nothing to be saved, and Clear leaves it alone.
   virtual bool IsTool() const { return false; }
-  /// False for a screen that shows what others work out: there is nothing for tools to work on.
+  /// False for a screen whose commands show no numbers in fields: tools leave it alone.
   virtual bool HasResults() const { return true; }
   /// What belongs to closing beyond hiding the window.
   virtual void Closed() {}

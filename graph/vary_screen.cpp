@@ -243,7 +243,7 @@ void VaryScreen::ShowSeries() {
   const std::size_t wanted =
       variation.values.size() * std::max<std::size_t>(1, variation.secondValues.size());
   std::string report = SeriesReport(variation, all, wanted);
-  const int fontSize = FontSizeByWidth(report);
+  const int fontSize = FontSizeForPage(report);
   ShowReport(std::move(report), fontSize);
 }
 

@@ -15,6 +15,7 @@ class Form9 : public Screen {
 
   Control* HelpPlace() override { return &Text38; }
   bool UsesSharedValues() const override { return false; }
+  bool HasResults() const override { return false; }
   /// Converts while the value is typed and when another unit is picked. What is no number yet
   /// leaves the last values standing.
   void Edited(const Control& control) override;

@@ -195,6 +195,23 @@ TEST_F(ReportBoxTest, TooManyHeadingsFailTheCommandAndKeepTheReport) {
   EXPECT_EQ(box_.report(), report);
 }
 
+TEST(FontSizeForPage, IsTheLargestThatAPageHasRoomFor) {
+  const auto sizeOf = [](std::size_t width) {
+    return FontSizeForPage("prompt\r\n" + std::string(width, 'x') + "\r\nend");
+  };
+  EXPECT_EQ(sizeOf(0), 10);
+  EXPECT_EQ(sizeOf(94), 10);
+  EXPECT_EQ(sizeOf(95), 9);
+  EXPECT_EQ(sizeOf(104), 9);
+  EXPECT_EQ(sizeOf(118), 7);
+  EXPECT_EQ(sizeOf(1000), 5);
+  // 0.6 of the size a character, in what a page has beside its edges.
+  for (std::size_t width = 60; width < 180; ++width) {
+    const double points = 0.6 * static_cast<double>(sizeOf(width)) * static_cast<double>(width);
+    EXPECT_LE(points * 20, PageSheet(false).width - 150) << width;
+  }
+}
+
 TEST(FontSizeByWidth, IsSmallerWhereAPrintedLineIsWide) {
   const std::string wide(80, 'x');
   EXPECT_EQ(FontSizeByWidth("prompt\r\n" + wide + "\r\nend"), 10);
