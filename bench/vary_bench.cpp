@@ -40,11 +40,15 @@ void VaryThousandValues(benchmark::State& state, const Series& series) {
 BENCHMARK_CAPTURE(VaryThousandValues, EngineSize,
                   Series{"Form1.Text1", 3, 5, "Form1.Command1", "Form1.Text6"})
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(VaryThousandValues, CrankAngle,
+BENCHMARK_CAPTURE(VaryThousandValues, RodStrokeRatio,
                   Series{"Form1.Text4", 5, 7, "Form1.Command23", "Form1.Text12"})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(VaryThousandValues, SpringRate,
                   Series{"Form16.Text1", 0.2, 1, "Form16.Command1", "Form16.Text4"})
+    ->Unit(benchmark::kMillisecond);
+/// A run down the strip for each weight of the car.
+BENCHMARK_CAPTURE(VaryThousandValues, Acceleration,
+                  Series{"Form13.Text51", 2000, 3000, "Form13.Command25", "Form13.Text51"})
     ->Unit(benchmark::kMillisecond);
 
 void SeekEngineSize(benchmark::State& state) {

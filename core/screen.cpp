@@ -551,6 +551,7 @@ void ProgramContext::NoteVisit(Screen& screen) {
   if (journal.isDry() || (!visited_.empty() && visited_.back() == &screen)) return;
   std::erase(visited_, &screen);
   visited_.push_back(&screen);
+  screen.Visited();
 }
 
 void Screen::SetVisible(bool visible) {

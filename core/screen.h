@@ -674,6 +674,8 @@ class Screen {
   virtual bool IsTool() const { return false; }
   /// False for a screen whose commands show no numbers in fields: tools leave it alone.
   virtual bool HasResults() const { return true; }
+  /// The user has come to this screen from another one, or opened it.
+  virtual void Visited() {}
   /// What belongs to closing beyond hiding the window.
   virtual void Closed() {}
   /// True while the fields show metric units.

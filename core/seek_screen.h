@@ -16,6 +16,7 @@ class SeekScreen : public ToolScreen {
   void FieldChosen(const Field& field) override;
   void OfferResults(bool anew) override;
   void ChooseResult(Field& result) override;
+  Field* ChosenResult() const override { return static_cast<Field*>(ResultList.chosenControl()); }
 
  private:
   void SeekValue();

@@ -270,6 +270,7 @@ bool ToolScreen::ShowsResults(Command& command) {
 void ToolScreen::WorkOn(Screen* subject) {
   const bool isOther = subject != subject_;
   subject_ = subject;
+  isMetric_ = subject != nullptr && subject->metric();
   std::vector<Control*> entries;
   std::vector<Control*> cells;
   std::vector<Control*> commands;
@@ -350,6 +351,13 @@ void ToolScreen::AskFor(Field& shown) {
   }
   OfferResults(true);
   ChooseResult(result);
+}
+
+void ToolScreen::Visited() {
+  if (subject_ == nullptr || subject_->metric() == isMetric_) return;
+  WorkOn(subject_);
+  if (Control* field = FieldList.chosenControl()) FieldChosen(static_cast<Field&>(*field));
+  if (Field* result = ChosenResult()) ChooseResult(*result);
 }
 
 void ToolScreen::Edited(const Control& control) {

@@ -57,6 +57,8 @@ class ToolScreen : public Screen {
   void CopyFromBlock() override {}
   void ClearFields() override {}
   void Edited(const Control& control) override;
+  /// Follows the subject where its units have been switched meanwhile.
+  void Visited() override;
 
   /// Takes another screen's fields and commands; null where none is open.
   void WorkOn(Screen* subject);
@@ -97,9 +99,12 @@ class ToolScreen : public Screen {
   virtual void OfferResults(bool anew) = 0;
   /// Puts a result in the first place.
   virtual void ChooseResult(Field& result) = 0;
+  /// What stands there; null for nothing.
+  virtual Field* ChosenResult() const = 0;
 
  private:
   Screen* subject_ = nullptr;
+  bool isMetric_ = false;  ///< the subject, when its fields were listed
 
  public:
   Frame SubjectFrame{*this, "SubjectFrame", "Screen", 0};

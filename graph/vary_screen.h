@@ -23,6 +23,7 @@ class VaryScreen : public ToolScreen {
   void FieldChosen(const Field& field) override;
   void OfferResults(bool anew) override;
   void ChooseResult(Field& result) override;
+  Field* ChosenResult() const override { return static_cast<Field*>(Results[0].chosenControl()); }
 
  private:
   /// Where the values of a field are entered.

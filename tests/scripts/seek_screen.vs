@@ -49,3 +49,21 @@ menu Seek
 get Seek.SubjectFrame
 select Seek.FieldList Wire Diameter (in)
 get Seek.CommandList
+
+# The units of the screen are switched meanwhile
+menu CubicInch
+menu Seek
+select Seek.CommandList Engine Size
+select Seek.FieldList Bore (in)
+set Seek.Target 300
+check Form1.Check1
+set Seek.Low 100
+get Seek.FieldList
+get Seek.ResultList
+get Seek.Target
+get Seek.High
+set Seek.Target 5000
+click Seek.Find_Value
+get Seek.Found
+value Bore
+messages

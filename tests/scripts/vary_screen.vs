@@ -85,10 +85,12 @@ dialogs
 messages
 
 # In metric
-check Form1.Check1
-menu Vary
 select Vary.CommandList Engine Size
-select Vary.FieldList Bore (mm)
+select Vary.FieldList Bore (in)
+check Form1.Check1
+set Vary.Values
+get Vary.FieldList
+get Vary.From
 get Vary.Result1
 set Vary.Values 100 101.6
 click Vary.Show_Series
