@@ -22,24 +22,6 @@ constexpr std::size_t kSheetWidth = 94;
 constexpr std::size_t kGap = 4;
 constexpr std::size_t kColumnWidth = (kSheetWidth - kGap) / 2;
 
-/// The number of characters that a text takes on a line.
-std::size_t Length(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-  }));
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  const std::size_t length = Length(text);
-  if (length < width) text.append(width - length, ' ');
-  return text;
-}
-
-std::string RightAligned(const std::string& text, std::size_t width) {
-  const std::size_t length = Length(text);
-  return length < width ? std::string(width - length, ' ') + text : text;
-}
-
 /// A line's end may not look like a mark of the printer.
 std::string WithoutMark(std::string line) {
   line.erase(line.find_last_not_of(' ') + 1);
@@ -77,7 +59,7 @@ std::vector<std::string> Wrapped(const std::string& text, std::size_t width) {
     std::string& line = lines.back();
     if (line.empty()) {
       line = word;
-    } else if (Length(line) + 1 + Length(word) <= width) {
+    } else if (CharacterCount(line) + 1 + CharacterCount(word) <= width) {
       line.append(1, ' ').append(word);
     } else {
       lines.emplace_back(word);
@@ -107,8 +89,8 @@ class SheetWriter {
     Line("Build Sheet", kBold);
     const ClockTime& made = head.made;
     const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-    Line(Padded("File: " + (head.fileName.empty() ? "not saved yet" : head.fileName),
-                kColumnWidth + kGap) +
+    Line(LeftAligned("File: " + (head.fileName.empty() ? "not saved yet" : head.fileName),
+                     kColumnWidth + kGap) +
          "Date: " + std::to_string(made.year) + '-' + two(made.month) + '-' + two(made.day));
     for (const std::string* company :
          {&block.CompanyName, &block.CompanyAddress, &block.CompanyCity, &block.CompanyPhone,
@@ -127,7 +109,7 @@ class SheetWriter {
   void WriteScreen(const Screen& screen) {
     Line("");
     Line(screen.title(), kBold);
-    Line(std::string(std::min(Length(screen.title()), kSheetWidth), '='));
+    Line(std::string(std::min(CharacterCount(screen.title()), kSheetWidth), '='));
     for (const Control* control : screen.ReadingOrder()) {
       if (control->kind() == ControlKind::Frame) WriteFrame(static_cast<const Frame&>(*control));
     }
@@ -238,13 +220,13 @@ class SheetWriter {
   }
 
   static bool Fits(const SheetEntry& entry) {
-    return Length(entry.label) + Length(entry.value) + 3 <= kColumnWidth;
+    return CharacterCount(entry.label) + CharacterCount(entry.value) + 3 <= kColumnWidth;
   }
 
   /// The label at the left, dots, and the value at the right.
   static std::string Laid(const SheetEntry& entry, std::size_t width) {
     std::string label = "  " + entry.label + ' ';
-    const std::size_t taken = Length(label) + Length(entry.value) + 1;
+    const std::size_t taken = CharacterCount(label) + CharacterCount(entry.value) + 1;
     if (taken >= width) return label + entry.value;
     return label + std::string(width - taken, '.') + ' ' + entry.value;
   }
@@ -275,9 +257,9 @@ class SheetWriter {
     for (SheetColumn& column : columns) {
       heads = std::max(heads, column.head.size());
       for (const std::string& word : column.head)
-        column.width = std::max(column.width, Length(word));
+        column.width = std::max(column.width, CharacterCount(word));
       for (const std::string& cell : column.cells) {
-        column.width = std::max(column.width, Length(cell));
+        column.width = std::max(column.width, CharacterCount(cell));
       }
     }
     if (const std::string caption = table.PlainCaption(); !caption.empty()) Line("  " + caption);
@@ -300,7 +282,7 @@ class SheetWriter {
                     std::size_t end, std::size_t heads, int rows) {
     const auto line = [&](const auto& cellOf) {
       std::string text = "  ";
-      if (isNamed) text += Padded(cellOf(columns.front()), columns.front().width);
+      if (isNamed) text += LeftAligned(cellOf(columns.front()), columns.front().width);
       for (std::size_t i = begin; i < end; ++i) {
         text += "  " + RightAligned(cellOf(columns[i]), columns[i].width);
       }

@@ -146,20 +146,14 @@ FileComparison Compare(const FileContents& here, const FileContents& there) {
 
 namespace {
 
-constexpr int kLabelWidth = 42;
-constexpr int kUnitWidth = 8;
-constexpr int kValueWidth = 15;
-constexpr int kPercentWidth = 12;
+constexpr std::size_t kLabelWidth = 42;
+constexpr std::size_t kUnitWidth = 8;
+constexpr std::size_t kValueWidth = 15;
+constexpr std::size_t kPercentWidth = 12;
 
-std::string Left(std::string text, int width) {
-  const auto wanted = static_cast<std::size_t>(width);
-  if (text.size() < wanted) text.append(wanted - text.size(), ' ');
-  return text;
-}
-
-std::string Right(const std::string& text, int width) {
-  const auto wanted = static_cast<std::size_t>(width);
-  return text.size() < wanted ? std::string(wanted - text.size(), ' ') + text : ' ' + text;
+/// A cell that keeps a blank before it, however long it is.
+std::string Cell(const std::string& text, std::size_t width) {
+  return ' ' + RightAligned(text, width - 1);
 }
 
 /// Writes the rows of a comparison.
@@ -176,21 +170,21 @@ class ComparisonWriter {
   void Section(const std::string& title, bool hasPercent) {
     report_.EndLine();
     report_.Add(title).EndLine(LineMark::Bold);
-    std::string heads = Left("", kLabelWidth) + Left("", kUnitWidth) + Right("Here", kValueWidth) +
-                        Right("There", kValueWidth);
-    if (hasPercent) heads += Right("Difference", kPercentWidth);
+    std::string heads = LeftAligned("", kLabelWidth) + LeftAligned("", kUnitWidth) +
+                        Cell("Here", kValueWidth) + Cell("There", kValueWidth);
+    if (hasPercent) heads += Cell("Difference", kPercentWidth);
     report_.Add(heads).EndLine(LineMark::Bold);
   }
 
   void Row(const std::string& label, const std::string& unit, const KeyDifference& difference) {
     std::string line = "  " + label;
-    if (line.size() > static_cast<std::size_t>(kLabelWidth)) {
+    if (line.size() > kLabelWidth) {
       report_.Add(line).EndLine();  // no label is cut
       line.clear();
     }
-    line = Left(line, kLabelWidth) + Left(unit, kUnitWidth);
-    line += Right(difference.here, kValueWidth) + Right(difference.there, kValueWidth);
-    line += Right(Percent(difference), kPercentWidth);
+    line = LeftAligned(line, kLabelWidth) + LeftAligned(unit, kUnitWidth);
+    line += Cell(difference.here, kValueWidth) + Cell(difference.there, kValueWidth);
+    line += Cell(Percent(difference), kPercentWidth);
     line.erase(line.find_last_not_of(' ') + 1);
     report_.Add(line).EndLine();
   }

@@ -60,6 +60,20 @@ const char* EntryWords(KeyRule rule) {
   return "";
 }
 
+bool IsPanel(const Frame& frame) {
+  return dynamic_cast<const Panel*>(&frame) != nullptr;
+}
+
+bool IsPage(const Frame& frame) {
+  return dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+}
+
+/// True for a frame within a panel or a page.
+bool StandsOnSheet(const Frame& frame) {
+  const Frame* around = frame.frame();
+  return around != nullptr && (IsPanel(*around) || IsPage(*around) || StandsOnSheet(*around));
+}
+
 /// Writes the pages of one screen.
 class ScreenPages {
  public:
@@ -97,12 +111,15 @@ class ScreenPages {
         default: break;
       }
     }
-    if (fields.empty() && others.empty() && commands.empty()) return;
-    const bool isPanel = dynamic_cast<const Panel*>(&frame) != nullptr;
-    const bool isPage = dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+    const bool isSheet = IsPanel(frame) || IsPage(frame);
+    if (!isSheet && fields.empty() && others.empty() && commands.empty()) return;
     const std::string caption = Caption(frame.caption());
     if (!caption.empty()) {
-      text_ += "### " + Plain(caption) + (isPanel ? " (panel)" : isPage ? " (page)" : "") + "\n\n";
+      text_ += (StandsOnSheet(frame) ? "#### " : "### ") + Plain(caption) +
+               (IsPanel(frame)  ? " (panel)"
+                : IsPage(frame) ? " (page)"
+                                : "") +
+               "\n\n";
     }
     if (!fields.empty()) {
       text_ += "| field | unit | entry | on a fresh screen |\n|---|---|---|---|\n" + fields + "\n";
