@@ -35,13 +35,22 @@ std::string Matched(const FileRecord& record) {
                                                                       : Lower(record.name);
 }
 
+std::vector<std::string> WordsOf(const std::string& text) {
+  std::istringstream words(text);
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
+/// True for a number, and for the numbers of a table's row.
+bool HoldsNumbers(const std::string& value, DecimalMark mark) {
+  const std::vector<std::string> words = WordsOf(value);
+  return !words.empty() && std::ranges::all_of(words, [mark](const std::string& word) {
+    return IsNumber(word, mark);
+  });
+}
+
 /// True for values that are the same, whatever their form: ".016" and "0.016" are.
 bool SameValue(const std::string& one, const std::string& other) {
   if (one == other) return true;
-  const auto numbers = [](const std::string& text) {
-    std::istringstream words(text);
-    return std::vector<std::string>(std::istream_iterator<std::string>(words), {});
-  };
   const auto same = [](const std::string& left, const std::string& right) {
     if (left == right) return true;
     for (const DecimalMark mark : {DecimalMark::Point, DecimalMark::Comma}) {
@@ -55,7 +64,7 @@ bool SameValue(const std::string& one, const std::string& other) {
     }
     return false;
   };
-  return std::ranges::equal(numbers(one), numbers(other), same);
+  return std::ranges::equal(WordsOf(one), WordsOf(other), same);
 }
 
 std::optional<double> NumberIn(const std::string& value, DecimalMark mark) {
@@ -223,9 +232,9 @@ std::string ComparisonReport(
   for (const KeyDifference& difference : comparison.differences) {
     KeyPlace place = placeOf(difference);
     const auto isNumberOrNone = [&](const std::string& value) {
-      return value == kLacking || NumberIn(value, mark).has_value();
+      return value == kLacking || HoldsNumbers(value, mark);
     };
-    if (!isNumberOrNone(difference.here) || !isNumberOrNone(difference.there)) {
+    if (place.isOption || !isNumberOrNone(difference.here) || !isNumberOrNone(difference.there)) {
       options.push_back({std::move(place), &difference});
       continue;
     }

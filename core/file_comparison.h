@@ -57,6 +57,7 @@ struct KeyPlace {
   std::string screen;  ///< its title; empty for the main form's options
   std::string label;   ///< empty where no field shows the key
   std::string unit;
+  bool isOption = false;  ///< a switch or a choice, though it may be written as a number
 };
 
 /// The differences as a report: numbers by screen, with label, unit, both values and the

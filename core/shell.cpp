@@ -310,6 +310,9 @@ KeyPlace Shell::PlaceOfKey(const KeyDifference& difference) {
                              ? &control->screen()
                              : FindScreen(row->owner.substr(0, row->owner.find('.')));
   if (screen != nullptr && screen != this) place.screen = screen->title();
+  place.isOption = row->form == KeyForm::Flag ||
+                   (control != nullptr && (control->kind() == ControlKind::OptionGroup ||
+                                           control->kind() == ControlKind::CheckBox));
   const auto* field = dynamic_cast<const Field*>(control);
   if (field == nullptr || difference.name != difference.key) return place;
   place.label = field->PlainCaption();

@@ -67,11 +67,15 @@ TEST(ComparisonReport, TellsNumbersByScreenThenOptionsThenNotes) {
   FileComparison comparison;
   comparison.differences = {{"Bore", "Bore", "4.0", "4.125"},
                             {"Metric Mode", "Metric Mode", "No", "Yes"},
+                            {"Cubicin Option", "Cubicin Option", "0", "2"},
+                            {"IntakeFlow 1", "IntakeFlow", "0.1 68.0", "0.1 70.0"},
                             {"RPM", "RPM", "-", "6500"}};
   comparison.notesDiffer = true;
   const auto placeOf = [](const KeyDifference& difference) {
     if (difference.key == "Bore") return KeyPlace{"Engine", "Bore", "in"};
-    return KeyPlace{};
+    KeyPlace place;
+    place.isOption = difference.key == "Cubicin Option";
+    return place;
   };
   const std::string report = ComparisonReport(comparison, "as it is", "a.prm", placeOf, kMark);
   // 0.125 of 4 is 3.125 percent.
@@ -79,8 +83,13 @@ TEST(ComparisonReport, TellsNumbersByScreenThenOptionsThenNotes) {
   EXPECT_THAT(report, HasSubstr("\r\n  Bore                                    in      "
                                 "            4.0          4.125     +3.13 %\r\n"));
   EXPECT_THAT(report, HasSubstr("Options and Texts^\r\n"));
-  EXPECT_THAT(report, HasSubstr("The notes differ.\r\n3 keys differ."));
-  EXPECT_LT(report.find("  RPM "), report.find("  Metric Mode "));
+  EXPECT_THAT(report, HasSubstr("The notes differ.\r\n5 keys differ."));
+  // A choice is none of the numbers, and a table's rows are.
+  const auto options = report.find("Options and Texts");
+  for (const char* number : {"  RPM ", "  IntakeFlow 1 "}) EXPECT_LT(report.find(number), options);
+  for (const char* option : {"  Metric Mode ", "  Cubicin Option "}) {
+    EXPECT_LT(options, report.find(option)) << option;
+  }
 }
 
 }  // namespace
