@@ -30,9 +30,8 @@ bool HasRows(std::string_view key) {
 }
 
 /// What names of both sides are matched by. The road tables differ in their case alone.
-std::string Matched(const FileRecord& record) {
-  return record.key.starts_with("Ro") || record.key.starts_with("RO") ? record.name
-                                                                      : Lower(record.name);
+std::string Matched(const std::string& name) {
+  return name.starts_with("Ro") || name.starts_with("RO") ? name : Lower(name);
 }
 
 std::vector<std::string> WordsOf(const std::string& text) {
@@ -106,24 +105,27 @@ FileContents ContentsOf(std::string_view text) {
   return contents;
 }
 
-FileContents OfFile(const FileContents& state, const FileContents& asRead) {
+FileContents OfFile(const FileContents& state, const FileFindings& findings) {
   std::set<std::string> inFile;
-  for (const FileRecord& record : asRead.records) inFile.insert(Matched(record));
+  for (const std::string& name : findings.records) inFile.insert(Matched(name));
   FileContents contents;
-  std::ranges::copy_if(state.records, std::back_inserter(contents.records),
-                       [&](const FileRecord& record) { return inFile.contains(Matched(record)); });
-  contents.notes = asRead.notes;
+  std::ranges::copy_if(
+      state.records, std::back_inserter(contents.records),
+      [&](const FileRecord& record) { return inFile.contains(Matched(record.name)); });
+  for (const auto& [key, value] : findings.unknown) contents.records.push_back({key, key, value});
+  contents.notes = state.notes;
   return contents;
 }
 
 FileComparison Compare(const FileContents& here, const FileContents& there) {
   std::map<std::string, const FileRecord*> known;
-  for (const FileRecord& record : there.records) known[Matched(record)] = &record;
+  for (const FileRecord& record : there.records) known[Matched(record.name)] = &record;
   std::set<std::string> ours;
-  for (const FileRecord& record : here.records) ours.insert(Matched(record));
+  for (const FileRecord& record : here.records) ours.insert(Matched(record.name));
   std::vector<std::string> theirs;
   theirs.reserve(there.records.size());
-  std::ranges::transform(there.records, std::back_inserter(theirs), Matched);
+  std::ranges::transform(there.records, std::back_inserter(theirs),
+                         [](const FileRecord& record) { return Matched(record.name); });
   std::map<std::string, std::size_t> placeOfTheirs;
   for (std::size_t i = 0; i < theirs.size(); ++i) placeOfTheirs[theirs[i]] = i;
 
@@ -139,7 +141,7 @@ FileComparison Compare(const FileContents& here, const FileContents& there) {
     }
   };
   for (const FileRecord& record : here.records) {
-    const std::string name = Matched(record);
+    const std::string name = Matched(record.name);
     const auto place = placeOfTheirs.find(name);
     if (place != placeOfTheirs.end()) addTheirs(place->second);
     const auto found = known.find(name);

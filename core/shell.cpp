@@ -227,8 +227,7 @@ void Shell::Choose(const MenuItem& item) {
   }
 }
 
-void Shell::Open(Screen& screen) {
-  const History::Step step(context(), History::Kind::None);
+void Shell::ShowAsOpened(Screen& screen) {
   if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
@@ -239,6 +238,11 @@ void Shell::Open(Screen& screen) {
       box->TurnOver();
     }
   }
+}
+
+void Shell::Open(Screen& screen) {
+  const History::Step step(context(), History::Kind::None);
+  ShowAsOpened(screen);
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
   if (opened_) opened_(screen);
 }
@@ -271,22 +275,36 @@ void Shell::Inform(const std::string& text, Icon icon) {
 
 // ---------------------------------------------------------------- build sheet and comparison
 
-void Shell::ShowBuildSheet(const std::vector<const Screen*>& screens) {
+void Shell::ShowBuildSheet(const std::vector<Screen*>& screens) {
   const std::string& path = block().ParameterFileName;
   BuildSheetHead head;
   head.fileName = path.substr(path.find_last_of('/') + 1);
   head.made = context().host.Now();
-  sheet.ShowSheet(BuildSheet(screens, head, block()), "Build Sheet");
+  std::string report;
+  {
+    const DryRun run(context());
+    std::vector<const Screen*> shown;
+    for (Screen* screen : screens) {
+      if (std::ranges::find(shown, screen) != shown.end()) continue;
+      // A screen that is closed holds older values, or none yet.
+      if (!screen->visible()) ShowAsOpened(*screen);
+      shown.push_back(screen);
+    }
+    report = BuildSheet(shown, head, block());
+  }
+  sheet.ShowSheet(std::move(report), "Build Sheet");
 }
 
 FileContents Shell::ContentsOfFile(const std::filesystem::path& file) {
   const std::string bytes = LoadFile(file);
   DryRun run(context());
-  // Files hold inches.
+  // Files hold inches, and what they hold shows, whatever was cleared before.
   context().HandOver(nullptr);
-  parameterFile_.ReadBytes(bytes, PathText(file.filename()));
-  if (!run.log().error.empty()) throw CommandError(ErrorKind::File, run.log().error);
-  return OfFile(ContentsOf(parameterFile_.Compose().bytes), ContentsOf(DecodeText(bytes)));
+  block().FormsCleared = 0;
+  FileFindings findings;
+  parameterFile_.ReadBytes(bytes, PathText(file.filename()), &findings);
+  if (!findings.failure.empty()) throw CommandError(ErrorKind::File, findings.failure);
+  return OfFile(ContentsOf(parameterFile_.Compose().bytes), findings);
 }
 
 FileComparison Shell::CompareWith(const std::filesystem::path& file) {

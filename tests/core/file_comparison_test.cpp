@@ -56,10 +56,11 @@ TEST(FileComparison, AKeyThatTheFileLacksIsNoneOfIts) {
   const FileContents here = ContentsOf("Bore = 4.0\nStroke = 3.25\nNotes = mine");
   // Read over the present state, the file's own stroke is that state's.
   const FileContents there = ContentsOf("Bore = 4.125\nStroke = 3.25\nNotes = theirs");
-  const FileContents asRead = ContentsOf("bore = 4.1250\nNotes = theirs");
-  const FileComparison comparison = Compare(here, OfFile(there, asRead));
+  const FileFindings findings{{"bore"}, {{"Bora", "9"}}, {}};
+  const FileComparison comparison = Compare(here, OfFile(there, findings));
   EXPECT_THAT(comparison.differences, ElementsAre(KeyDifference{"Bore", "Bore", "4.0", "4.125"},
-                                                  KeyDifference{"Stroke", "Stroke", "3.25", "-"}));
+                                                  KeyDifference{"Stroke", "Stroke", "3.25", "-"},
+                                                  KeyDifference{"Bora", "Bora", "-", "9"}));
   EXPECT_TRUE(comparison.notesDiffer);
 }
 
