@@ -7,6 +7,7 @@
 
 #include "core/report.h"
 #include "core/step_bound.h"
+#include "core/text.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -88,10 +89,6 @@ std::string CellText(double value, double largest, DecimalMark mark) {
   return FormatInt(value, mark);
 }
 
-std::string Padded(const std::string& text, std::size_t width) {
-  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
-}
-
 class MapWriter {
  public:
   MapWriter(const FlowMapInput& in, DecimalMark mark)
@@ -117,8 +114,8 @@ class MapWriter {
     report.Add(table.heading).EndLine(LineMark::Heading);
     AddHeads(report, width);
     for (std::size_t i = 0; i < rows.size(); ++i) {
-      report.Add(Padded(FormatInt(speeds_[i], mark_), kCaptionWidth));
-      for (const double value : rows[i]) report.Add(Padded(text(value), width));
+      report.Add(RightAligned(FormatInt(speeds_[i], mark_), kCaptionWidth));
+      for (const double value : rows[i]) report.Add(RightAligned(text(value), width));
       report.EndLine();
     }
   }
@@ -126,8 +123,8 @@ class MapWriter {
  private:
   void AddHead(ReportWriter& report, const char* caption, std::size_t width,
                const std::function<std::string(const MapColumn&)>& head) const {
-    report.Add(Padded(caption, kCaptionWidth));
-    for (const MapColumn& column : columns_) report.Add(Padded(head(column), width));
+    report.Add(RightAligned(caption, kCaptionWidth));
+    for (const MapColumn& column : columns_) report.Add(RightAligned(head(column), width));
     report.EndLine(LineMark::Heading);
   }
 
@@ -151,7 +148,7 @@ class MapWriter {
         return FormatValue<"0.000">(column.densityRatio, mark_);
       });
     }
-    report.Add(Padded("RPM", kCaptionWidth)).EndLine(LineMark::Heading);
+    report.Add(RightAligned("RPM", kCaptionWidth)).EndLine(LineMark::Heading);
   }
 
   const FlowMapInput& in_;

@@ -63,8 +63,8 @@ class SheetWriter {
     Line("Build Sheet", kBold);
     const ClockTime& made = head.made;
     const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-    Line(Padded("File: " + (head.fileName.empty() ? "not saved yet" : head.fileName),
-                kColumnWidth + kGap) +
+    Line(LeftAligned("File: " + (head.fileName.empty() ? "not saved yet" : head.fileName),
+                     kColumnWidth + kGap) +
          "Date: " + std::to_string(made.year) + '-' + two(made.month) + '-' + two(made.day));
     for (const std::string* company :
          {&block.CompanyName, &block.CompanyAddress, &block.CompanyCity, &block.CompanyPhone,
@@ -83,7 +83,7 @@ class SheetWriter {
   void WriteScreen(const Screen& screen) {
     Line("");
     Line(screen.title(), kBold);
-    Line(std::string(std::min(TextLength(screen.title()), kSheetWidth), '='));
+    Line(std::string(std::min(CharacterCount(screen.title()), kSheetWidth), '='));
     for (const Control* control : screen.ReadingOrder()) {
       if (control->kind() == ControlKind::Frame) WriteFrame(static_cast<const Frame&>(*control));
     }
@@ -194,13 +194,13 @@ class SheetWriter {
   }
 
   static bool Fits(const SheetEntry& entry) {
-    return TextLength(entry.label) + TextLength(entry.value) + 3 <= kColumnWidth;
+    return CharacterCount(entry.label) + CharacterCount(entry.value) + 3 <= kColumnWidth;
   }
 
   /// The label at the left, dots, and the value at the right.
   static std::string Laid(const SheetEntry& entry, std::size_t width) {
     std::string label = "  " + entry.label + ' ';
-    const std::size_t taken = TextLength(label) + TextLength(entry.value) + 1;
+    const std::size_t taken = CharacterCount(label) + CharacterCount(entry.value) + 1;
     if (taken >= width) return label + entry.value;
     return label + std::string(width - taken, '.') + ' ' + entry.value;
   }
@@ -231,9 +231,9 @@ class SheetWriter {
     for (SheetColumn& column : columns) {
       heads = std::max(heads, column.head.size());
       for (const std::string& word : column.head)
-        column.width = std::max(column.width, TextLength(word));
+        column.width = std::max(column.width, CharacterCount(word));
       for (const std::string& cell : column.cells) {
-        column.width = std::max(column.width, TextLength(cell));
+        column.width = std::max(column.width, CharacterCount(cell));
       }
     }
     if (const std::string caption = table.PlainCaption(); !caption.empty()) Line("  " + caption);
@@ -256,7 +256,7 @@ class SheetWriter {
                     std::size_t end, std::size_t heads, int rows) {
     const auto line = [&](const auto& cellOf) {
       std::string text = "  ";
-      if (isNamed) text += Padded(cellOf(columns.front()), columns.front().width);
+      if (isNamed) text += LeftAligned(cellOf(columns.front()), columns.front().width);
       for (std::size_t i = begin; i < end; ++i) {
         text += "  " + RightAligned(cellOf(columns[i]), columns[i].width);
       }

@@ -30,18 +30,26 @@ bool HasRows(std::string_view key) {
 }
 
 /// What names of both sides are matched by. The road tables differ in their case alone.
-std::string Matched(const FileRecord& record) {
-  return record.key.starts_with("Ro") || record.key.starts_with("RO") ? record.name
-                                                                      : Lower(record.name);
+std::string Matched(const std::string& name) {
+  return name.starts_with("Ro") || name.starts_with("RO") ? name : Lower(name);
+}
+
+std::vector<std::string> WordsOf(const std::string& text) {
+  std::istringstream words(text);
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
+/// True for a number, and for the numbers of a table's row.
+bool HoldsNumbers(const std::string& value, DecimalMark mark) {
+  const std::vector<std::string> words = WordsOf(value);
+  return !words.empty() && std::ranges::all_of(words, [mark](const std::string& word) {
+    return IsNumber(word, mark);
+  });
 }
 
 /// True for values that are the same, whatever their form: ".016" and "0.016" are.
 bool SameValue(const std::string& one, const std::string& other) {
   if (one == other) return true;
-  const auto numbers = [](const std::string& text) {
-    std::istringstream words(text);
-    return std::vector<std::string>(std::istream_iterator<std::string>(words), {});
-  };
   const auto same = [](const std::string& left, const std::string& right) {
     if (left == right) return true;
     for (const DecimalMark mark : {DecimalMark::Point, DecimalMark::Comma}) {
@@ -55,7 +63,7 @@ bool SameValue(const std::string& one, const std::string& other) {
     }
     return false;
   };
-  return std::ranges::equal(numbers(one), numbers(other), same);
+  return std::ranges::equal(WordsOf(one), WordsOf(other), same);
 }
 
 std::optional<double> NumberIn(const std::string& value, DecimalMark mark) {
@@ -97,24 +105,27 @@ FileContents ContentsOf(std::string_view text) {
   return contents;
 }
 
-FileContents OfFile(const FileContents& state, const FileContents& asRead) {
+FileContents OfFile(const FileContents& state, const FileFindings& findings) {
   std::set<std::string> inFile;
-  for (const FileRecord& record : asRead.records) inFile.insert(Matched(record));
+  for (const std::string& name : findings.records) inFile.insert(Matched(name));
   FileContents contents;
-  std::ranges::copy_if(state.records, std::back_inserter(contents.records),
-                       [&](const FileRecord& record) { return inFile.contains(Matched(record)); });
-  contents.notes = asRead.notes;
+  std::ranges::copy_if(
+      state.records, std::back_inserter(contents.records),
+      [&](const FileRecord& record) { return inFile.contains(Matched(record.name)); });
+  for (const auto& [key, value] : findings.unknown) contents.records.push_back({key, key, value});
+  contents.notes = state.notes;
   return contents;
 }
 
 FileComparison Compare(const FileContents& here, const FileContents& there) {
   std::map<std::string, const FileRecord*> known;
-  for (const FileRecord& record : there.records) known[Matched(record)] = &record;
+  for (const FileRecord& record : there.records) known[Matched(record.name)] = &record;
   std::set<std::string> ours;
-  for (const FileRecord& record : here.records) ours.insert(Matched(record));
+  for (const FileRecord& record : here.records) ours.insert(Matched(record.name));
   std::vector<std::string> theirs;
   theirs.reserve(there.records.size());
-  std::ranges::transform(there.records, std::back_inserter(theirs), Matched);
+  std::ranges::transform(there.records, std::back_inserter(theirs),
+                         [](const FileRecord& record) { return Matched(record.name); });
   std::map<std::string, std::size_t> placeOfTheirs;
   for (std::size_t i = 0; i < theirs.size(); ++i) placeOfTheirs[theirs[i]] = i;
 
@@ -130,7 +141,7 @@ FileComparison Compare(const FileContents& here, const FileContents& there) {
     }
   };
   for (const FileRecord& record : here.records) {
-    const std::string name = Matched(record);
+    const std::string name = Matched(record.name);
     const auto place = placeOfTheirs.find(name);
     if (place != placeOfTheirs.end()) addTheirs(place->second);
     const auto found = known.find(name);
@@ -146,20 +157,14 @@ FileComparison Compare(const FileContents& here, const FileContents& there) {
 
 namespace {
 
-constexpr int kLabelWidth = 42;
-constexpr int kUnitWidth = 8;
-constexpr int kValueWidth = 15;
-constexpr int kPercentWidth = 12;
+constexpr std::size_t kLabelWidth = 42;
+constexpr std::size_t kUnitWidth = 8;
+constexpr std::size_t kValueWidth = 15;
+constexpr std::size_t kPercentWidth = 12;
 
-std::string Left(std::string text, int width) {
-  const auto wanted = static_cast<std::size_t>(width);
-  if (text.size() < wanted) text.append(wanted - text.size(), ' ');
-  return text;
-}
-
-std::string Right(const std::string& text, int width) {
-  const auto wanted = static_cast<std::size_t>(width);
-  return text.size() < wanted ? std::string(wanted - text.size(), ' ') + text : ' ' + text;
+/// A cell that keeps a blank before it, however long it is.
+std::string Cell(const std::string& text, std::size_t width) {
+  return ' ' + RightAligned(text, width - 1);
 }
 
 /// Writes the rows of a comparison.
@@ -176,21 +181,21 @@ class ComparisonWriter {
   void Section(const std::string& title, bool hasPercent) {
     report_.EndLine();
     report_.Add(title).EndLine(LineMark::Bold);
-    std::string heads = Left("", kLabelWidth) + Left("", kUnitWidth) + Right("Here", kValueWidth) +
-                        Right("There", kValueWidth);
-    if (hasPercent) heads += Right("Difference", kPercentWidth);
+    std::string heads = LeftAligned("", kLabelWidth) + LeftAligned("", kUnitWidth) +
+                        Cell("Here", kValueWidth) + Cell("There", kValueWidth);
+    if (hasPercent) heads += Cell("Difference", kPercentWidth);
     report_.Add(heads).EndLine(LineMark::Bold);
   }
 
   void Row(const std::string& label, const std::string& unit, const KeyDifference& difference) {
     std::string line = "  " + label;
-    if (line.size() > static_cast<std::size_t>(kLabelWidth)) {
+    if (line.size() > kLabelWidth) {
       report_.Add(line).EndLine();  // no label is cut
       line.clear();
     }
-    line = Left(line, kLabelWidth) + Left(unit, kUnitWidth);
-    line += Right(difference.here, kValueWidth) + Right(difference.there, kValueWidth);
-    line += Right(Percent(difference), kPercentWidth);
+    line = LeftAligned(line, kLabelWidth) + LeftAligned(unit, kUnitWidth);
+    line += Cell(difference.here, kValueWidth) + Cell(difference.there, kValueWidth);
+    line += Cell(Percent(difference), kPercentWidth);
     line.erase(line.find_last_not_of(' ') + 1);
     report_.Add(line).EndLine();
   }
@@ -229,9 +234,9 @@ std::string ComparisonReport(
   for (const KeyDifference& difference : comparison.differences) {
     KeyPlace place = placeOf(difference);
     const auto isNumberOrNone = [&](const std::string& value) {
-      return value == kLacking || NumberIn(value, mark).has_value();
+      return value == kLacking || HoldsNumbers(value, mark);
     };
-    if (!isNumberOrNone(difference.here) || !isNumberOrNone(difference.there)) {
+    if (place.isOption || !isNumberOrNone(difference.here) || !isNumberOrNone(difference.there)) {
       options.push_back({std::move(place), &difference});
       continue;
     }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "core/parameter_file.h"
 
 namespace veldox {
 
@@ -48,15 +49,15 @@ struct FileComparison {
 FileComparison Compare(const FileContents& here, const FileContents& there);
 
 /// What of a state of the program, into which a file was read, is the file's own: of the keys that
-/// the file lacks the state tells what was there before.
-/// @param asRead  what the file itself holds
-FileContents OfFile(const FileContents& state, const FileContents& asRead);
+/// the file lacks the state tells what was there before. Keys that nobody knows stand last.
+FileContents OfFile(const FileContents& state, const FileFindings& findings);
 
 /// Where a key is at home.
 struct KeyPlace {
   std::string screen;  ///< its title; empty for the main form's options
   std::string label;   ///< empty where no field shows the key
   std::string unit;
+  bool isOption = false;  ///< a switch or a choice, though it may be written as a number
 };
 
 /// The differences as a report: numbers by screen, with label, unit, both values and the

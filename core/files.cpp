@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "core/error.h"
+#include "core/text.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 #define VELDOX_POSIX_FILES
@@ -323,24 +324,6 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
-void AppendCharacter(std::string& text, unsigned code) {
-  if (code < 0x80) {
-    text += static_cast<char>(code);
-  } else if (code < 0x800) {
-    text += static_cast<char>(0xC0U | (code >> 6));
-    text += static_cast<char>(0x80U | (code & 0x3FU));
-  } else {
-    if (code < 0x10000) {
-      text += static_cast<char>(0xE0U | (code >> 12));
-    } else {
-      text += static_cast<char>(0xF0U | (code >> 18));
-      text += static_cast<char>(0x80U | ((code >> 12) & 0x3FU));
-    }
-    text += static_cast<char>(0x80U | ((code >> 6) & 0x3FU));
-    text += static_cast<char>(0x80U | (code & 0x3FU));
-  }
-}
-
 /// Unicode of the Windows-1252 bytes 0x80 to 0x9F; all others stand for themselves, as do the
 /// five to which the code page gives no character.
 constexpr std::array<char16_t, 32> kWindows1252 = {
@@ -353,7 +336,7 @@ std::string FromWindows1252(std::string_view bytes) {
   text.reserve(bytes.size() + bytes.size() / 8);
   for (const char c : bytes) {
     const unsigned byte = static_cast<unsigned char>(c);
-    AppendCharacter(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80] : byte);
+    AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80] : byte);
   }
   return text;
 }
@@ -377,9 +360,9 @@ std::string FromUtf16(std::string_view bytes, bool highFirst) {
     } else if (isHalf(code, 0xD800) || isHalf(code, 0xDC00)) {
       code = kReplacement;
     }
-    AppendCharacter(text, code);
+    AppendUtf8(text, code);
   }
-  if (i < bytes.size()) AppendCharacter(text, kReplacement);
+  if (i < bytes.size()) AppendUtf8(text, kReplacement);
   return text;
 }
 

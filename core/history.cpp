@@ -34,7 +34,7 @@ std::string Told(const std::string& text) {
 
 /// What a control is called where it stands alone in a line.
 std::string NameOf(const Control& control) {
-  std::string name = control.PlainCaption();
+  std::string name(Trim(control.PlainCaption()));
   const auto isLabel = [&] {
     return control.kind() == ControlKind::Label || control.kind() == ControlKind::Frame;
   };
@@ -225,7 +225,9 @@ std::string History::TitleOf(OpenStep& step) const {
     if (own != changes.end()) return TellChange(*own);
     return name;
   }
-  return changes.empty() ? name : name + ": " + TellChange(changes.front());
+  // A switch tells by its own caption how it stands.
+  if (changes.empty() || changes.front().control == step.control) return name;
+  return name + ": " + TellChange(changes.front());
 }
 
 std::size_t History::Bytes() const {

@@ -192,8 +192,7 @@ std::string Quoted(std::string_view text) {
   std::size_t characters = 0;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    const bool startsCharacter = (byte & 0xC0U) != 0x80U;
-    if (startsCharacter && ++characters > kLongest) {
+    if (!IsContinuationByte(c) && ++characters > kLongest) {
       result += "...";
       break;
     }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/error.h"
+#include "core/text.h"
 
 namespace veldox {
 
@@ -72,7 +73,7 @@ int TextWidth(const PageFont& font, std::string_view text) {
   int thousandths = 0;
   for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    if ((byte & 0xC0U) == 0x80U) continue;  // not the first byte of its character
+    if (IsContinuationByte(c)) continue;  // not the first byte of its character
     if (fixed) {
       thousandths += kFixedWidth;
     } else if (byte >= ' ' && byte <= '~') {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <concepts>
 #include <string>
+#include <utility>
 
 #include "core/screen.h"
 
@@ -45,11 +47,24 @@ class ScreenPage : public Frame {
   void Open();
 };
 
+/// A part of a screen that stands on a page of its own.
+template <class P>
+concept HasPage = requires(const P& part) {
+  { part.page() } -> std::same_as<const ScreenPage&>;
+};
+
 /// The work of a command that opens a panel or a page: `Opens(&Form4::Frame3)`.
 template <class S, class P>
 CommandWork Opens(P S::*sheet) {
-  return {[sheet](Screen& screen, int) { (static_cast<S&>(screen).*sheet).Open(); },
-          CommandRole::Serves};
+  const auto in = [sheet](Screen& screen) -> P& { return static_cast<S&>(screen).*sheet; };
+  CommandWork work([in](Screen& screen, int) { in(screen).Open(); }, CommandRole::Serves);
+  if constexpr (std::derived_from<P, ScreenPage>) {
+    return std::move(work).TurnsTo([in](Screen& screen) { return &in(screen); });
+  } else if constexpr (HasPage<P>) {
+    return std::move(work).TurnsTo([in](Screen& screen) { return &in(screen).page(); });
+  } else {
+    return work;
+  }
 }
 
 /// The work of a command that puts the panel away that it stands in.

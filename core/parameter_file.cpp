@@ -105,6 +105,7 @@ struct NitrousKey {
 };
 
 constexpr std::string_view kNitrousStages = "Nitrous MS";
+constexpr const char* kGridColor = "Grid Color";
 
 constexpr std::array<NitrousKey, 5> kNitrousKeys = {{
     {"nitrous hp", 1},
@@ -124,6 +125,13 @@ std::string OneLine(std::string text) {
 bool IsGearForm(TableForm form) {
   return form == TableForm::GearIndexed || form == TableForm::GearChangeRpm ||
          form == TableForm::GearChangeTime;
+}
+
+/// The key of a gear, or of the change out of it: "T Gear 3", "Shift RPM 3-4".
+std::string GearKey(const KeyRow& row, int index) {
+  std::string key = std::string(row.key) + ' ' + std::to_string(index);
+  if (row.tableForm != TableForm::GearIndexed) key += '-' + std::to_string(index + 1);
+  return key;
 }
 
 template <class ControlType>
@@ -357,17 +365,8 @@ class ParameterFile::Writer {
 
   void WriteTableRow(const KeyRow& row, int index) {
     const auto cell = [&](int column) { return CellOf(row, index, column); };
-    std::string& text = written_.bytes;
-    text += row.key;
-    if (IsGearForm(row.tableForm)) {
-      text += ' ';
-      AppendInt(index);
-      if (row.tableForm != TableForm::GearIndexed) {
-        text += '-';
-        AppendInt(index + 1);
-      }
-    }
-    text += " = ";
+    written_.bytes += IsGearForm(row.tableForm) ? GearKey(row, index) : std::string(row.key);
+    written_.bytes += " = ";
     switch (row.tableForm) {
       case TableForm::Fields: AppendField(cell(0)); break;
       case TableForm::Smart:
@@ -462,8 +461,10 @@ class ParameterFile::Writer {
 /// Takes a file's text apart, line by line.
 class ParameterFile::Reader {
  public:
-  Reader(ParameterFile& file, std::string_view text, const std::string& fileName)
+  Reader(ParameterFile& file, std::string_view text, const std::string& fileName,
+         FileFindings* findings)
       : file_(file),
+        findings_(findings),
         context_(file.context_),
         block_(file.context_.block),
         mark_(file.context_.mark()),
@@ -535,6 +536,15 @@ class ParameterFile::Reader {
   /// the verb, here as for a field.
   void TellFailure() const {
     if (!failure_) return;
+    if (findings_ != nullptr) {
+      findings_->failure = failure_->kind() == ErrorKind::File
+                               ? failure_->message()
+                               : "Record # " + RecordNumber(records()) + " of " +
+                                     NameWithoutFolder(fileName_) + " cannot be read: \"" +
+                                     Clipped(line_, kShownCharacters) + "\". The value " +
+                                     Clipped(failure_->message(), kShownCharacters);
+      return;
+    }
     std::string text(kReadingError);
     text += kLineEnd;
     if (failure_->kind() == ErrorKind::File) {
@@ -637,11 +647,11 @@ class ParameterFile::Reader {
     // The road tables are told apart by their case alone.
     if (line_.starts_with("Road") || line_.starts_with("ROad")) {
       if (key == kRoadMphKey) {
-        ReadRoadRow(value, block_.RoadMphRowCount, block_.RoadMph, block_.RoadMphTime);
+        ReadRoadRow(key, value, block_.RoadMphRowCount, block_.RoadMph, block_.RoadMphTime);
         return true;
       }
       if (key == kRoadRpmKey) {
-        ReadRoadRow(value, block_.RoadRpmRowCount, block_.RoadRpm, block_.RoadRpmTime);
+        ReadRoadRow(key, value, block_.RoadRpmRowCount, block_.RoadRpm, block_.RoadRpmTime);
         return true;
       }
       return AskAboutLine();
@@ -672,10 +682,20 @@ class ParameterFile::Reader {
       if (field != nullptr && *text != FormatSmart(0, mark_)) field->SetText(*text);
     } else if (row->form == KeyForm::Table) {
       ReadTableRow(*row, missing ? "0" : value);
+      return true;
     } else {
       ReadValue(*row, missing ? "0" : Trim(value));
     }
+    Note(std::string(row->key));
     return true;
+  }
+
+  /// A record was read.
+  void Note(std::string name) const {
+    if (findings_ != nullptr) findings_->records.push_back(std::move(name));
+  }
+  void NoteRow(std::string_view key, int number) const {
+    Note(std::string(key) + ' ' + std::to_string(number));
   }
 
   void ReadValue(const KeyRow& row, std::string_view value) {
@@ -746,6 +766,7 @@ class ParameterFile::Reader {
       StoreCell(row, next, static_cast<int>(i), numbers.values[i]);
     }
     ++next;
+    NoteRow(row.key, next - row.firstRow);
   }
 
   /// How many lines of an array key were read: the row that its next one fills.
@@ -797,12 +818,14 @@ class ParameterFile::Reader {
           throw CommandError(ErrorKind::Overflow, "must be from 0 to 255 for a part of a color.");
         }
         block_.GridColor = (block_.GridColor & ~(255 << part.shift)) | (level << part.shift);
+        Note(kGridColor);
         return true;
       }
     }
     for (const NitrousKey& nitrous : kNitrousKeys) {
       if (SameIgnoringCase(key, nitrous.key)) {
         StoreCell(*FindKey(kNitrousStages), 0, nitrous.column, number());
+        NoteRow(kNitrousStages, 1);
         return true;
       }
     }
@@ -826,6 +849,7 @@ class ParameterFile::Reader {
     block_.AccelScfm[row] = numbers[5];
     block_.AccelBsac[row] = numbers[6];
     ++block_.AccelRowCount;
+    NoteRow(kTorqueKeys[0].key, block_.AccelRowCount);
   }
 
   static double TorqueInPoundFeet(double value, TorqueUnit unit, double rpm) {
@@ -851,14 +875,15 @@ class ParameterFile::Reader {
     return torque;
   }
 
-  void ReadRoadRow(std::string_view value, std::int16_t& rows, TorqueColumn& speeds,
-                   TorqueColumn& times) {
+  void ReadRoadRow(std::string_view key, std::string_view value, std::int16_t& rows,
+                   TorqueColumn& speeds, TorqueColumn& times) {
     const Numbers numbers = ReadNumbers(value, 2, 2);
     const auto row = static_cast<std::size_t>(rows);
     if (row >= kTorqueRows) ThrowTableIsFull();
     speeds[row] = numbers.values[0];
     times[row] = numbers.values[1];
     ++rows;
+    NoteRow(key, rows);
   }
 
   /// Lines with an index: the word, the gear, for shifts "-" and the next gear, "=".
@@ -876,6 +901,7 @@ class ParameterFile::Reader {
       }
       const std::string_view value = Trim(text.substr(equals + 1));
       StoreCell(*row, index, 0, value.empty() ? 0 : ParseNumber(value, mark_));
+      Note(GearKey(*row, index));
       return true;
     }
     return false;
@@ -901,13 +927,22 @@ class ParameterFile::Reader {
   }
 
   /// Tells a line that is no key; false when the user leaves the reading.
-  bool AskAboutLine() { return TellBadRecord({Button::OK, Button::Cancel}) != Button::Cancel; }
+  bool AskAboutLine() {
+    if (findings_ != nullptr) {
+      const std::string_view key = KeyOf(line_);
+      const std::string_view value = key.empty() ? line_ : line_.substr(key.size() + 2);
+      findings_->unknown.emplace_back(key.empty() ? "?" : key, Trim(value));
+      return true;
+    }
+    return TellBadRecord({Button::OK, Button::Cancel}) != Button::Cancel;
+  }
 
   Button TellBadRecord(std::vector<Button> buttons) {
     return badRecords_.Tell(InvalidRecord(), std::move(buttons));
   }
 
   ParameterFile& file_;
+  FileFindings* findings_;
   ProgramContext& context_;
   ParameterBlock& block_;
   DecimalMark mark_;
@@ -980,15 +1015,17 @@ int ParameterFile::ReadParameterFile(const std::filesystem::path& path) {
                                               Clipped(error.message(), kShownCharacters));
     }
   }
-  return ReadText(text, PathText(path));
+  return ReadText(text, PathText(path), nullptr);
 }
 
-int ParameterFile::ReadBytes(std::string_view bytes, const std::string& fileName) {
-  return ReadText(DecodeText(std::string(bytes)), fileName);
+int ParameterFile::ReadBytes(std::string_view bytes, const std::string& fileName,
+                             FileFindings* findings) {
+  return ReadText(DecodeText(std::string(bytes)), fileName, findings);
 }
 
-int ParameterFile::ReadText(std::string_view text, const std::string& fileName) {
-  Reader reader(*this, text, fileName);
+int ParameterFile::ReadText(std::string_view text, const std::string& fileName,
+                            FileFindings* findings) {
+  Reader reader(*this, text, fileName, findings);
   reader.RequireParameterFile();
   {
     const BusyCursor busy(context_.host);

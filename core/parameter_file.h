@@ -7,12 +7,23 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "core/key_table.h"
 #include "core/screen.h"
 
 namespace veldox {
+
+/// What a file that was read holds.
+struct FileFindings {
+  /// The records, by the names that the writer gives them, with the number of its row where a key
+  /// has several: "Bore", "T Gear 3", "VE RPM 12".
+  std::vector<std::string> records;
+  /// Keys and values that the reader does not know.
+  std::vector<std::pair<std::string, std::string>> unknown;
+  std::string failure;  ///< what ended the reading, empty where nothing did
+};
 
 /// Writes and reads the parameter file: `key = value` lines for every shared value,
 /// the options and the notes, from the one key table.
@@ -47,8 +58,10 @@ class ParameterFile {
   int ReadParameterFile(const std::filesystem::path& path);
 
   /// The same for the bytes of a file, with the name that messages tell.
+  /// @param findings  takes down what the file holds, and what ended the reading, in place of a box
   /// @throws CommandError (File) for bytes that are no parameter file
-  int ReadBytes(std::string_view bytes, const std::string& fileName);
+  int ReadBytes(std::string_view bytes, const std::string& fileName,
+                FileFindings* findings = nullptr);
 
  private:
   class Writer;
@@ -58,7 +71,7 @@ class ParameterFile {
   Control* Owner(const KeyRow& row) const;
   /// The control that owns one value of a key: for a number of a table its field.
   Control* OwnerOf(const KeyRow& row, const void* place) const;
-  int ReadText(std::string_view text, const std::string& fileName);
+  int ReadText(std::string_view text, const std::string& fileName, FileFindings* findings);
 
   ProgramContext& context_;
   std::vector<Control*> owners_;                            // one for each row of the key table

@@ -2,17 +2,16 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
+
+#include "core/text.h"
 
 namespace veldox {
 
 namespace {
 
-/// Blanks that a UTF-8 text lacks to fill a column.
-std::size_t MissingBlanks(std::string_view text, int width) {
-  const auto characters = std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;  // no continuation byte
-  });
-  return characters < width ? static_cast<std::size_t>(width - characters) : 0;
+std::size_t Characters(int width) {
+  return static_cast<std::size_t>(std::max(width, 0));
 }
 
 }  // namespace
@@ -31,8 +30,7 @@ void ReportColumns::AddValueLine(double value, std::string_view label) {
 }
 
 const std::string& ReportColumns::PadCell(int width) {
-  CellText.insert(0, MissingBlanks(CellText, width), ' ');
-  return CellText;
+  return CellText = RightAligned(std::move(CellText), Characters(width));
 }
 
 void ReportColumns::AddPadCell(int width) {
@@ -44,7 +42,7 @@ void ReportColumns::AddPadCell2(int width) {
 }
 
 void ReportColumns::PadTextCell(int width) {
-  LeftCellText.append(MissingBlanks(LeftCellText, width), ' ');
+  LeftCellText = LeftAligned(std::move(LeftCellText), Characters(width));
   ReportLine += LeftCellText;
 }
 

@@ -1,27 +1,11 @@
 #include "core/report_text.h"
 
-#include <algorithm>
 #include <sstream>
+#include <string_view>
 
 #include "core/text.h"
 
 namespace veldox {
-
-std::size_t TextLength(std::string_view text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](char c) { return !IsContinuationByte(c); }));
-}
-
-std::string Padded(std::string text, std::size_t width) {
-  const std::size_t length = TextLength(text);
-  if (length < width) text.append(width - length, ' ');
-  return text;
-}
-
-std::string RightAligned(const std::string& text, std::size_t width) {
-  const std::size_t length = TextLength(text);
-  return length < width ? std::string(width - length, ' ') + text : text;
-}
 
 std::string WithoutMark(std::string line) {
   line.erase(line.find_last_not_of(' ') + 1);
@@ -38,7 +22,7 @@ std::vector<std::string> Wrapped(const std::string& text, std::size_t width) {
     std::string& line = lines.back();
     if (line.empty()) {
       line = word;
-    } else if (TextLength(line) + 1 + TextLength(word) <= width) {
+    } else if (CharacterCount(line) + 1 + CharacterCount(word) <= width) {
       line.append(1, ' ').append(word);
     } else {
       lines.emplace_back(word);

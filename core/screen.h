@@ -411,13 +411,22 @@ class CommandWork {
       : run_([handler](Screen& screen, int index) { (static_cast<S&>(screen).*handler)(index); }),
         role_(role) {}
 
+  /// The work of a command that turns to a page.
+  CommandWork&& TurnsTo(std::function<const ScreenPage*(Screen&)> page) && {
+    page_ = std::move(page);
+    return std::move(*this);
+  }
+
   bool isBuilt() const { return run_ != nullptr; }
   CommandRole role() const { return role_; }
   void Run(Screen& screen, int index) const { run_(screen, index); }
+  /// The page that it turns to; null for most.
+  const ScreenPage* PageIn(Screen& screen) const { return page_ ? page_(screen) : nullptr; }
 
  private:
   std::function<void(Screen&, int)> run_;
   CommandRole role_ = CommandRole::Calculates;
+  std::function<const ScreenPage*(Screen&)> page_;
 };
 
 /// The work of a command that does not calculate: it opens or shows something, or works on files.
@@ -451,6 +460,8 @@ class Command : public Control {
   /// False for a command whose work is not built yet.
   bool isBuilt() const { return work_.isBuilt(); }
   CommandRole role() const { return work_.role(); }
+  /// The page that it turns to; null for most.
+  const ScreenPage* page() const { return work_.PageIn(screen()); }
   /// True for the command that Ctrl+Enter runs now.
   bool isNextCalculation() const;
 

@@ -41,8 +41,8 @@ class Column {
  public:
   Column(const Control& of, DecimalMark mark)
       : mark_(mark), head_(Wrapped(of.PlainCaption(), kHeadWidth)), unit_(UnitOf(of)) {
-    width_ = TextLength(unit_);
-    for (const std::string& word : head_) width_ = std::max(width_, TextLength(word));
+    width_ = CharacterCount(unit_);
+    for (const std::string& word : head_) width_ = std::max(width_, CharacterCount(word));
   }
 
   std::size_t headLines() const { return head_.size(); }
@@ -52,7 +52,7 @@ class Column {
   void Measure(const std::string& text) {
     const std::string cell = CellText(text);
     if (!IsNumber(cell, mark_)) {
-      width_ = std::max(width_, TextLength(cell));
+      width_ = std::max(width_, CharacterCount(cell));
       return;
     }
     const std::size_t at = std::min(cell.find(static_cast<char>(mark_)), cell.size());
@@ -70,7 +70,7 @@ class Column {
     std::string cell = CellText(text);
     if (IsNumber(cell, mark_)) {
       const std::size_t at = std::min(cell.find(static_cast<char>(mark_)), cell.size());
-      cell = Padded(cell, at + behind_);
+      cell = LeftAligned(cell, at + behind_);
     }
     return RightAligned(cell, width_);
   }
@@ -176,10 +176,10 @@ class SeriesWriter {
   void WriteError(const VariedLine& line) {
     const std::string value = ' ' + first_.Cell(line.text) + std::string(kGap, ' ');
     const std::vector<std::string> words =
-        Wrapped(line.error, kLineWidth - std::min(kLineWidth / 2, TextLength(value)));
+        Wrapped(line.error, kLineWidth - std::min(kLineWidth / 2, CharacterCount(value)));
     Line(value + words.front());
     for (std::size_t i = 1; i < words.size(); ++i) {
-      Line(std::string(TextLength(value), ' ') + words[i]);
+      Line(std::string(CharacterCount(value), ' ') + words[i]);
     }
   }
 

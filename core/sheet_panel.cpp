@@ -64,10 +64,10 @@ void SheetChoicePanel::ChooseOpen() {
 }
 
 void SheetChoicePanel::MakeSheet() {
-  std::vector<const Screen*> screens;
+  std::vector<Screen*> screens;
   for (const auto& box : boxes) {
     if (!box->on()) continue;
-    const Screen* screen = shell_.FindScreen(box->name().substr(box->name().find('_') + 1));
+    Screen* screen = shell_.FindScreen(box->name().substr(box->name().find('_') + 1));
     if (screen != nullptr) screens.push_back(screen);
   }
   if (screens.empty()) throw CommandError(ErrorKind::InvalidArgument, kNoScreen);

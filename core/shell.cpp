@@ -240,13 +240,8 @@ Screen* Shell::FrontScreen() const {
   return last == visited.rend() ? nullptr : *last;
 }
 
-void Shell::Open(Screen& screen) {
-  const History::Step step(context(), History::Kind::None);
-  if (auto* tool = dynamic_cast<ToolScreen*>(&screen)) {
-    tool->WorkOn(FrontScreen());
-  } else if (block().FormsCleared != 1) {
-    screen.CopyShared();
-  }
+void Shell::ShowAsOpened(Screen& screen) {
+  if (block().FormsCleared != 1) screen.CopyShared();
   screen.SetVisible(true);
   if (CheckBox* box = screen.MetricBox();
       block().MetricMenuOn != 0 && box != nullptr && !box->on()) {
@@ -256,6 +251,12 @@ void Shell::Open(Screen& screen) {
       box->TurnOver();
     }
   }
+}
+
+void Shell::Open(Screen& screen) {
+  const History::Step step(context(), History::Kind::None);
+  if (auto* tool = dynamic_cast<ToolScreen*>(&screen)) tool->WorkOn(FrontScreen());
+  ShowAsOpened(screen);
   if (!screen.tag().empty()) block().CurrentScreenTag = screen.tag();
   if (opened_) opened_(screen);
 }
@@ -288,22 +289,36 @@ void Shell::Inform(const std::string& text, Icon icon) {
 
 // ---------------------------------------------------------------- build sheet and comparison
 
-void Shell::ShowBuildSheet(const std::vector<const Screen*>& screens) {
+void Shell::ShowBuildSheet(const std::vector<Screen*>& screens) {
   const std::string& path = block().ParameterFileName;
   BuildSheetHead head;
   head.fileName = path.substr(path.find_last_of('/') + 1);
   head.made = context().host.Now();
-  sheet.ShowSheet(BuildSheet(screens, head, block()), "Build Sheet");
+  std::string report;
+  {
+    const DryRun run(context());
+    std::vector<const Screen*> shown;
+    for (Screen* screen : screens) {
+      if (std::ranges::find(shown, screen) != shown.end()) continue;
+      // A screen that is closed holds older values, or none yet.
+      if (!screen->visible()) ShowAsOpened(*screen);
+      shown.push_back(screen);
+    }
+    report = BuildSheet(shown, head, block());
+  }
+  sheet.ShowSheet(std::move(report), "Build Sheet");
 }
 
 FileContents Shell::ContentsOfFile(const std::filesystem::path& file) {
   const std::string bytes = LoadFile(file);
   DryRun run(context());
-  // Files hold inches.
+  // Files hold inches, and what they hold shows, whatever was cleared before.
   context().HandOver(nullptr);
-  parameterFile_.ReadBytes(bytes, PathText(file.filename()));
-  if (!run.log().error.empty()) throw CommandError(ErrorKind::File, run.log().error);
-  return OfFile(ContentsOf(parameterFile_.Compose().bytes), ContentsOf(DecodeText(bytes)));
+  block().FormsCleared = 0;
+  FileFindings findings;
+  parameterFile_.ReadBytes(bytes, PathText(file.filename()), &findings);
+  if (!findings.failure.empty()) throw CommandError(ErrorKind::File, findings.failure);
+  return OfFile(ContentsOf(parameterFile_.Compose().bytes), findings);
 }
 
 FileComparison Shell::CompareWith(const std::filesystem::path& file) {
@@ -327,6 +342,9 @@ KeyPlace Shell::PlaceOfKey(const KeyDifference& difference) {
                              ? &control->screen()
                              : FindScreen(row->owner.substr(0, row->owner.find('.')));
   if (screen != nullptr && screen != this) place.screen = screen->title();
+  place.isOption = row->form == KeyForm::Flag ||
+                   (control != nullptr && (control->kind() == ControlKind::OptionGroup ||
+                                           control->kind() == ControlKind::CheckBox));
   const auto* field = dynamic_cast<const Field*>(control);
   if (field == nullptr || difference.name != difference.key) return place;
   place.label = field->PlainCaption();

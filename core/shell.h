@@ -96,8 +96,8 @@ class Shell : public Screen, public FileTaker {
   /// The given caption, the file that is worked on, and a mark while its data have changed.
   std::string WindowTitle() const;
   Settings& settings() { return settings_; }
-  /// Shows a build sheet of screens in the main form.
-  void ShowBuildSheet(const std::vector<const Screen*>& screens);
+  /// Shows a build sheet of screens in the main form, those that are not open as they would open.
+  void ShowBuildSheet(const std::vector<Screen*>& screens);
   /// Compares the present values with those of a parameter file. Nothing is changed.
   /// @throws CommandError (File) for a file that cannot be read
   FileComparison CompareWith(const std::filesystem::path& file);
@@ -197,6 +197,8 @@ class Shell : public Screen, public FileTaker {
   int TakeFile(const std::filesystem::path& file);
   Button Question(const std::string& text, std::vector<Button> buttons);
   void Inform(const std::string& text, Icon icon = Icon::Information);
+  /// Fills a screen from the shared values and shows it.
+  void ShowAsOpened(Screen& screen);
   std::filesystem::path AskParameterFile(FileDialog::Kind kind);
   void ShowFile(const std::filesystem::path& path, int records, const char* done);
   /// What a parameter file holds, as it would be written again.

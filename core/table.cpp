@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/text.h"
+
 namespace veldox {
 
 namespace {
@@ -47,10 +49,7 @@ std::vector<std::string_view> Lines(std::string_view text) {
 
 std::string Quoted(std::string_view text) {
   constexpr std::size_t kLongest = 24;
-  if (text.size() <= kLongest) return '"' + std::string(text) + '"';
-  std::size_t end = kLongest;
-  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
-  return '"' + std::string(text.substr(0, end)) + "...\"";
+  return '"' + Clipped(text, kLongest) + '"';
 }
 
 /// What a paste could not do, for one box.

@@ -11,6 +11,9 @@ constexpr bool IsContinuationByte(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
+/// Adds a character of Unicode to a UTF-8 text.
+void AppendUtf8(std::string& text, char32_t c);
+
 /// A text without the blanks and tabs around it.
 constexpr std::string_view Trim(std::string_view text) {
   const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
@@ -31,6 +34,14 @@ bool StartsIgnoringCase(std::string_view text, std::string_view prefix);
 /// A UTF-8 text for a message: what is longer is cut between two characters and ends in "...".
 /// @param most  characters that are shown
 std::string Clipped(std::string_view text, std::size_t most);
+
+/// How many characters a UTF-8 text has.
+std::size_t CharacterCount(std::string_view text);
+
+/// A text with blanks behind it that bring it to a width in characters.
+std::string LeftAligned(std::string text, std::size_t width);
+/// A text with blanks before it that bring it to a width in characters.
+std::string RightAligned(std::string text, std::size_t width);
 
 /// The caption of a switch, whose last word tells how it stands: ON or OFF.
 std::string SwitchCaption(std::string_view caption, bool on);

@@ -93,7 +93,8 @@ class Trial {
 
   std::optional<std::chrono::microseconds> Left() const {
     const auto now = std::chrono::steady_clock::now();
-    if (now >= end_) return std::nullopt;
+    // A dry run has no other one in it.
+    if (now >= end_ || screen_.context().journal.isDry()) return std::nullopt;
     return std::chrono::duration_cast<std::chrono::microseconds>(end_ - now);
   }
 

@@ -72,7 +72,8 @@ void FormulaNotes::AddHeader(std::string_view text, const std::string& folder) {
   bool isOpen = false;  // the last line was one of the comment
   static const std::regex kFunction(R"(^([A-Za-z_][\w:<>,&* ]*)[&* ]([A-Z]\w*)\()");
   // What these give is a report, a graph or a note on one: no formula.
-  static const std::regex kNoValue(R"(\b(string|GraphCurve|GraphFrame|\w*Plot|\w*Report)\b)");
+  static const std::regex kNoValue(
+      R"(\b(void|string|GraphCurve|GraphFrame|\w*(Plot|Report|Chart|Heads))\b)");
   for (std::string line; std::getline(stream, line);) {
     if (line.starts_with("/// ")) {
       if (!isOpen) comment.clear();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "core/field_copy.h"
 #include "core/panel.h"
 #include "core/pick_list.h"
 #include "core/results.h"
@@ -60,6 +61,20 @@ const char* EntryWords(KeyRule rule) {
   return "";
 }
 
+bool IsPanel(const Frame& frame) {
+  return dynamic_cast<const Panel*>(&frame) != nullptr;
+}
+
+bool IsPage(const Frame& frame) {
+  return dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+}
+
+/// True for a frame within a panel or a page.
+bool StandsOnSheet(const Frame& frame) {
+  const Frame* around = frame.frame();
+  return around != nullptr && (IsPanel(*around) || IsPage(*around) || StandsOnSheet(*around));
+}
+
 /// Writes the pages of one screen.
 class ScreenPages {
  public:
@@ -81,7 +96,9 @@ class ScreenPages {
     for (const Control* control : frame.controls()) {
       if (control->whole() != nullptr || !control->visible()) continue;
       switch (control->kind()) {
-        case ControlKind::Field: AddField(static_cast<const Field&>(*control), fields); break;
+        case ControlKind::Field:
+          AddField(static_cast<const Field&>(*control), fields, others);
+          break;
         case ControlKind::Table: AddTable(static_cast<const Table&>(*control), others); break;
         case ControlKind::Command:
           AddCommand(static_cast<const Command&>(*control), commands);
@@ -97,12 +114,15 @@ class ScreenPages {
         default: break;
       }
     }
-    if (fields.empty() && others.empty() && commands.empty()) return;
-    const bool isPanel = dynamic_cast<const Panel*>(&frame) != nullptr;
-    const bool isPage = dynamic_cast<const ScreenPage*>(&frame) != nullptr;
+    const bool isSheet = IsPanel(frame) || IsPage(frame);
+    if (!isSheet && fields.empty() && others.empty() && commands.empty()) return;
     const std::string caption = Caption(frame.caption());
     if (!caption.empty()) {
-      text_ += "### " + Plain(caption) + (isPanel ? " (panel)" : isPage ? " (page)" : "") + "\n\n";
+      text_ += (StandsOnSheet(frame) ? "#### " : "### ") + Plain(caption) +
+               (IsPanel(frame)  ? " (panel)"
+                : IsPage(frame) ? " (page)"
+                                : "") +
+               "\n\n";
     }
     if (!fields.empty()) {
       text_ += "| field | unit | entry | on a fresh screen |\n|---|---|---|---|\n" + fields + "\n";
@@ -111,7 +131,7 @@ class ScreenPages {
     if (!commands.empty()) text_ += commands + "\n";
   }
 
-  void AddField(const Field& field, std::string& fields) {
+  void AddField(const Field& field, std::string& fields, std::string& others) {
     std::string label = Caption(field.caption());
     // Of an array that stands under each other one row tells all.
     const std::string array = field.name().substr(0, field.name().find('('));
@@ -119,6 +139,10 @@ class ScreenPages {
     if (label.empty()) label = field.name();
     fields += "| " + Plain(label) + " | " + Plain(Units(field)) + " | " + EntryWords(field.rule()) +
               " | " + Plain(field.text()) + " |\n";
+    // Of a field that is shown again the first place tells what it is.
+    const bool isTwin = dynamic_cast<const FieldTwin*>(&field) != nullptr;
+    if (!field.help().empty() && !isTwin)
+      others += "- **" + Plain(label) + "**" + Help(field) + "\n";
   }
 
   void AddTable(const Table& table, std::string& others) {

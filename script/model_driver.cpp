@@ -2,35 +2,15 @@
 
 #include "core/pick_list.h"
 #include "core/table.h"
+#include "core/text.h"
 
 namespace veldox {
 
 namespace {
 
-void AppendUtf8(std::string& text, char32_t c) {
-  const auto byte = [&](char32_t value) { text += static_cast<char>(value); };
-  if (c < 0x80) {
-    byte(c);
-  } else if (c < 0x800) {
-    byte(0xC0 | (c >> 6));
-    byte(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    byte(0xE0 | (c >> 12));
-    byte(0x80 | ((c >> 6) & 0x3F));
-    byte(0x80 | (c & 0x3F));
-  } else {
-    byte(0xF0 | (c >> 18));
-    byte(0x80 | ((c >> 12) & 0x3F));
-    byte(0x80 | ((c >> 6) & 0x3F));
-    byte(0x80 | (c & 0x3F));
-  }
-}
-
 /// Takes the last character off a UTF-8 text.
 void Shorten(std::string& text) {
-  while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0) == 0x80) {
-    text.pop_back();
-  }
+  while (!text.empty() && IsContinuationByte(text.back())) text.pop_back();
   if (!text.empty()) text.pop_back();
 }
 

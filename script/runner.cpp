@@ -336,15 +336,15 @@ void ScriptRunner::TellCompared(std::string_view file) {
 }
 
 void ScriptRunner::MakeSheet(std::string_view names) {
-  std::vector<const Screen*> screens;
+  std::vector<Screen*> screens;
   while (!names.empty()) {
     const std::string_view name = TakeWord(names);
-    const Screen* screen = program_.shell().FindScreen(name);
+    Screen* screen = program_.shell().FindScreen(name);
     if (screen == nullptr) throw ScriptError("no such screen: " + std::string(name));
     screens.push_back(screen);
   }
   if (screens.empty()) {
-    for (const Screen* screen : program_.shell().screens()) {
+    for (Screen* screen : program_.shell().screens()) {
       if (screen->visible() && !screen->IsTool()) screens.push_back(screen);
     }
   }

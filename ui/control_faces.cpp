@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "core/panel.h"
 #include "core/results.h"
 #include "core/tool_screen.h"
 #include "ui/fixed_font.h"
@@ -252,7 +253,11 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
       button_(static_cast<QPushButton*>(widget())) {
   set.look().DressCommand(*button_, command.role() == CommandRole::Closes ||
                                         &command == command.screen().QuitCommand());
+  // The page in sight is told by its button.
+  button_->setCheckable(command.page() != nullptr);
   connect(button_, &QPushButton::clicked, this, [this] {
+    // Which page is in sight is not the button's to say.
+    FollowPage();
     if (!TakesClick()) return;
     const QPointer<Face> self = this;
     command_.Click();
@@ -264,6 +269,11 @@ CommandFace::CommandFace(FaceSet& set, Command& command, QWidget* parent)
 void CommandFace::Follow() {
   Face::Follow();
   button_->setText(ToQt(control().caption()));
+  FollowPage();
+}
+
+void CommandFace::FollowPage() {
+  if (const ScreenPage* page = command_.page()) button_->setChecked(page->visible());
 }
 
 bool CommandFace::eventFilter(QObject* watched, QEvent* event) {

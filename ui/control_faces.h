@@ -88,6 +88,8 @@ class CommandFace : public Face {
   CommandFace(FaceSet& set, Command& command, QWidget* parent);
   QPushButton* button() const { return button_; }
   void Follow() override;
+  /// Shows whether the page that the command turns to is in sight.
+  void FollowPage();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

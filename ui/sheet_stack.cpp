@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/panel.h"
 #include "ui/control_faces.h"
 #include "ui/frame_panel.h"
 #include "ui/qt_text.h"
@@ -180,6 +181,10 @@ void SheetFace::Follow() {
   name_->setText(path + ToQt(control().PlainCaption()));
   widget()->setAccessibleName(ToQt(control().PlainCaption()));
   stack_.Follow();
+  if (dynamic_cast<const ScreenPage*>(&control()) == nullptr) return;
+  for (const auto& face : set().all()) {
+    if (auto* command = dynamic_cast<CommandFace*>(face.get())) command->FollowPage();
+  }
 }
 
 }  // namespace veldox

@@ -19,6 +19,7 @@ class DynoPanel : public ScreenPart {
   DynoPanel(Screen& screen, RunInputs& inputs, Grapher& grapher);
 
   void Open() { Frame8.Open(); }
+  const ScreenPage& page() const { return Frame8; }
 
  private:
   /// What can be drawn again by "Graph Plus".

@@ -23,6 +23,7 @@ class NitrousStagesPanel : public ScreenPart {
   explicit NitrousStagesPanel(Screen& screen);
 
   void Open();
+  const ScreenPage& page() const { return NitrousFrame; }
   /// Parses all stages into the shared values. @throws CommandError that names the field
   void ReadStages();
   /// A field of a stage, both counted from 0. @throws CommandError (IndexOutOfRange)

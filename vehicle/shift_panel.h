@@ -23,6 +23,7 @@ class ShiftPanel : public ScreenPart {
   explicit ShiftPanel(Screen& screen);
 
   void Open();
+  const ScreenPage& page() const { return Frame4; }
   /// Parses all gears and shifts into the shared values.
   /// @throws CommandError that names the field, for a gear that is shorter than the one below it
   ///         among the rest

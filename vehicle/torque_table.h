@@ -14,7 +14,7 @@ namespace veldox {
 /// 0 where it has not: fuel in pounds an hour, BSFC, air/fuel ratio, SCFM, BSAC.
 using TorquePoint = std::array<double, 7>;
 
-/// The points in use.
+/// @return the points in use
 std::vector<TorquePoint> TorquePoints(const ParameterBlock& block);
 
 /// Puts points into use in place of those there were.

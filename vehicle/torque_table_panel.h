@@ -17,6 +17,7 @@ class TorqueTablePanel : public ScreenPart {
   explicit TorqueTablePanel(Screen& screen);
 
   void Open();
+  const ScreenPage& page() const { return TorqueFrame; }
   /// Shows the table anew where the panel shows an older one and nobody has edited it since.
   void Follow();
 

@@ -56,10 +56,11 @@ TEST(FileComparison, AKeyThatTheFileLacksIsNoneOfIts) {
   const FileContents here = ContentsOf("Bore = 4.0\nStroke = 3.25\nNotes = mine");
   // Read over the present state, the file's own stroke is that state's.
   const FileContents there = ContentsOf("Bore = 4.125\nStroke = 3.25\nNotes = theirs");
-  const FileContents asRead = ContentsOf("bore = 4.1250\nNotes = theirs");
-  const FileComparison comparison = Compare(here, OfFile(there, asRead));
+  const FileFindings findings{{"bore"}, {{"Bora", "9"}}, {}};
+  const FileComparison comparison = Compare(here, OfFile(there, findings));
   EXPECT_THAT(comparison.differences, ElementsAre(KeyDifference{"Bore", "Bore", "4.0", "4.125"},
-                                                  KeyDifference{"Stroke", "Stroke", "3.25", "-"}));
+                                                  KeyDifference{"Stroke", "Stroke", "3.25", "-"},
+                                                  KeyDifference{"Bora", "Bora", "-", "9"}));
   EXPECT_TRUE(comparison.notesDiffer);
 }
 
@@ -67,11 +68,15 @@ TEST(ComparisonReport, TellsNumbersByScreenThenOptionsThenNotes) {
   FileComparison comparison;
   comparison.differences = {{"Bore", "Bore", "4.0", "4.125"},
                             {"Metric Mode", "Metric Mode", "No", "Yes"},
+                            {"Cubicin Option", "Cubicin Option", "0", "2"},
+                            {"IntakeFlow 1", "IntakeFlow", "0.1 68.0", "0.1 70.0"},
                             {"RPM", "RPM", "-", "6500"}};
   comparison.notesDiffer = true;
   const auto placeOf = [](const KeyDifference& difference) {
     if (difference.key == "Bore") return KeyPlace{"Engine", "Bore", "in"};
-    return KeyPlace{};
+    KeyPlace place;
+    place.isOption = difference.key == "Cubicin Option";
+    return place;
   };
   const std::string report = ComparisonReport(comparison, "as it is", "a.prm", placeOf, kMark);
   // 0.125 of 4 is 3.125 percent.
@@ -79,8 +84,13 @@ TEST(ComparisonReport, TellsNumbersByScreenThenOptionsThenNotes) {
   EXPECT_THAT(report, HasSubstr("\r\n  Bore                                    in      "
                                 "            4.0          4.125     +3.13 %\r\n"));
   EXPECT_THAT(report, HasSubstr("Options and Texts^\r\n"));
-  EXPECT_THAT(report, HasSubstr("The notes differ.\r\n3 keys differ."));
-  EXPECT_LT(report.find("  RPM "), report.find("  Metric Mode "));
+  EXPECT_THAT(report, HasSubstr("The notes differ.\r\n5 keys differ."));
+  // A choice is none of the numbers, and a table's rows are.
+  const auto options = report.find("Options and Texts");
+  for (const char* number : {"  RPM ", "  IntakeFlow 1 "}) EXPECT_LT(report.find(number), options);
+  for (const char* option : {"  Metric Mode ", "  Cubicin Option "}) {
+    EXPECT_LT(options, report.find(option)) << option;
+  }
 }
 
 }  // namespace

@@ -18,6 +18,18 @@ TEST(Clipped, CutsBetweenCharacters) {
   EXPECT_EQ(Clipped(text, 1), "\xC3\xA9...");
 }
 
+TEST(CharacterCount, CountsCharactersAndNotBytes) {
+  EXPECT_EQ(CharacterCount(""), 0U);
+  EXPECT_EQ(CharacterCount("90\u00b0 \u20ac"), 5U);
+}
+
+TEST(Aligned, FillsToAWidthInCharacters) {
+  EXPECT_EQ(LeftAligned("\u00b0C", 4), "\u00b0C  ");
+  EXPECT_EQ(RightAligned("\u00b0C", 4), "  \u00b0C");
+  EXPECT_EQ(LeftAligned("bore", 3), "bore");
+  EXPECT_EQ(RightAligned("bore", 3), "bore");
+}
+
 TEST(SwitchCaption, EndsWithHowTheSwitchStands) {
   EXPECT_EQ(SwitchCaption("Metric Mode -- Is OFF", true), "Metric Mode -- Is ON");
   EXPECT_EQ(SwitchCaption("Metric Mode -- Is ON", true), "Metric Mode -- Is ON");

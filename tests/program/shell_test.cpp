@@ -51,6 +51,30 @@ TEST_F(ShellTest, ReadsTheStartUpFileOfItsFolder) {
   EXPECT_EQ(form1().Text26.text(), "0.03");
 }
 
+TEST_F(ShellTest, ComparesAFileMadeByHand) {
+  program_.Start();
+  WriteFile("hand.prm",
+            "bore = 4.125\r\nBora = 9\r\n; a comment\r\nAcceleration = 5000 700\r\n"
+            "Accelerat hp = 5252 700\r\nT Gear 3 = 1.5\r\nShift RPM 1 - 2 = 8000\r\n");
+  std::vector<std::string> told;
+  for (const KeyDifference& difference : shell().CompareWith(folder_ / "hand.prm").differences) {
+    if (difference.there != "-") told.push_back(difference.name + " : " + difference.there);
+  }
+  // 700 HP at 5252 RPM are 700 foot pounds.
+  EXPECT_EQ(told,
+            (std::vector<std::string>{"Bore : 4.125", "T Gear 3 : 1.5", "Shift RPM 1-2 : 8000",
+                                      "Acceleration 2 : 5252 700.0", "Bora : 9"}));
+  EXPECT_EQ(block().Bore, 4.0);
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(ShellTest, ComparesNoFileThatCannotBeReadThrough) {
+  program_.Start();
+  WriteFile("broken.prm", "Bore = 4.125\r\nStroke = abc\r\nRod Length = 6.1\r\n");
+  EXPECT_THROW(shell().CompareWith(folder_ / "broken.prm"), CommandError);
+  EXPECT_TRUE(host_.messages.empty());
+}
+
 TEST_F(ShellTest, TellsWhatIsWrongWithTheStartUpFile) {
   WriteFile("zxqvwu00.prm", "Bore = 4.5\r\nnonsense\r\nStroke = 3\r\n");
   host_.Answer(Button::OK);

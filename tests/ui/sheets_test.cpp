@@ -508,5 +508,22 @@ TEST_F(PagesWindowTest, PagesTakeTurnsUnderTheirSwitches) {
   EXPECT_EQ(screen.Text2.text(), "3200.0");
 }
 
+TEST_F(PagesWindowTest, TheButtonOfThePageInSightIsMarked) {
+  const auto marked = [this] {
+    std::string names;
+    for (const char* name : {"Command1", "Command8", "Command3"}) {
+      if (static_cast<QPushButton&>(Child(window, name)).isChecked()) names += name;
+    }
+    return names;
+  };
+  EXPECT_EQ(marked(), "Command1");
+  ClickCommand("Command8");
+  EXPECT_EQ(marked(), "Command8");
+  ClickCommand("Command8");
+  EXPECT_EQ(marked(), "Command8");
+  screen.pages().front()->Open();
+  EXPECT_EQ(marked(), "Command1");
+}
+
 }  // namespace
 }  // namespace veldox::testing
