@@ -505,10 +505,6 @@ RunRow Run::Row() const {
   row.nitrousHp = now_.nitrousHp;
   row.hoodPressure = now_.hoodPressure;
   row.engineHp = now_.power;
-  if (now_.lastTimeStep > 0) {
-    // The first step of a gear is a part of one, or leads up to the table.
-    row.rpsRate = now_.lastSpeedStep / (speedFactor_ * kFeetASecondPerMph) / now_.lastTimeStep;
-  }
   if (varies_) {
     if (!(now_.mph > 0)) return row;
     // The step was driven at its mean speed. The row tells of its own.
@@ -521,6 +517,10 @@ RunRow Run::Row() const {
     Accelerate(shown, (driving - row.aeroHp - row.rollHp) * kPoundMphOfHp / now_.mph);
     row.acceleration = shown.acceleration;
     return row;
+  }
+  if (now_.lastTimeStep > 0) {
+    // The first step of a gear is a part of one, or leads up to the table.
+    row.rpsRate = now_.lastSpeedStep / (speedFactor_ * kFeetASecondPerMph) / now_.lastTimeStep;
   }
   row.wheelForce = overallRatio_ * now_.torque * efficiency_ / rollRadiusFt_;
   if (now_.rpm > 0) {

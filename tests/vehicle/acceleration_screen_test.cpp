@@ -177,6 +177,76 @@ TEST_F(AccelerationScreenTest, AGearboxReachesTheClosedScreen) {
   EXPECT_EQ(screen().Shifts.Text2[1].text(), "1.9");
 }
 
+TEST_F(AccelerationScreenTest, WhatIsTypedForASwitchedOffOptionIsWrittenAfterARun) {
+  Open();
+  block().PrimaryDrive = block().ConverterSlippage = block().ConverterStallSpeed = 1;
+  block().TorqueMultiplier = block().ThrottleStopRPM = block().ThrottleStopTime = 1;
+  block().CVTRPM = block().CVTPowerLoss = 1;
+  block().NitrousMS[2] = {1, 1, 1, 1, 1};
+  block().NitrousMS[7] = {1, 1, 1, 1, 1};
+  AccelerationPage& page = screen().Page;
+  page.Text62.SetText("1.37");
+  page.Text41.SetText("9.5");
+  page.Text30.SetText("2600");
+  page.Text31.SetText("1.9");
+  page.Text79.SetText("4321");
+  page.Text80.SetText("0.7");
+  page.Text77.SetText("8800");
+  page.Text78.SetText("17");
+  screen().Stages.Text91[2].SetText("77.5");
+  screen().Stages.TimedText90[0].SetText("66.5");
+  screen().Shifts.Text32[11].SetText("1.5");
+  ASSERT_TRUE(screen().Command25.Click());
+  const std::string text = program_.shell().parameterFile().Compose().bytes;
+  for (const char* line :
+       {"\r\nPrimary Drive = 1.37\r\n", "\r\nConverter Slippage = 9.5\r\n",
+        "\r\nConverter Stall Speed = 2600\r\n", "\r\nTorque Multiplier = 1.9\r\n",
+        "\r\nThrottle Stop RPM = 4321\r\n", "\r\nThrottle Stop Time = 0.7\r\n",
+        "\r\nCVT RPM = 8800\r\n", "\r\nCVT Power Loss = 17\r\n", "\r\nTire Growth 11 = 1.5\r\n",
+        "\r\nNitrous MS = 9 77.5 1.0 100.0 1.0\r\n",
+        "\r\nNitrous MS = 66.5 0.0 100.0 0.0 0.0\r\n"}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line;
+  }
+  // Nor does a CVT's run lose what it does not need.
+  screen().Shifts.Text22[0].SetText("7650");
+  page.Text69.SetText("5450");
+  ASSERT_TRUE(screen().Command13.Click());
+  EXPECT_EQ(block().ShiftRPM[1], 7650);
+  EXPECT_EQ(block().LaunchRPM, 5450);
+}
+
+TEST_F(AccelerationScreenTest, WhatStandsInASwitchedOffOptionStopsNoRun) {
+  Open();
+  AccelerationPage& page = screen().Page;
+  for (Field* field :
+       {&page.Text62, &page.Text41, &page.Text30, &page.Text31, &page.Text79, &page.Text80,
+        &page.Text77, &page.Text78, &screen().Stages.Text93[0], &screen().Stages.TimedText94[3],
+        &screen().Shifts.Text13[9], &screen().Shifts.Text52[9], &screen().Shifts.Text2[9]}) {
+    field->SetText("none");
+  }
+  EXPECT_TRUE(screen().Command25.Click());
+  page.Text77.SetText("9000");
+  page.Text78.SetText("20");
+  page.Text69.SetText("");
+  screen().Shifts.Text2[0].SetText("");
+  EXPECT_TRUE(screen().Command13.Click());
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(AccelerationScreenTest, AGearsOwnRatioIsCheckedBeforeItsPlace) {
+  Open();
+  for (const int gear : {0, 1}) {
+    for (const char* ratio : {"-5", "1e-300", "1e300"}) {
+      const std::string before = screen().Shifts.Text2[gear].text();
+      screen().Shifts.Text2[gear].SetText(ratio);
+      host_.Answer(Button::OK);
+      EXPECT_FALSE(screen().Command25.Click());
+      EXPECT_EQ(screen().Shifts.Text2[gear].mark(), Mark::Error) << gear << ' ' << ratio;
+      screen().Shifts.Text2[gear].SetText(before);
+    }
+  }
+}
+
 /// A car's run as forces integrated in steps of 0.2 milliseconds give it, apart from the program.
 struct IntegratedRun {
   const char* file;
