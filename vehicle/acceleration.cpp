@@ -69,6 +69,8 @@ constexpr double kLeastRpmGap = 0.01;
 constexpr double kMostMph = 10000;
 
 constexpr double kNever = std::numeric_limits<double>::max();
+/// The stall speed without a converter: no engine speed is below it, 0 neither.
+constexpr double kNoStall = -1;
 /// No row was at this RPM.
 constexpr double kNoRow = -kNever;
 
@@ -274,7 +276,7 @@ class Run {
   double powerFactor_ = 0;   ///< horsepower at the wheels of RPM x torque
   double thrustFactor_ = 0;  ///< pounds of horsepower / RPM
   double shiftRpm_ = kNoShiftRpm;
-  double stallRpm_ = 0;  ///< 0 without a converter
+  double stallRpm_ = kNoStall;
 
   // The place in the table
   std::size_t index_ = 0;
@@ -355,7 +357,7 @@ void Run::ReadGearTables(std::size_t gear) {
   powerFactor_ = efficiency_ / kPowerOfTorque;
   thrustFactor_ = kPowerOfTorque * overallRatio_ / rollRadiusFt_;
   shiftRpm_ = gear < kShifts ? in_.shiftRpm[gear] : kNoShiftRpm;
-  stallRpm_ = in_.automatic ? in_.converterStallSpeed : 0;
+  stallRpm_ = in_.automatic && in_.converterStallSpeed > 0 ? in_.converterStallSpeed : kNoStall;
   nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
   ReadNitrous(static_cast<double>(gear + 1));
 }
@@ -921,10 +923,6 @@ void Require(bool holds, RunField field, std::size_t index, const char* reason) 
 void Require(bool holds, RunField field, const char* reason) {
   Require(holds, field, 0, reason);
 }
-
-constexpr const char* kMustBePositive = "must be above 0.";
-constexpr const char* kMustNotBeNegative = "must not be below 0.";
-constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
 
 void RequireNumber(double value, RunField field, std::size_t index = 0) {
   Require(IsUsable(value), field, index, kMustBeUsual);

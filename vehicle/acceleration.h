@@ -94,6 +94,9 @@ struct AccelerationInputs {
 inline constexpr double kLeastUsual = 1e-6;
 inline constexpr double kMostUsual = 1e9;
 inline constexpr const char* kMustBeUsual = "must be a number of usual size.";
+inline constexpr const char* kMustBePositive = "must be above 0.";
+inline constexpr const char* kMustNotBeNegative = "must not be below 0.";
+inline constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
 /// True for a number within them, of either sign; false for 0.
 bool IsOfUsualSize(double value);
 /// True for a number that is none too large; false for what is no number.
