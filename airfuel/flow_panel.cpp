@@ -10,6 +10,7 @@
 #include "core/units.h"
 #include "core/version.h"
 #include "graph/axis_growth.h"
+#include "graph/graph_again.h"
 
 namespace veldox {
 
@@ -35,8 +36,6 @@ constexpr const char* kImpossibleGraph =
     "The graph cannot be drawn: the values give numbers that are too large or none. Please check "
     "the flow tables and the valves.";
 constexpr const char* kAboveZero = "must be above 0.";
-constexpr const char* kNoGraphYet =
-    "There is no flow graph yet that could be drawn again. Please choose one of the others first.";
 
 /// The entry of the dialog's filter that a file belongs to, from 1.
 int FilterIndexOf(const std::filesystem::path& path) {
@@ -369,10 +368,7 @@ void FlowPanel::DrawLimits(double testVelocity, const FlowPlot& plot) {
 }
 
 void FlowPanel::GraphAgain() {
-  if (!lastGraph_->has_value()) {
-    screen().ShowHelp(kNoGraphYet);
-    return;
-  }
+  if (!lastGraph_->has_value()) RefuseGraphAgain("flow graph");
   Graph(**lastGraph_, true);
 }
 

@@ -3,7 +3,6 @@
 #include <array>
 #include <cmath>
 #include <string>
-#include <variant>
 
 #include "chassis/corner_weights.h"
 #include "core/screen_part.h"
@@ -107,24 +106,6 @@ class ChassisPart : public ScreenPart {
     const Corners values = ReadCorners(fields);
     RequireNoneNegative(fields, values);
     return values;
-  }
-
- private:
-  /// Takes the numbers of all fields of the screen that stand for shared values, so that none is
-  /// lost when a file is written or the screen opens anew. What is no number is left to the command
-  /// that needs it.
-  void TakeTyped() const {
-    for (Control* control : screen().controls()) {
-      if (control->kind() != ControlKind::Field) continue;
-      auto& field = static_cast<Field&>(*control);
-      if (!field.holds().isShared() || field.rule() == KeyRule::OutputOnly) continue;
-      if (!IsNumber(field.text(), mark())) continue;
-      // A value that is shown as it is keeps the digits behind those that are shown.
-      const Holds::Slot slot = field.holds().In(block());
-      auto* const* value = std::get_if<double*>(&slot);
-      if (value != nullptr && field.text() == FormatField(**value, mark())) continue;
-      ReadFields({&field});
-    }
   }
 };
 

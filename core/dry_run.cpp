@@ -6,6 +6,8 @@
 #include <limits>
 #include <utility>
 
+#include "core/differing_lines.h"
+
 namespace veldox {
 
 DryRun::DryRun(ProgramContext& context) : context_(context), marks_(context.block) {
@@ -84,7 +86,8 @@ std::string TellChange(const ControlChange& change) {
   };
   std::string line = control.kind() == ControlKind::Label ? std::string{} : control.PlainCaption();
   if (!line.empty()) line += ' ';
-  line += told(change.before) + " to " + told(change.after);
+  const auto [before, after] = DifferingLines(change.before, change.after);
+  line += told(before) + " to " + told(after);
   if (control.kind() == ControlKind::Field) {
     const auto& field = static_cast<const Field&>(control);
     const std::string_view unit = UnitSign(field.unit(), field.screen().metric());

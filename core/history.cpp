@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "core/differing_lines.h"
 #include "core/field_copy.h"
 #include "core/screen.h"
 #include "core/text.h"
@@ -44,7 +45,8 @@ std::string NameOf(const Control& control) {
 }
 
 std::string TellChange(const ControlChange& change) {
-  return NameOf(*change.control) + ": " + Told(change.before) + " to " + Told(change.after);
+  const auto [before, after] = DifferingLines(change.before, change.after);
+  return NameOf(*change.control) + ": " + Told(before) + " to " + Told(after);
 }
 
 }  // namespace

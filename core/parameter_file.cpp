@@ -16,6 +16,7 @@
 #include "core/notes.h"
 #include "core/numbers.h"
 #include "core/text.h"
+#include "core/torque_rows.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -67,23 +68,6 @@ constexpr int kProbedLines = 10;
 
 /// The most of a line that a message shows, in characters.
 constexpr std::size_t kShownCharacters = 500;
-
-/// Units in which the second number of a torque row may stand.
-enum class TorqueUnit { PoundFeet, Horsepower, NewtonMetres, Kilowatts, MetricHorsepower };
-
-struct TorqueKey {
-  std::string_view key;
-  TorqueUnit unit;
-};
-
-/// The first is today's, the others stand in files of earlier versions and hand-made ones.
-constexpr std::array<TorqueKey, 5> kTorqueKeys = {{
-    {"Acceleration", TorqueUnit::PoundFeet},
-    {"accelerat hp", TorqueUnit::Horsepower},
-    {"accelerat nm", TorqueUnit::NewtonMetres},
-    {"accelerat kw", TorqueUnit::Kilowatts},
-    {"accelerat ps", TorqueUnit::MetricHorsepower},
-}};
 
 /// A part of the grid's colour as files of earlier versions give it.
 struct ColorPartKey {
@@ -850,29 +834,6 @@ class ParameterFile::Reader {
     block_.AccelBsac[row] = numbers[6];
     ++block_.AccelRowCount;
     NoteRow(kTorqueKeys[0].key, block_.AccelRowCount);
-  }
-
-  static double TorqueInPoundFeet(double value, TorqueUnit unit, double rpm) {
-    const bool isPower = unit != TorqueUnit::PoundFeet && unit != TorqueUnit::NewtonMetres;
-    if (isPower && rpm == 0) {
-      throw CommandError(ErrorKind::DivisionByZero, "is a power at 0 RPM, which gives no torque.");
-    }
-    double torque = value;
-    switch (unit) {
-      case TorqueUnit::PoundFeet: break;
-      case TorqueUnit::Horsepower: torque = value * kRpmOfEqualTorqueAndPower / rpm; break;
-      case TorqueUnit::NewtonMetres: torque = value / 1.3558179; break;
-      case TorqueUnit::Kilowatts:
-        torque = (value / kKilowattsPerHorsepower) * kRpmOfEqualTorqueAndPower / rpm;
-        break;
-      case TorqueUnit::MetricHorsepower:
-        torque = (value * 0.9863) * kRpmOfEqualTorqueAndPower / rpm;
-        break;
-    }
-    if (!std::isfinite(torque)) {
-      throw CommandError(ErrorKind::Overflow, "is too large a torque.");
-    }
-    return torque;
   }
 
   void ReadRoadRow(std::string_view key, std::string_view value, std::int16_t& rows,

@@ -65,6 +65,12 @@ class ScreenPart {
   double Read(Field& field) const { return screen_.Read(field); }
   void ReadCount(std::int16_t& slot, Field& field) const { screen_.ReadCount(slot, field); }
   void ReadFields(std::initializer_list<Field*> fields) const { screen_.ReadFields(fields); }
+  /// Takes the numbers of fields that stand for shared values, whether a command needs them or not,
+  /// so that none is lost when a file is written or the screen opens anew. What is no number is
+  /// left to the command that needs it.
+  void TakeTyped(const std::vector<Field*>& fields) const;
+  /// The same of all fields of the screen.
+  void TakeTyped() const { TakeTyped(screen_.Fields()); }
   void ReadChoice(const ComboList& list) const { screen_.ReadChoice(list); }
   void Store(Field& field, double value, DividesBy divisors = {}) const {
     screen_.Store(field, value, divisors);

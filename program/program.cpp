@@ -68,6 +68,7 @@ Program::Program(Host& host)
   gearboxFinder.AddTaker(elapsedTime);
   gearboxFinder.AddTaker(gear);
   auto& acceleration = AddScreen<Form13>(static_cast<Grapher&>(*grapher_));
+  torques_ = &acceleration.Torques;
   gearboxFinder.AddTaker(acceleration);
   gear.SetGearboxFinder([this] { shell_->Choose(*Shell::FindMenuItem("Trans")); });
   AddScreen<Form20>().AddTaker(acceleration);
@@ -75,7 +76,7 @@ Program::Program(Host& host)
   AddTools();
   shell_->graphOptions.SetListener([this] { grapher_->OptionsChanged(); });
   grapher_->SetOptionListener([this] { shell_->graphOptions.ShowOptions(); });
-  shell_->SetReadListener([&acceleration] { acceleration.Torques.Follow(); });
+  shell_->SetReadListener([this] { torques_->Follow(); });
   // The grapher's own commands would draw over what another screen has put on its surface.
   shell_->SetOpenListener([this](Screen& screen) {
     if (&screen == grapher_) {
@@ -123,6 +124,7 @@ void Program::AddTools() {
 
 void Program::Start() {
   shell_->Start();
+  torques_->Follow();
   about_->SetLines(shell_->VersionLine(), shell_->DateLine());
   context_->history.Begin();
 }

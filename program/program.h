@@ -12,6 +12,8 @@
 
 namespace veldox {
 
+class TorqueTablePanel;
+
 /// The whole program but for its windows: makes all screens and wires them to the shell.
 /// Nothing else knows all screens.
 class Program {
@@ -39,6 +41,7 @@ class Program {
   std::vector<std::unique_ptr<Screen>> screens_;
   Form8* grapher_ = nullptr;
   Form15* about_ = nullptr;
+  TorqueTablePanel* torques_ = nullptr;
 };
 
 }  // namespace veldox

@@ -69,6 +69,10 @@ constexpr double kLeastRpmGap = 0.01;
 constexpr double kMostMph = 10000;
 
 constexpr double kNever = std::numeric_limits<double>::max();
+/// The stall speed without a converter: no engine speed is below it, 0 neither.
+constexpr double kNoStall = -1;
+/// No row was at this RPM.
+constexpr double kNoRow = -kNever;
 
 double DensityFactorOf(double trackPressure) {
   return trackPressure / (trackPressure > kLargestDensity ? kStandardPressure : kStandardDensity);
@@ -186,8 +190,8 @@ struct StepValues {
 
 /// The car after a step that it has taken.
 struct Moment : StepValues {
-  double lastTimeStep = 0;  ///< of the last step that took time
-  double lastRpmStep = 0;   ///< its rise in RPM
+  double lastTimeStep = 0;   ///< of the last step whose speed has really risen
+  double lastSpeedStep = 0;  ///< its rise in feet a second
   double elapsed = 0;
   double distance = 0;
   double limitedFeet = 0;  ///< where the tires limited the thrust last
@@ -238,6 +242,7 @@ class Run {
   bool RollOut();
 
   void WalkTo(double rpm, double step, double torqueStep);
+  void SetRpmStep(double step);
   double TableRpm(std::size_t i) const { return in_.tableRpm[i]; }
   double TableTorque(std::size_t i) const { return in_.tableTorque[i]; }
   std::size_t LastPoint() const { return in_.tableRpm.size() - 1; }
@@ -271,13 +276,14 @@ class Run {
   double powerFactor_ = 0;   ///< horsepower at the wheels of RPM x torque
   double thrustFactor_ = 0;  ///< pounds of horsepower / RPM
   double shiftRpm_ = kNoShiftRpm;
-  double stallRpm_ = 0;  ///< 0 without a converter
+  double stallRpm_ = kNoStall;
 
   // The place in the table
   std::size_t index_ = 0;
   double currentRpm_ = 0;
   double torqueNow_ = 0;
   double rpmStep_ = 0;
+  double leastSpeedStep_ = 0;  ///< feet a second; what is below is the rounding of equal RPM
 
   // Nitrous of the present gear
   ActiveStages stages_;
@@ -351,7 +357,7 @@ void Run::ReadGearTables(std::size_t gear) {
   powerFactor_ = efficiency_ / kPowerOfTorque;
   thrustFactor_ = kPowerOfTorque * overallRatio_ / rollRadiusFt_;
   shiftRpm_ = gear < kShifts ? in_.shiftRpm[gear] : kNoShiftRpm;
-  stallRpm_ = in_.automatic ? in_.converterStallSpeed : 0;
+  stallRpm_ = in_.automatic && in_.converterStallSpeed > 0 ? in_.converterStallSpeed : kNoStall;
   nitrousFactor_ = in_.nitrousAtWheels ? 1 : efficiencyRaw_;
   ReadNitrous(static_cast<double>(gear + 1));
 }
@@ -404,8 +410,10 @@ inline bool Run::Take(const StepValues& step) {
   if (dT > 0) {
     m.elapsed += dT;
     m.distance += dT * step.meanSpeedFps;
-    m.lastTimeStep = dT;
-    m.lastRpmStep = rpmStep_;
+    if (dV > leastSpeedStep_) {
+      m.lastTimeStep = dT;
+      m.lastSpeedStep = dV;
+    }
   }
   if (step.limited) m.limitedFeet = m.distance;
   return true;
@@ -499,7 +507,6 @@ RunRow Run::Row() const {
   row.nitrousHp = now_.nitrousHp;
   row.hoodPressure = now_.hoodPressure;
   row.engineHp = now_.power;
-  if (now_.lastTimeStep > 0) row.rpsRate = now_.lastRpmStep / now_.lastTimeStep;
   if (varies_) {
     if (!(now_.mph > 0)) return row;
     // The step was driven at its mean speed. The row tells of its own.
@@ -513,6 +520,10 @@ RunRow Run::Row() const {
     row.acceleration = shown.acceleration;
     return row;
   }
+  if (now_.lastTimeStep > 0) {
+    // The first step of a gear is a part of one, or leads up to the table.
+    row.rpsRate = now_.lastSpeedStep / (speedFactor_ * kFeetASecondPerMph) / now_.lastTimeStep;
+  }
   row.wheelForce = overallRatio_ * now_.torque * efficiency_ / rollRadiusFt_;
   if (now_.rpm > 0) {
     row.wheelTorque =
@@ -524,13 +535,14 @@ RunRow Run::Row() const {
 
 void Run::WriteChartRow() {
   const double at = varies_ ? now_.mph : now_.rpm;
-  if (at == lastRowAt_) return;
+  if (std::abs(at - lastRowAt_) <= rpmStep_ * kStepTolerance) return;
   lastRowAt_ = at;
   sink_.Row(Row());
 }
 
 void Run::ForceRow() {
   now_.acceleration = 0;
+  lastRowAt_ = kNoRow;
   WriteChartRow();
 }
 
@@ -541,11 +553,9 @@ void Run::ThrottleStop() {
   ReadGearOfStep();
   sink_.ThrottleStopStarts();
   const double before = now_.acceleration;
-  lastRowAt_ = now_.rpm - 1;
   ForceRow();
   now_.elapsed += in_.throttleStopTime;
   now_.distance += now_.speedFps * in_.throttleStopTime;
-  lastRowAt_ = now_.rpm - 2;
   ForceRow();
   now_.acceleration = before;
   sink_.ThrottleStopEnds();
@@ -578,6 +588,11 @@ void Run::Restart() {
   const int perInterval =
       std::clamp(kGearSamples / static_cast<int>(LastPoint()), 1, kMostIntervalSamples);
   sampleSteps_ = kSubSteps / perInterval;
+}
+
+void Run::SetRpmStep(double step) {
+  rpmStep_ = step;
+  leastSpeedStep_ = step * kStepTolerance * speedFactor_ * kFeetASecondPerMph;
 }
 
 void Run::WalkTo(double rpm, double step, double torqueStep) {
@@ -617,7 +632,7 @@ void Run::FindLaunch() {
 }
 
 bool Run::LaunchPhase() {
-  rpmStep_ = kLaunchStep;
+  SetRpmStep(kLaunchStep);
   const int everyStep = sampleSteps_;
   sampleSteps_ = kLaunchSampleSteps;
   for (double wheelRpm = kFirstWheelRpm; wheelRpm <= currentRpm_; wheelRpm += kLaunchStep) {
@@ -635,7 +650,7 @@ bool Run::LaunchPhase() {
 /// @return false where the thrust has ended before the gear
 bool Run::RunGear(bool shifts) {
   const double shiftRpm = shifts ? shiftRpm_ : kNever;
-  double stopRpm = shifts && in_.throttleStop && !stopDone_ ? in_.throttleStopRpm : kNever;
+  const bool stops = shifts && in_.throttleStop && !stopDone_;
   double rpm = currentRpm_, torque = torqueNow_;
   for (; index_ < LastPoint(); ++index_) {
     const double next = TableRpm(index_ + 1);
@@ -644,7 +659,8 @@ bool Run::RunGear(bool shifts) {
     const double torqueStep = rise / kSubSteps;
     const double tolerance = rpmStep * kStepTolerance;
     const double last = std::min(next, shiftRpm) + tolerance;
-    rpmStep_ = rpmStep;
+    double stopRpm = stops && !stopDone_ ? in_.throttleStopRpm - tolerance : kNever;
+    SetRpmStep(rpmStep);
     // An interval that the last one's step has passed over gives its rise all the same.
     if (rpm > next + tolerance) torque += rise;
     while (rpm <= last) {
@@ -677,6 +693,7 @@ std::optional<RunEnd> Run::ShiftGear(std::size_t to, bool pulls) {
   const auto stay = [&](RunEnd end) {
     now_ = before;
     ReadGearTables(gearOfStep_);
+    result_.refusedGear = static_cast<int>(to) + 1;
     return pulls ? end : RunEnd::Power;
   };
   now_.elapsed += time;
@@ -691,7 +708,7 @@ std::optional<RunEnd> Run::ShiftGear(std::size_t to, bool pulls) {
   std::size_t point = 0;
   while (point <= LastPoint() && TableRpm(point) * speedFactor_ < now_.mph) ++point;
   if (point > LastPoint()) {
-    if (pulls) sink_.GearTooShort(number, number + 1);
+    if (pulls) sink_.GearTooShort(static_cast<int>(gearOfStep_) + 1, number + 1);
     return stay(RunEnd::GearTooShort);
   }
   const bool belowTable = point == 0;
@@ -740,7 +757,7 @@ RunResult Run::EachGear() {
     currentRpm_ = TableRpm(0);
     torqueNow_ = TableTorque(0);
     now_.speedFps = currentRpm_ * speedFactor_ * kFeetASecondPerMph;
-    lastRowAt_ = -1;
+    lastRowAt_ = kNoRow;
     nextChartSpeed_ = nextChartMile_ = 0;
     RunGear(false);
   }
@@ -907,25 +924,17 @@ void Require(bool holds, RunField field, const char* reason) {
   Require(holds, field, 0, reason);
 }
 
-bool Usable(double value) {
-  return std::abs(value) <= kMostUsual;
-}  // no for what is no number
-
-constexpr const char* kMustBePositive = "must be above 0.";
-constexpr const char* kMustNotBeNegative = "must not be below 0.";
-constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
-
 void RequireNumber(double value, RunField field, std::size_t index = 0) {
-  Require(Usable(value), field, index, kMustBeUsual);
+  Require(IsUsable(value), field, index, kMustBeUsual);
 }
 void RequirePositive(double value, RunField field, std::size_t index = 0) {
   RequireNumber(value, field, index);
   Require(value > 0, field, index, kMustBePositive);
 }
 /// Positive, and large enough that a run comes to times and distances that can be told.
-void RequireUsual(double value, RunField field) {
-  RequirePositive(value, field);
-  Require(IsOfUsualSize(value), field, kMustBeUsual);
+void RequireUsual(double value, RunField field, std::size_t index = 0) {
+  RequirePositive(value, field, index);
+  Require(IsOfUsualSize(value), field, index, kMustBeUsual);
 }
 void RequireNotNegative(double value, RunField field, std::size_t index = 0) {
   RequireNumber(value, field, index);
@@ -947,7 +956,7 @@ void RequireTable(const AccelerationInputs& in) {
       throw RunInputError(field, i, reason + " in row " + std::to_string(i + 1) + ".");
     };
     if (!(rpm >= 0 && rpm <= kMostRpm)) refuse("must have an RPM from 0 to 1000000");
-    if (!Usable(in.tableTorque[i])) refuse("must have a torque of usual size");
+    if (!IsUsable(in.tableTorque[i])) refuse("must have a torque of usual size");
     if (i > 0 && !(rpm >= in.tableRpm[i - 1] + kLeastRpmGap)) {
       refuse("must be in ascending order by RPM, which it is not");
     }
@@ -973,7 +982,7 @@ void RequireCar(const AccelerationInputs& in) {
   if (!in.nitrous) return;
   for (std::size_t i = 0; i < kNitrousStages; ++i) {
     for (std::size_t k = 0; k < in.nitrousStages[i].size(); ++k) {
-      if (!Usable(in.nitrousStages[i][k])) {
+      if (!IsUsable(in.nitrousStages[i][k])) {
         throw RunInputError(RunField::Nitrous, i, kMustBeUsual).InColumn(k);
       }
     }
@@ -984,10 +993,10 @@ void RequireGears(const AccelerationInputs& in, RunKind kind) {
   const double primary = in.usesPrimaryDrive ? in.primaryDrive : 1;
   const double slip = in.automatic ? Kept(in.converterSlippage) : 1;
   const double inches = std::max(in.tireDiameter, 2 * in.tireRollingRadius);
-  RequirePositive(in.transRatio[0], RunField::TransRatio);
+  RequireUsual(in.transRatio[0], RunField::TransRatio);
   for (std::size_t i = 0; i < kGears && (i == 0 || in.transRatio[i] != 0); ++i) {
     const double ratio = in.transRatio[i];
-    RequirePositive(ratio, RunField::TransRatio, i);
+    RequireUsual(ratio, RunField::TransRatio, i);
     RequireLoss(in.gearLoss[i], RunField::GearLoss, i);
     RequireNumber(in.tireGrowth[i], RunField::TireGrowth, i);
     Require(in.tireGrowth[i] > -100, RunField::TireGrowth, i, "must be above -100 percent.");
@@ -1049,7 +1058,11 @@ std::string CaptionOf(RunField field, std::size_t index) {
 }
 
 bool IsOfUsualSize(double value) {
-  return std::abs(value) >= kLeastUsual && std::abs(value) <= kMostUsual;
+  return std::abs(value) >= kLeastUsual && IsUsable(value);
+}
+
+bool IsUsable(double value) {
+  return std::abs(value) <= kMostUsual;
 }
 
 std::string FurtherMarkName(std::size_t index) {

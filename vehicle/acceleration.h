@@ -94,8 +94,18 @@ struct AccelerationInputs {
 inline constexpr double kLeastUsual = 1e-6;
 inline constexpr double kMostUsual = 1e9;
 inline constexpr const char* kMustBeUsual = "must be a number of usual size.";
+inline constexpr const char* kMustBePositive = "must be above 0.";
+inline constexpr const char* kMustNotBeNegative = "must not be below 0.";
+inline constexpr const char* kMustBeLoss = "must be a loss from 0 to below 100 percent.";
 /// True for a number within them, of either sign; false for 0.
 bool IsOfUsualSize(double value);
+/// True for a number that is none too large; false for what is no number.
+bool IsUsable(double value);
+
+/// What is told of a car that never moves.
+inline constexpr const char* kDoesNotMove =
+    "The car does not move: the torque table gives no thrust beyond the losses, Tire Rolling "
+    "Resistance and the wind.";
 
 /// How a run goes through the table.
 enum class RunKind {
@@ -286,6 +296,7 @@ struct RunResult {
   double windDirection = 0;  ///< as it was used
   RunEnd end = RunEnd::Gearing;
   RunRest rest = RunRest::None;
+  int refusedGear = 0;  ///< that the run could not go on in; 0 for none
   double topSpeed = 0;  ///< MPH, the highest at which the car still gained speed
   double topSpeedRpm = 0;
   int topSpeedGear = 0;

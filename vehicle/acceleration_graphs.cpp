@@ -184,6 +184,9 @@ std::vector<GraphCurve> CurveSink::Curves() {
   return std::move(curves_);
 }
 
+constexpr const char* kStaysInRollout =
+    "The car does not get beyond the Rollout Distance, so that there is no time to graph.";
+
 /// The range of all points.
 AxisRange RangeOf(std::span<const GraphCurve> curves) {
   constexpr double kMost = std::numeric_limits<double>::max();
@@ -235,6 +238,14 @@ void SetAxes(GraphFrame& frame, const GraphKind& kind, std::span<const GraphCurv
   frame.zeroLine = range.yLow < 0;
 }
 
+/// @throws CommandError (InvalidArgument) for a run that there is nothing to draw of
+void RequireCurves(const RunPlot& plot) {
+  const bool moves = plot.result.end != RunEnd::NoThrust;
+  if (moves && !plot.curves.empty()) return;
+  const bool stays = !moves || !(plot.result.last.distance < 0);
+  throw CommandError(ErrorKind::InvalidArgument, stays ? kDoesNotMove : kStaysInRollout);
+}
+
 }  // namespace
 
 RunPlot PlotRun(RunGraph graph, const AccelerationInputs& inputs, const RunGraphLimits& limits,
@@ -244,6 +255,7 @@ RunPlot PlotRun(RunGraph graph, const AccelerationInputs& inputs, const RunGraph
   RunPlot plot;
   plot.result = SimulateRun(inputs, sink, kind.kind);
   plot.curves = sink.Curves();
+  RequireCurves(plot);
   SetAxes(plot.frame, kind, plot.curves, limits, coastGs && ShowsForce(graph) ? kCoastGs : 0);
   return plot;
 }

@@ -4,19 +4,14 @@
 #include <vector>
 
 #include "core/numbers.h"
-#include "vehicle/acceleration.h"
+#include "vehicle/field_bounds.h"
 #include "vehicle/road_load.h"
 #include "vehicle/torque_table.h"
 
 namespace veldox {
 
-namespace {
-
-constexpr const char* kAboveZero = "must be above 0.";
-
-}  // namespace
-
-AccelerationPage::AccelerationPage(Screen& screen) : ScreenPart(screen) {}
+AccelerationPage::AccelerationPage(Screen& screen, TorqueTablePanel& torques)
+    : ScreenPart(screen), torques_(torques) {}
 
 double AccelerationPage::ReadPrimaryDrive() {
   if (!Check2.on()) return 1;
@@ -36,6 +31,12 @@ void AccelerationPage::ShowDrag(bool withArea) {
 AccelerationPage::RoadLoad AccelerationPage::ReadRoadLoad() {
   ReadFields({&Text1, &Text64, &Text65, &Text73, &Text51, &Text66});
   const ParameterBlock& b = block();
+  RequireNotNegative(b.MPH, Text1);
+  RequireNotNegative(b.CoefficientofDrag, Text64);
+  RequireNotNegative(b.FrontalArea, Text65);
+  RequireNotNegative(b.TrackBP, Text73);
+  RequireNotNegative(b.CarWeight, Text51);
+  RequireNotNegative(b.TireRollingResistance, Text66);
   return {AeroHorsepower(b.MPH, b.CoefficientofDrag, b.FrontalArea, b.TrackBP),
           RollingHorsepower(b.CarWeight, b.TireRollingResistance, b.MPH)};
 }
@@ -55,6 +56,9 @@ void AccelerationPage::SolveTopSpeedPower() {
   const RoadLoad load = ReadRoadLoad();
   ReadFields({&Text28, &Text47, &Text67});
   const ParameterBlock& b = block();
+  RequireLoss(b.PercentRearEndPowerLoss, Text28);
+  RequireLoss(b.PercentDriveTrainPowerLoss, Text47);
+  RequireUsual(b.DynoCorrection, Text67);
   const double loss = b.PercentRearEndPowerLoss + b.PercentDriveTrainPowerLoss;
   if (!(loss < 100)) {
     FailAt(Text47, "\"% Rear End Power Loss\" and \"% Drive Train Power Loss\" add up to " +
@@ -68,6 +72,7 @@ void AccelerationPage::SolveTopSpeedPower() {
 
 void AccelerationPage::ShiftTorqueCurve() {
   ReadFields({&Text72});
+  RequireUsable(block().ShiftTorque, Text72);
   const double rise = std::nearbyint(block().ShiftTorque);
   std::vector<TorquePoint> points = TorquePoints(block());
   RequireTorquePoints(points);
@@ -84,8 +89,7 @@ void AccelerationPage::ShiftTorqueCurve() {
 
 void AccelerationPage::CorrectTorqueCurve() {
   ReadFields({&Text67});
-  Require(block().DynoCorrection > 0, Text67, kAboveZero);
-  Require(IsOfUsualSize(block().DynoCorrection), Text67, kMustBeUsual);
+  RequireUsual(block().DynoCorrection, Text67);
   std::vector<TorquePoint> points = TorquePoints(block());
   RequireTorquePoints(points);
   for (TorquePoint& point : points) {
@@ -104,9 +108,7 @@ void AccelerationPage::TakeTorqueCurve(const std::vector<TorquePoint>& points, F
     Require(std::isfinite(point[0]) && std::isfinite(point[1]) && std::isfinite(point[2]), field,
             "makes numbers of the torque table too large.");
   }
-  SetTorquePoints(block(), points);
-  // No field shows the table; the file would hold another one now.
-  screen().context().rules.NoteChange();
+  torques_.PutIntoUse(points);
   screen().ShowHelp("Torque table: " + TorquePeaksText(points, mark()) + '.');
 }
 

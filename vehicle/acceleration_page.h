@@ -5,6 +5,7 @@
 #include "core/panel.h"
 #include "core/screen_part.h"
 #include "vehicle/torque_table.h"
+#include "vehicle/torque_table_panel.h"
 
 namespace veldox {
 
@@ -13,7 +14,8 @@ namespace veldox {
 /// screens show.
 class AccelerationPage : public ScreenPart {
  public:
-  explicit AccelerationPage(Screen& screen);
+  /// @param torques  the panel that shows the torque table
+  AccelerationPage(Screen& screen, TorqueTablePanel& torques);
 
   void Open() { Frame1.Open(); }
   /// The primary drive where it is in use, else 1. @throws CommandError that names the field
@@ -39,6 +41,8 @@ class AccelerationPage : public ScreenPart {
   static void ScaleTorque(TorquePoint& point, double factor);
   /// Puts changed points into use. @param field  what a number that is too large is told by
   void TakeTorqueCurve(const std::vector<TorquePoint>& points, Field& field);
+
+  TorqueTablePanel& torques_;
 
  public:
   ScreenPage Frame1{screen(), "Frame1", "Acceleration / Top Speed"};
@@ -211,7 +215,7 @@ class AccelerationPage : public ScreenPart {
       "S(top On) Time during the simulated Run."};
   Field Text79{OptionsFrame, "Text79", "Throttle S RPM", "4000",
                Entry(KeyRule::Digits, Unit::RevolutionsPerMinute,
-                     Holds(&P::ThrottleStopRPM).NotShownAtOpening().ZeroKeepsText())};
+                     Holds(&P::ThrottleStopRPM).NotShownAtOpening())};
   Field Text80{OptionsFrame, "Text80", "Throttle S Time", "0.3",
                Entry(KeyRule::UnsignedReal, Unit::Seconds, Holds(&P::ThrottleStopTime))};
   CheckBox Check7{

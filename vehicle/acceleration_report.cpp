@@ -194,7 +194,7 @@ void ChartSink::AddSpeeds(const RunResult& result) {
     case RunEnd::Gearing: report_.Add("The gearing ends there: the car still gains speed"); break;
     case RunEnd::GearTooShort: report_.Add("The next gear is too short to go on"); break;
     case RunEnd::NextGear:
-      report_.Add("The run ends there: gear ").Add<"0">(result.topSpeedGear + 1);
+      report_.Add("The run ends there: gear ").Add<"0">(result.refusedGear);
       report_.Add(" cannot pull at this speed");
       break;
     case RunEnd::Distance: report_.Add("The chart ends there: the car still gains speed"); break;
@@ -202,7 +202,8 @@ void ChartSink::AddSpeeds(const RunResult& result) {
   }
   if (!varies_) report_.Add(", in gear ").Add<"0">(result.topSpeedGear);
   report_.Add(" at ").Add<"0">(result.topSpeedRpm).Add(" RPM.").EndLine();
-  if (result.tractionLimitedFeet) {
+  constexpr double kShownFeet = 0.05;
+  if (result.tractionLimitedFeet && *result.tractionLimitedFeet >= kShownFeet) {
     report_.Add("The tires (Coefficient of Mu) limit the run until ");
     report_.Add<"0.0">(*result.tractionLimitedFeet).Add(" feet.").EndLine();
   }
@@ -211,9 +212,7 @@ void ChartSink::AddSpeeds(const RunResult& result) {
 std::string ChartSink::Finish(const RunResult& result) {
   report_.EndLine();
   if (result.end == RunEnd::NoThrust) {
-    report_.AddLines(
-        {"The car does not move: the torque table gives no thrust beyond the losses, Tire Rolling "
-         "Resistance and the wind."});
+    report_.AddLines({kDoesNotMove});
     return report_.Finish();
   }
   const double reached = result.last.distance;

@@ -9,11 +9,6 @@ Form13::Form13(ProgramContext& context, Grapher& grapher)
     : Screen(context, "Form13", "Acceleration / Top Speed Calculator", "Acceleration"),
       grapher_(grapher) {}
 
-void Form13::CopyFromBlock() {
-  Screen::CopyFromBlock();
-  Torques.Follow();
-}
-
 void Form13::TakeShared() {
   if (!visible() && block().FormsCleared != 1) CopyShared();
 }

@@ -27,7 +27,6 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
 
   Control* HelpPlace() override { return &Text58; }
   ReportBox* ReportPane() override { return &Text58; }
-  void CopyFromBlock() override;
   void TakeGearbox(const Gearbox& gearbox) override;
   void TakeDrag(const DragFigures& figures) override;
 
@@ -42,7 +41,7 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
   void ShowRun(AccelerationChart chart);
 
  public:
-  AccelerationPage Page{*this};
+  AccelerationPage Page{*this, Torques};
   Command Command23{Page.WheelFrame, "Command23", "&Wheel Torque",
                     "Calculate Wheel Drive Torque, Wheel Thrust and G Force in first gear using "
                     "Torque, Trans Gear Ratio 1, Rear Gear Ratio, % Drive Train Power Loss, Tire "

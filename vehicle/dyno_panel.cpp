@@ -9,19 +9,18 @@
 
 #include "core/report.h"
 #include "core/text.h"
+#include "graph/graph_again.h"
+#include "vehicle/field_bounds.h"
 
 namespace veldox {
 namespace {
 
-constexpr const char* kAboveZero = "must be above 0.";
 constexpr const char* kImpossibleReport =
     "The report cannot be made: the values give numbers that are too large or none. Please check "
     "the torque table and the correction.";
 constexpr const char* kImpossibleGraph =
     "The graph cannot be drawn: the values give numbers that are too large or none. Please check "
     "the torque table, the car and the correction.";
-constexpr const char* kNoGraphYet =
-    "There is no graph yet that could be drawn again. Please choose one of the others first.";
 
 constexpr const char* kNoNitrous =
     "There is no Nitrous HP to graph: the Nitrous box is not checked.";
@@ -81,12 +80,14 @@ SheetCorrection DynoPanel::ReadCorrection() {
   Field& entered = inputs_.page.Text67;
   ReadFields({&entered, &Text83, &Text84, &Text85});
   const ParameterBlock& b = block();
-  Require(b.DynoCorrection > 0, entered, kAboveZero);
-  Require(IsOfUsualSize(b.DynoCorrection), entered, kMustBeUsual);
+  RequireUsual(b.DynoCorrection, entered);
   const SheetCorrection correction =
       CorrectionOfSheet(b.DynoCorrection, {b.DynoBP, b.DynoTemp, b.DynoVP});
   if (!correction.isEntered) {
-    Require(b.DynoBP > b.DynoVP, Text83, "must be above the Dyno Vapor Pressure.");
+    RequireUsual(b.DynoBP, Text83);
+    Require(b.DynoVP >= 0 && b.DynoVP < b.DynoBP, Text84,
+            "must be from 0 to below the Dyno Baro Pressure.");
+    RequireUsable(b.DynoTemp, Text85);
     // Far below every weather, the rule ends.
     constexpr double kAbsoluteZero = -460;
     Require(b.DynoTemp > kAbsoluteZero, Text85, "must be above -460.");
@@ -122,7 +123,9 @@ RunGraphLimits DynoPanel::ReadLimits(RunGraph graph) {
   if (!HasLimits(graph)) return {};
   ReadFields({&Text7, &Text39, &Text3});
   const ParameterBlock& b = block();
-  Require(b.GraphDynoXHigh > 0, Text7, kAboveZero);
+  RequireUsual(b.GraphDynoXHigh, Text7);
+  RequireUsable(b.GraphDynoYHigh, Text39);
+  RequireUsable(b.GraphDynoYLow, Text3);
   Require(b.GraphDynoYHigh > b.GraphDynoYLow, Text39, "must be above the Graph Y Low Value.");
   return {b.GraphDynoXHigh, b.GraphDynoYHigh, b.GraphDynoYLow};
 }
@@ -149,10 +152,7 @@ void DynoPanel::Draw(const Graph& graph) {
 }
 
 void DynoPanel::GraphAgain() {
-  if (*last_ == nullptr) {
-    screen().ShowHelp(kNoGraphYet);
-    return;
-  }
+  if (*last_ == nullptr) RefuseGraphAgain("graph");
   (*last_)(grapher_.HasGraph());
 }
 

@@ -168,7 +168,7 @@ class DynoPanel : public ScreenPart {
                      Holds(&P::DynoVP).ZeroKeepsText().NotConverted())};
   Field Text85{SheetFrame, "Text85", "Dyno Temperature", "95.5",
                Entry(KeyRule::SignedReal, Unit::Temperature,
-                     Holds(&P::DynoTemp).ZeroKeepsText().NotConverted())};
+                     Holds(&P::DynoTemp).NotShownAtOpening().NotConverted())};
   CheckBox Check9{SheetFrame, "Check9", "Compact Text Report",
                   "When Checked, fuel and air are left out of the Text Report."};
   CheckBox Check10{SheetFrame, "Check10", "Torque NM",

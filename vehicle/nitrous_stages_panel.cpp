@@ -25,11 +25,21 @@ Field& NitrousStagesPanel::Cell(std::size_t stage, std::size_t column) {
 }
 
 void NitrousStagesPanel::ReadStages() {
+  for (Field* cell : Cells()) ReadFields({cell});
+}
+
+void NitrousStagesPanel::KeepStages() {
+  TakeTyped(Cells());
+}
+
+std::vector<Field*> NitrousStagesPanel::Cells() {
+  std::vector<Field*> cells;
   for (std::size_t stage = 0; stage < kNitrousStages; ++stage) {
     for (std::size_t column = 0; column < std::tuple_size_v<NitrousStage>; ++column) {
-      ReadFields({&Cell(stage, column)});
+      cells.push_back(&Cell(stage, column));
     }
   }
+  return cells;
 }
 
 void NitrousStagesPanel::TakeStages() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "core/field_array.h"
 #include "core/panel.h"
 #include "core/screen_part.h"
@@ -26,11 +28,15 @@ class NitrousStagesPanel : public ScreenPart {
   const ScreenPage& page() const { return NitrousFrame; }
   /// Parses all stages into the shared values. @throws CommandError that names the field
   void ReadStages();
+  /// Takes the numbers of all stages for a run that needs none of them.
+  void KeepStages();
   /// A field of a stage, both counted from 0. @throws CommandError (IndexOutOfRange)
   Field& Cell(std::size_t stage, std::size_t column);
 
  private:
   void TakeStages();
+  /// The fields of all stages, stage by stage.
+  std::vector<Field*> Cells();
 
  public:
   ScreenPage NitrousFrame{screen(), "NitrousFrame", "Nitrous"};

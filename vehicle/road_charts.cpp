@@ -5,11 +5,11 @@
 #include <span>
 
 #include "core/report.h"
+#include "vehicle/field_bounds.h"
 
 namespace veldox {
 namespace {
 
-constexpr const char* kAboveZero = "must be above 0.";
 constexpr const char* kImpossibleChart =
     "The chart cannot be made: the values give numbers that are too large or none. Please check "
     "the road table, the weight, the gears and the tires.";
@@ -32,15 +32,13 @@ RoadCharts::RoadCharts(Screen& screen, RunInputs& inputs)
 
 double RoadCharts::ReadAboveZero(Field& field, double P::*value) {
   ReadFields({&field});
-  Require(block().*value > 0, field, kAboveZero);
-  Require(IsOfUsualSize(block().*value), field, kMustBeUsual);
+  RequireUsual(block().*value, field);
   return block().*value;
 }
 
 double RoadCharts::ReadPrimaryDrive() {
   const double primary = page_.ReadPrimaryDrive();
-  Require(primary > 0, page_.Text62, kAboveZero);
-  Require(IsOfUsualSize(primary), page_.Text62, kMustBeUsual);
+  RequireUsual(primary, page_.Text62);
   return primary;
 }
 
@@ -53,7 +51,7 @@ RoadCar RoadCharts::ReadDrag() {
   car.frontalArea = b.FrontalArea;
   car.trackPressure = b.TrackBP;
   for (Field* field : {&page_.Text64, &page_.Text65, &page_.Text73}) {
-    Require(Read(*field) >= 0, *field, "must not be below 0.");
+    RequireNotNegative(Read(*field), *field);
   }
   return car;
 }
@@ -61,11 +59,11 @@ RoadCar RoadCharts::ReadDrag() {
 RoadCar RoadCharts::ReadCar() {
   RoadCar car = ReadDrag();
   ReadFields({&page_.Text66, &page_.Text37, &page_.Text38});
-  if (block().WindDirection > kLastDirection) {
-    inputs_.Listener().windDirectionLowered(kLastDirection);
-  }
   const ParameterBlock& b = block();
-  Require(b.TireRollingResistance >= 0, page_.Text66, "must not be below 0.");
+  RequireNotNegative(b.TireRollingResistance, page_.Text66);
+  RequireUsable(b.WindSpeed, page_.Text37);
+  RequireUsable(b.WindDirection, page_.Text38);
+  if (b.WindDirection > kLastDirection) inputs_.Listener().windDirectionLowered(kLastDirection);
   car.rollingResistance = b.TireRollingResistance;
   car.headWind = b.WindSpeed * std::cos(b.WindDirection * kRadiansPerDegree);
   return car;
@@ -82,9 +80,10 @@ RoadGear RoadCharts::ReadGear() {
   const int row = gear.number - 1;
   RoadDrive& drive = gear.drive;
   drive.gear = shifts_.ReadTransRatio(row);
-  Require(drive.gear > 0, shifts_.Text2[row], kAboveZero);
+  RequireUsual(drive.gear, shifts_.Text2[row]);
   ReadFields({&shifts_.Text32[row]});
   drive.tireGrowth = block().TireGrowth[static_cast<std::size_t>(row)];
+  RequireUsable(drive.tireGrowth, shifts_.Text32[row]);
   Require(drive.tireGrowth > -kAllOfIt, shifts_.Text32[row], "must be above -100.");
   drive.rearGearRatio = ReadAboveZero(page_.Text18, &P::RearGearRatio);
   drive.tireDiameter = ReadAboveZero(page_.Text21, &P::TireDiameter);
@@ -112,7 +111,7 @@ void RoadCharts::ChartEngineSpeeds() {
   const RoadCar car = ReadCar();
   const RoadGear gear = ReadGear();
   const double rate = Read(page_.Text70);
-  Require(rate >= 0, page_.Text70, "must not be below 0.");
+  RequireNotNegative(rate, page_.Text70);
   Require(rate == 0 || IsOfUsualSize(rate), page_.Text70, kMustBeUsual);
   ShowChart([&] {
     const ParameterBlock& b = block();
@@ -134,14 +133,14 @@ void RoadCharts::ChartStartingLine() {
   StartingLine line;
   line.tireDiameter = ReadAboveZero(page_.Text21, &P::TireDiameter);
   line.firstGear = shifts_.ReadTransRatio(0);
-  Require(line.firstGear > 0, shifts_.Text2[0], kAboveZero);
+  RequireUsual(line.firstGear, shifts_.Text2[0]);
   line.rearGearRatio = ReadAboveZero(page_.Text18, &P::RearGearRatio);
   line.primaryDrive = ReadPrimaryDrive();
   line.automatic = page_.Check1.on();
   if (line.automatic) {
     ReadFields({&page_.Text41});
     line.converterSlippage = block().ConverterSlippage;
-    Require(line.converterSlippage < kAllOfIt, page_.Text41, "must be below 100.");
+    RequireLoss(line.converterSlippage, page_.Text41);
   }
   ShowChart([&] { return StartingLineChart(line, mark()); });
 }

@@ -24,6 +24,15 @@ constexpr double kLargestDensity = 0.1;     // of the track's air; what is above
       "Row " + std::to_string(row + 1) + " of the road table " + what + " than the row before it.");
 }
 
+/// @param what  of a row, such as "a speed"
+void RequireNoneNegative(std::span<const double> values, const char* what) {
+  const auto found = std::find_if(values.begin(), values.end(), [](double v) { return v < 0; });
+  if (found == values.end()) return;
+  throw CommandError(ErrorKind::InvalidArgument,
+                     "Row " + std::to_string(found - values.begin() + 1) +
+                         " of the road table has " + what + " below 0.");
+}
+
 constexpr std::array kEngineColumns{
     ChartColumn{"Mean", "RPM", 9},  ChartColumn{"Mean", "MPH", 9},
     ChartColumn{"", "Seconds", 10}, ChartColumn{"Acceler-", "ation HP", 11},
@@ -121,6 +130,7 @@ std::vector<RoadPower> RoadPowerOf(const RoadCar& car, std::span<const double> m
                            : "The road table has only one point: power comes from the rise "
                              "in speed to the next.");
   }
+  RequireNoneNegative(mph.first(points), "a speed");
   const double mass = car.weight / kFeetASecondSquared;
   std::vector<RoadPower> powers;
   powers.reserve(points - 1);
@@ -156,6 +166,7 @@ std::string RoadSpeedChart(const RoadCar& car, const RoadGear& gear, std::span<c
 
 std::string RoadEngineChart(const RoadCar& car, const RoadGear& gear, std::span<const double> rpm,
                             std::span<const double> seconds, double rate, DecimalMark mark) {
+  RequireNoneNegative(rpm, "an RPM");
   std::vector<double> mph;
   mph.reserve(rpm.size());
   for (const double speed : rpm) mph.push_back(gear.drive.MphAt(speed));

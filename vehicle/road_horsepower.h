@@ -49,8 +49,8 @@ struct RoadPower {
 };
 
 /// The power between each point of a road table and the next.
-/// @throws CommandError (InvalidArgument) for fewer than two points, and for a speed or a time that
-///         does not rise
+/// @throws CommandError (InvalidArgument) for fewer than two points, for a speed below 0, and for a
+///         speed or a time that does not rise
 std::vector<RoadPower> RoadPowerOf(const RoadCar& car, std::span<const double> mph,
                                    std::span<const double> seconds);
 

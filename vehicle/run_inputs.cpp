@@ -7,11 +7,19 @@
 namespace veldox {
 
 void RunInputs::ReadCar() {
+  KeepOptions();
   ReadFields({&page.Text18, &page.Text21, &page.Text49, &page.Text28, &page.Text51, &page.Text64,
               &page.Text65, &page.Text66, &page.Text73, &page.Text37, &page.Text38, &page.Text29,
               &page.Text42, &page.Text67, &page.Text12});
   page.ReadPrimaryDrive();
   if (page.Check3.on()) stages.ReadStages();
+}
+
+void RunInputs::KeepOptions() {
+  TakeTyped({&page.Text62, &page.Text41, &page.Text30, &page.Text31, &page.Text69, &page.Text77,
+             &page.Text78, &page.Text79, &page.Text80});
+  stages.KeepStages();
+  shifts.KeepGearTables();
 }
 
 AccelerationInputs RunInputs::ReadRun() {

@@ -50,6 +50,9 @@ class RunInputs : public ScreenPart {
   [[noreturn]] void Raise(const RunInputError& error);
   /// Reads what runs of both kinds need.
   void ReadCar();
+  /// Takes what was typed for the options, those that are switched off among them: a run needs none
+  /// of their fields, and loses none.
+  void KeepOptions();
   /// What of the shared values and the boxes a run takes.
   AccelerationInputs Inputs();
   /// Null for the torque table, which no field shows.

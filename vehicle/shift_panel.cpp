@@ -26,17 +26,34 @@ double ShiftPanel::ReadTransRatio(int gear) {
 }
 
 void ShiftPanel::ReadGearTables() {
-  double below = 0;
-  bool ended = false;
+  double below = kMostUsual;
   for (int i = 0; i < kRunGears; ++i) {
     const double ratio = ReadTransRatio(i);
-    ended = ended || ratio == 0;
-    Require(ended || i == 0 || ratio <= below, Text2[i],
-            "must not be above the ratio of the gear below it.");
+    if (ratio == 0 && i > 0) {
+      // Nobody drives in the gears behind the gearbox.
+      TakeTyped(FieldsFrom(i));
+      return;
+    }
+    Require(ratio > 0, Text2[i], "must be above 0.");
+    Require(IsOfUsualSize(ratio), Text2[i], kMustBeUsual);
+    Require(ratio <= below, Text2[i], "must not be above the ratio of the gear below it.");
     below = ratio;
     ReadFields({&Text32[i], &Text13[i]});
     if (i < kRunGears - 1) ReadFields({&Text22[i], &Text52[i]});
   }
+}
+
+void ShiftPanel::KeepGearTables() {
+  TakeTyped(FieldsFrom(0));
+}
+
+std::vector<Field*> ShiftPanel::FieldsFrom(int gear) {
+  std::vector<Field*> fields;
+  for (int i = gear; i < kRunGears; ++i) {
+    fields.insert(fields.end(), {&Text2[i], &Text32[i], &Text13[i]});
+    if (i < kRunGears - 1) fields.insert(fields.end(), {&Text22[i], &Text52[i]});
+  }
+  return fields;
 }
 
 void ShiftPanel::ShowRatios() {

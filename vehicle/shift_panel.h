@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "core/field_array.h"
 #include "core/panel.h"
 #include "core/screen_part.h"
@@ -24,10 +26,13 @@ class ShiftPanel : public ScreenPart {
 
   void Open();
   const ScreenPage& page() const { return Frame4; }
-  /// Parses all gears and shifts into the shared values.
+  /// Parses all gears and shifts of the gearbox into the shared values, and takes the numbers of
+  /// those behind it.
   /// @throws CommandError that names the field, for a gear that is shorter than the one below it
   ///         among the rest
   void ReadGearTables();
+  /// Takes the numbers of all gears and shifts for a run that needs none of them.
+  void KeepGearTables();
   /// Parses the ratio of a gear, counted from 0. @throws CommandError (InvalidArgument) for 0
   double ReadTransRatio(int gear);
   /// Shows the ratios of the shared values as changed, in place of what was typed.
@@ -35,6 +40,8 @@ class ShiftPanel : public ScreenPart {
 
  private:
   bool IsInGearbox(int gear) const;
+  /// The fields of a gear, counted from 0, and of those behind it.
+  std::vector<Field*> FieldsFrom(int gear);
   void Close() { screen().pages().front()->Open(); }
 
  public:

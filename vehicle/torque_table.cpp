@@ -6,6 +6,7 @@
 #include "core/error.h"
 #include "core/report.h"
 #include "core/text.h"
+#include "core/torque_rows.h"
 #include "core/units.h"
 
 namespace veldox {
@@ -13,7 +14,6 @@ namespace veldox {
 namespace {
 
 constexpr std::string_view kBlanks = " \t;";
-constexpr std::string_view kFileKey = "Acceleration";
 
 [[noreturn]] void Refuse(const std::string& what) {
   throw CommandError(ErrorKind::InvalidArgument, what);
@@ -47,9 +47,13 @@ NumberPattern PatternOfColumn(const std::vector<TorquePoint>& points, std::size_
 
 /// Reads one line. @param line  without its line break, and not empty
 TorquePoint ReadPoint(std::string_view line, DecimalMark mark) {
-  if (StartsIgnoringCase(line, kFileKey)) {
-    line = Trim(line.substr(kFileKey.size()));
+  TorqueUnit unit = TorqueUnit::PoundFeet;
+  for (const TorqueKey& key : kTorqueKeys) {
+    if (!StartsIgnoringCase(line, key.key)) continue;
+    unit = key.unit;
+    line = Trim(line.substr(key.key.size()));
     if (line.starts_with('=')) line.remove_prefix(1);
+    break;
   }
   TorquePoint point{};
   std::size_t count = 0;
@@ -63,6 +67,7 @@ TorquePoint ReadPoint(std::string_view line, DecimalMark mark) {
     from = std::min(line.find_first_not_of(kBlanks, end), line.size());
   }
   if (count < 2) Refuse("needs RPM and torque.");
+  point[1] = TorqueInPoundFeet(point[1], unit, point[0]);
   return point;
 }
 

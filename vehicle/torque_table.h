@@ -30,8 +30,8 @@ void RequireTorquePoints(const std::vector<TorquePoint>& points);
 std::string TorqueTableText(const std::vector<TorquePoint>& points, DecimalMark mark);
 
 /// Reads lines of RPM, torque and up to five more numbers, parted by blanks, tabs or semicolons;
-/// lines of a parameter file ("Acceleration = 5000 700") among them. Empty lines and those that
-/// begin with a semicolon say nothing.
+/// lines of a parameter file ("Acceleration = 5000 700", "Accelerat HP = 5000 666") among them.
+/// Empty lines and those that begin with a semicolon say nothing.
 /// @throws CommandError (InvalidArgument, NotANumber) that tells the line
 std::vector<TorquePoint> ReadTorqueTable(std::string_view text, DecimalMark mark);
 

@@ -5,20 +5,32 @@ namespace veldox {
 TorqueTablePanel::TorqueTablePanel(Screen& screen) : ScreenPart(screen) {}
 
 void TorqueTablePanel::Open() {
-  Follow();
   TorqueFrame.Open();
   TorqueText.Focus();
 }
 
 void TorqueTablePanel::Follow() {
-  if (TorqueText.text() == *shown_ && block().FormsCleared != 1) ShowTable();
+  if (TorqueText.text() == *shown_ && block().FormsCleared != 1) {
+    ShowTable();
+  } else {
+    TellPeaks();
+  }
+}
+
+void TorqueTablePanel::PutIntoUse(const std::vector<TorquePoint>& points) {
+  SetTorquePoints(block(), points);
+  screen().context().rules.NoteChange();
+  Follow();
 }
 
 void TorqueTablePanel::ShowTable() {
-  const std::vector<TorquePoint> points = TorquePoints(block());
-  shown_ = TorqueTableText(points, mark());
+  shown_ = TorqueTableText(TorquePoints(block()), mark());
   TorqueText.SetText(shown_);
-  TorquePeaks.SetCaption("In use: " + TorquePeaksText(points, mark()) + '.');
+  TellPeaks();
+}
+
+void TorqueTablePanel::TellPeaks() {
+  TorquePeaks.SetCaption("In use: " + TorquePeaksText(TorquePoints(block()), mark()) + '.');
 }
 
 void TorqueTablePanel::TakeTable() {
@@ -31,8 +43,7 @@ void TorqueTablePanel::TakeTable() {
     TorqueText.SetMark(Mark::Error);
     throw;
   }
-  SetTorquePoints(block(), points);
-  screen().context().rules.NoteChange();
+  PutIntoUse(points);
   ShowTable();
 }
 

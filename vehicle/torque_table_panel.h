@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/kept.h"
 #include "core/panel.h"
@@ -18,12 +19,17 @@ class TorqueTablePanel : public ScreenPart {
 
   void Open();
   const ScreenPage& page() const { return TorqueFrame; }
-  /// Shows the table anew where the panel shows an older one and nobody has edited it since.
+  /// Follows the table of the shared values, which has changed: the text too, unless somebody has
+  /// edited it.
   void Follow();
+  /// Puts points into use in place of those there were, and follows.
+  /// @throws CommandError (InvalidArgument) for what is no table
+  void PutIntoUse(const std::vector<TorquePoint>& points);
 
  private:
   void TakeTable();
   void ShowTable();
+  void TellPeaks();
   void Close() { screen().pages().front()->Open(); }
 
   Kept<std::string> shown_{screen()};  ///< the table as the text was made of it

@@ -110,6 +110,45 @@ TEST(AccelerationReport, EngineBelowTheTableIsToldBeforeTheChange) {
                 "1 -> 2^\r\n"));
 }
 
+TEST(AccelerationReport, AGearThatCannotPullIsTheOneThatWasNotEntered) {
+  SampleCar car = test::StartCar();
+  car.inputs.rollingResistance = 0.2;
+  car.inputs.transRatio = {3.25, 2.25, 0.2};
+  // The second gear's shift lies behind when it is entered: it is passed without a step.
+  car.inputs.shiftRpm[1] = 5500;
+  const std::string report = ChartOf(car);
+  EXPECT_EQ(CountOf(report, ">>>>--- Gear Change "), 1U);
+  EXPECT_THAT(report,
+              HasSubstr("The run ends there: gear 3 cannot pull at this speed, in gear 1 "));
+}
+
+TEST(AccelerationReport, AGearTooShortBehindAPassedOneIsToldInTheGearOfTheLastStep) {
+  SampleCar car = test::StartCar();
+  car.inputs.shiftRpm[1] = 5500;
+  car.inputs.tireGrowth[2] = -80;
+  EXPECT_THAT(ChartOf(car),
+              HasSubstr("The run ends in gear 1: the Trans Gear Ratio of gear 3 is "));
+}
+
+TEST(AccelerationReport, TiresThatOnlySlipAtTheLineAreNotTold) {
+  SampleCar car = test::StartCar();
+  car.inputs.rollout = 0;
+  car.inputs.launchRpm = 5000;
+  // The tires hold all of the thrust but a fiftieth of a pound, which the air takes within an inch.
+  const double held = 3.25 * 4.1 * 700 * 0.94 * 0.935 - 0.015 * 3500 - 0.02;
+  double low = 1, high = 5;
+  for (int i = 0; i < 60; ++i) {
+    const double mu = (low + high) / 2;
+    (TractionLimit(car.inputs.carWeight, mu) < held ? low : high) = mu;
+  }
+  car.inputs.frictionMu = low;
+  car.torque.assign(car.torque.size(), 700);
+  const std::string report = ChartOf(car);
+  EXPECT_THAT(report, Not(HasSubstr("until 0.0 feet")));
+  car.inputs.frictionMu = 1.2;
+  EXPECT_THAT(ChartOf(car), HasSubstr("limit the run until "));
+}
+
 TEST(AccelerationReport, AGearTooShortIsToldInWords) {
   SampleCar car = test::StartCar();
   car.inputs.tireGrowth[1] = -60;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/dry_run.h"
 #include "core/parameter_file.h"
 #include "program/program.h"
 #include "tests/support/test_host.h"
@@ -18,6 +19,10 @@ class AccelerationScreenTest : public testing::Test {
   ParameterBlock& block() { return program_.context().block; }
   void ReadFile(const std::string& name) {
     program_.shell().parameterFile().ReadParameterFile(std::string(VELDOX_SOURCE_DIR) + '/' + name);
+  }
+
+  void ReadBytes(const std::string& bytes) {
+    program_.shell().parameterFile().ReadBytes(bytes, "car.prm");
   }
 
   TestHost host_;
@@ -133,12 +138,12 @@ TEST_F(AccelerationScreenTest, TheTorquePanelFollowsTheTableUnlessItWasEdited) {
   panel.Open();
   panel.TorqueText.Edit("3000 300\r\n4000 310");
   block().AccelTorque[0] = 701;
-  panel.Open();
+  panel.Follow();
   EXPECT_EQ(panel.TorqueText.text(), "3000 300\r\n4000 310") << "what was typed is not lost";
   EXPECT_TRUE(panel.ShowTorque.Click());
   EXPECT_NE(panel.TorqueText.text().find("701"), std::string::npos);
   block().AccelTorque[0] = 702;
-  panel.Open();
+  panel.Follow();
   EXPECT_NE(panel.TorqueText.text().find("702"), std::string::npos);
 }
 
@@ -153,10 +158,151 @@ TEST_F(AccelerationScreenTest, TheTorquePanelShowsTheTableOfAFileThatIsRead) {
             "power 417.6 HP at 3000 RPM.");
 }
 
+TEST_F(AccelerationScreenTest, AStepHoldsTheTorqueTableAndItsText) {
+  Open();
+  History& history = program_.context().history;
+  const TorqueTablePanel& panel = screen().Torques;
+  const std::string before = panel.TorqueText.text();
+  const std::string peaks = panel.TorquePeaks.caption();
+  EXPECT_NE(before.find("     5000        700"), std::string::npos) << before;
+  screen().Page.Text72.Edit("-500");
+  EXPECT_TRUE(screen().Page.Command8.Click());
+  const std::string after = panel.TorqueText.text();
+  EXPECT_NE(after.find("     4500   630.0000"), std::string::npos) << after;
+  ASSERT_EQ(history.done(), 2U);
+  EXPECT_EQ(history.Told()[1],
+            "Shift Torq Data: RPM and Torque of each point: 5000 700 to 4500 630.0000");
+  // Looking at it is no step, and changes nothing that a later one would put back.
+  EXPECT_TRUE(screen().TorqueTable.Click());
+  EXPECT_EQ(history.done(), 2U);
+  history.Undo();
+  EXPECT_EQ(block().AccelRpm[0], 5000);
+  EXPECT_EQ(panel.TorqueText.text(), before);
+  EXPECT_EQ(panel.TorquePeaks.caption(), peaks);
+  EXPECT_TRUE(screen().Torques.TakeTorque.Click()) << "the table that is shown is in use";
+  EXPECT_EQ(block().AccelRpm[0], 5000);
+  EXPECT_EQ(history.done(), 1U);
+  history.Redo();
+  EXPECT_EQ(block().AccelRpm[0], 4500);
+  EXPECT_EQ(panel.TorqueText.text(), after);
+}
+
+TEST_F(AccelerationScreenTest, AStepThatReadsAFileHoldsTheTorqueText) {
+  History& history = program_.context().history;
+  const TorqueTablePanel& panel = screen().Torques;
+  const std::string before = panel.TorqueText.text();
+  host_.Answer(Button::OK);  // of the records read, with the screen closed
+  program_.shell().OpenFile(std::string(VELDOX_SOURCE_DIR) + "/tests/scripts/cars/truck.prm");
+  EXPECT_NE(panel.TorqueText.text().find("     1800        865"), std::string::npos);
+  history.Undo();
+  EXPECT_EQ(block().AccelRpm[0], 5000);
+  EXPECT_EQ(panel.TorqueText.text(), before);
+  history.Redo();
+  EXPECT_NE(panel.TorqueText.text().find("     1800        865"), std::string::npos);
+}
+
+TEST_F(AccelerationScreenTest, APreviewTellsWhatBecomesOfTheTorqueTable) {
+  Open();
+  screen().Page.Text72.SetText("-500");
+  screen().Page.Text67.SetText("1.25");
+  Preview preview = PreviewOf(screen().Page.Command8);
+  ASSERT_EQ(preview.changes.size(), 2U);
+  EXPECT_EQ(preview.changes[0].control, &screen().Torques.TorqueText);
+  const auto fits = [](const std::string& line) { return line.size() < 120; };
+  EXPECT_EQ(TellPreview(preview, fits).substr(0, 58),
+            "RPM and Torque of each point 5000 700 to 4500 630.0000, an");
+  preview = PreviewOf(screen().Page.Command14);
+  EXPECT_EQ(TellPreview(preview, fits).substr(0, 52),
+            "RPM and Torque of each point 5000 700 to 5000 560.0,");
+}
+
+TEST_F(AccelerationScreenTest, TheTorquePanelIsEmptiedByClearAndPutBack) {
+  Open();
+  TorqueTablePanel& panel = screen().Torques;
+  const std::string before = panel.TorqueText.text();
+  host_.Answer(Button::OK);
+  host_.Answer(Button::OK);
+  program_.shell().Choose(*Shell::FindMenuItem("Clear"));
+  EXPECT_EQ(panel.TorqueText.text(), "");
+  EXPECT_TRUE(screen().TorqueTable.Click());
+  EXPECT_EQ(panel.TorqueText.text(), "");
+  program_.context().history.Undo();
+  EXPECT_EQ(panel.TorqueText.text(), before);
+}
+
+TEST_F(AccelerationScreenTest, AZeroOfAFileIsShownWhereItIsANumberOfItsOwn) {
+  ReadBytes("Dyno Temp = 0.0\r\nThrottle Stop RPM = 0\r\nLaunch RPM = 0\r\n");
+  Open();
+  EXPECT_EQ(screen().Dyno.Text85.text(), "0.0");
+  EXPECT_EQ(screen().Page.Text79.text(), "0");
+  EXPECT_EQ(screen().Page.Text69.text(), "5200");
+  ReadBytes("Dyno Temp = 61.5\r\nThrottle Stop RPM = 3900\r\n");
+  EXPECT_EQ(screen().Dyno.Text85.text(), "61.5");
+  ReadBytes("Dyno Temp = 0.0\r\nThrottle Stop RPM = 0\r\n");
+  EXPECT_EQ(screen().Dyno.Text85.text(), "0.0");
+  EXPECT_EQ(screen().Page.Text79.text(), "0");
+  const std::string text = program_.shell().parameterFile().Compose().bytes;
+  EXPECT_NE(text.find("\r\nDyno Temp = 0.0\r\n"), std::string::npos);
+  EXPECT_NE(text.find("\r\nThrottle Stop RPM = 0\r\n"), std::string::npos);
+}
+
+TEST_F(AccelerationScreenTest, NumbersBeyondAllCarsAreRefusedAtTheirFields) {
+  Open();
+  AccelerationPage& page = screen().Page;
+  block().RoadMphRowCount = block().RoadRpmRowCount = 3;
+  for (std::size_t i = 0; i < 3; ++i) {
+    block().RoadMph[i] = 20 + 10 * static_cast<double>(i);
+    block().RoadRpm[i] = 3000 + 500 * static_cast<double>(i);
+    block().RoadMphTime[i] = block().RoadRpmTime[i] = static_cast<double>(i);
+  }
+  RoadCharts& roads = screen().Roads;
+  struct Case {
+    Command& command;
+    std::vector<Field*> fields;
+  };
+  page.Check1.SetOn(true);
+  const std::vector<Field*> drag{&page.Text64, &page.Text65, &page.Text73, &page.Text51};
+  const std::vector<Field*> drive{&page.Text66,
+                                  &page.Text37,
+                                  &page.Text18,
+                                  &page.Text21,
+                                  &screen().Shifts.Text2[0],
+                                  &screen().Shifts.Text32[0]};
+  const Case cases[] = {
+      {roads.Command26, drag},
+      {roads.Command26, drive},
+      {roads.Command27, drag},
+      {roads.Command27, drive},
+      {roads.Command29, drag},
+      {roads.Command32, {&page.Text41, &page.Text21, &screen().Shifts.Text2[0]}},
+      {page.Command17, drag},
+      {page.Command17, {&page.Text1, &page.Text66, &page.Text28, &page.Text47, &page.Text67}},
+      {page.Command8, {&page.Text72}}};
+  for (const Case& tested : cases) {
+    ASSERT_TRUE(tested.command.name() == "Command8" || tested.command.Run())
+        << tested.command.name();
+    for (Field* field : tested.fields) {
+      SCOPED_TRACE(tested.command.name() + ' ' + field->name());
+      const std::string before = field->text();
+      field->SetText("1e300");
+      host_.Answer(Button::OK);
+      screen().Page.Open();
+      EXPECT_FALSE(tested.command.Run());
+      EXPECT_EQ(field->mark(), Mark::Error);
+      field->SetText(before);
+    }
+  }
+  page.Text41.SetText("-2");
+  host_.Answer(Button::OK);
+  EXPECT_FALSE(roads.Command32.Run());
+  EXPECT_EQ(page.Text41.mark(), Mark::Error);
+}
+
 TEST_F(AccelerationScreenTest, ATableThatWasOnlyLookedAtKeepsAllItsDigits) {
   Open();
   block().AccelTorque[0] = 700.123456789;
-  screen().Torques.Open();
+  screen().Torques.Follow();
+  EXPECT_TRUE(screen().TorqueTable.Click());
   EXPECT_TRUE(screen().Torques.TakeTorque.Click());
   EXPECT_EQ(block().AccelTorque[0], 700.123456789);
 }
@@ -175,6 +321,76 @@ TEST_F(AccelerationScreenTest, AGearboxReachesTheClosedScreen) {
   EXPECT_FALSE(screen().Page.Check2.on());
   Open();
   EXPECT_EQ(screen().Shifts.Text2[1].text(), "1.9");
+}
+
+TEST_F(AccelerationScreenTest, WhatIsTypedForASwitchedOffOptionIsWrittenAfterARun) {
+  Open();
+  block().PrimaryDrive = block().ConverterSlippage = block().ConverterStallSpeed = 1;
+  block().TorqueMultiplier = block().ThrottleStopRPM = block().ThrottleStopTime = 1;
+  block().CVTRPM = block().CVTPowerLoss = 1;
+  block().NitrousMS[2] = {1, 1, 1, 1, 1};
+  block().NitrousMS[7] = {1, 1, 1, 1, 1};
+  AccelerationPage& page = screen().Page;
+  page.Text62.SetText("1.37");
+  page.Text41.SetText("9.5");
+  page.Text30.SetText("2600");
+  page.Text31.SetText("1.9");
+  page.Text79.SetText("4321");
+  page.Text80.SetText("0.7");
+  page.Text77.SetText("8800");
+  page.Text78.SetText("17");
+  screen().Stages.Text91[2].SetText("77.5");
+  screen().Stages.TimedText90[0].SetText("66.5");
+  screen().Shifts.Text32[11].SetText("1.5");
+  ASSERT_TRUE(screen().Command25.Click());
+  const std::string text = program_.shell().parameterFile().Compose().bytes;
+  for (const char* line :
+       {"\r\nPrimary Drive = 1.37\r\n", "\r\nConverter Slippage = 9.5\r\n",
+        "\r\nConverter Stall Speed = 2600\r\n", "\r\nTorque Multiplier = 1.9\r\n",
+        "\r\nThrottle Stop RPM = 4321\r\n", "\r\nThrottle Stop Time = 0.7\r\n",
+        "\r\nCVT RPM = 8800\r\n", "\r\nCVT Power Loss = 17\r\n", "\r\nTire Growth 11 = 1.5\r\n",
+        "\r\nNitrous MS = 9 77.5 1.0 100.0 1.0\r\n",
+        "\r\nNitrous MS = 66.5 0.0 100.0 0.0 0.0\r\n"}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line;
+  }
+  // Nor does a CVT's run lose what it does not need.
+  screen().Shifts.Text22[0].SetText("7650");
+  page.Text69.SetText("5450");
+  ASSERT_TRUE(screen().Command13.Click());
+  EXPECT_EQ(block().ShiftRPM[1], 7650);
+  EXPECT_EQ(block().LaunchRPM, 5450);
+}
+
+TEST_F(AccelerationScreenTest, WhatStandsInASwitchedOffOptionStopsNoRun) {
+  Open();
+  AccelerationPage& page = screen().Page;
+  for (Field* field :
+       {&page.Text62, &page.Text41, &page.Text30, &page.Text31, &page.Text79, &page.Text80,
+        &page.Text77, &page.Text78, &screen().Stages.Text93[0], &screen().Stages.TimedText94[3],
+        &screen().Shifts.Text13[9], &screen().Shifts.Text52[9], &screen().Shifts.Text2[9]}) {
+    field->SetText("none");
+  }
+  EXPECT_TRUE(screen().Command25.Click());
+  page.Text77.SetText("9000");
+  page.Text78.SetText("20");
+  page.Text69.SetText("");
+  screen().Shifts.Text2[0].SetText("");
+  EXPECT_TRUE(screen().Command13.Click());
+  EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(AccelerationScreenTest, AGearsOwnRatioIsCheckedBeforeItsPlace) {
+  Open();
+  for (const int gear : {0, 1}) {
+    for (const char* ratio : {"-5", "1e-300", "1e300"}) {
+      const std::string before = screen().Shifts.Text2[gear].text();
+      screen().Shifts.Text2[gear].SetText(ratio);
+      host_.Answer(Button::OK);
+      EXPECT_FALSE(screen().Command25.Click());
+      EXPECT_EQ(screen().Shifts.Text2[gear].mark(), Mark::Error) << gear << ' ' << ratio;
+      screen().Shifts.Text2[gear].SetText(before);
+    }
+  }
 }
 
 /// A car's run as forces integrated in steps of 0.2 milliseconds give it, apart from the program.

@@ -356,6 +356,52 @@ TEST(Acceleration, ThrottleStopKeepsTheSpeed) {
   EXPECT_NEAR(before.rpm, 7000, 1.25);
 }
 
+TEST(Acceleration, AThrottleStopOnAStepStopsAtThatStep) {
+  SampleCar car = test::StartCar();
+  car.rpm = {4400, 4730, 5280};
+  car.torque = {700, 710, 720};
+  car.inputs.transRatio = {3.25};
+  car.inputs.launchRpm = 4400;
+  car.inputs.throttleStop = true;
+  // 160 steps of 0.825 RPM, whose sum is a little less.
+  car.inputs.throttleStopRpm = 4532;
+  KeepingSink sink;
+  SimulateRun(car.Run(), sink);
+  ASSERT_EQ(sink.stops.size(), 2U);
+  // The row shows the last step before the stop.
+  EXPECT_NEAR(sink.rows[sink.stops[0]].rpm, 4532 - 0.825, 1e-6);
+}
+
+TEST(Acceleration, TheRateIsThatOfARealRiseAndNoRowComesTwice) {
+  SampleCar car = test::StartCar();
+  car.rpm = {3500, 3850, 3960, 5000};
+  car.torque = {556, 650, 635, 600};
+  car.inputs.transRatio = {3.25, 2.9, 2.5};
+  car.inputs.throttleStop = true;
+  // Behind the launch and the stop there is one step, of the same RPM but for its rounding.
+  car.inputs.launchRpm = car.inputs.shiftRpm[0] = 3861;
+  car.inputs.throttleStopRpm = 3000;
+  car.inputs.throttleStopTime = 0.3;
+  KeepingSink sink;
+  SimulateRun(car.Run(), sink);
+  ASSERT_EQ(sink.stops.size(), 2U);
+  for (std::size_t i = 0; i < sink.rows.size(); ++i) {
+    const RunRow& row = sink.rows[i];
+    const double perRpm =
+        12 / (car.inputs.transRatio[static_cast<std::size_t>(row.gear - 1)] * 4.1 * 168.06762) *
+        22 / 15;
+    const bool stopped = i == sink.stops[0] || i == sink.stops[0] + 1;
+    // A row's acceleration is the rate that its speed gains at.
+    if (!stopped) {
+      EXPECT_NEAR(row.rpsRate * perRpm / row.acceleration, 1, 1e-6) << row.rpm;
+    }
+    const bool isForced = stopped || i == sink.stops[1];
+    if (i > 0 && !isForced) {
+      EXPECT_GT(std::abs(row.rpm - sink.rows[i - 1].rpm), 1e-3) << row.rpm;
+    }
+  }
+}
+
 TEST(Acceleration, AThrottleStopDirectlyBehindAShiftShowsTheStepOfTheGearBefore) {
   SampleCar car = test::StartCar();
   // A tire that shrinks lifts the engine to the stop's RPM with the change itself.
@@ -868,7 +914,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "1st must be above 0."},
         Refusal{"RisingRatio", [](SampleCar& c) { c.inputs.transRatio[2] = 2.5; },
                 RunField::TransRatio, "3rd must not be above that of the gear before it."},
-        Refusal{"TinyRatio", [](SampleCar& c) { c.inputs.transRatio[4] = 1e-9; },
+        Refusal{"TinyRatio", [](SampleCar& c) { c.inputs.transRatio[4] = 2e-6; },
                 RunField::TransRatio, "beyond 10000 MPH"},
         Refusal{"Tire", [](SampleCar& c) { c.inputs.tireDiameter = 0; }, RunField::TireDiameter,
                 "Tire Diameter must be above 0."},
@@ -888,6 +934,8 @@ INSTANTIATE_TEST_SUITE_P(
                 RunField::DynoCorrection, "Dyno Correct Factor must be a number of usual size."},
         Refusal{"TinyTire", [](SampleCar& c) { c.inputs.tireDiameter = 1e-300; },
                 RunField::TireDiameter, "Tire Diameter must be a number of usual size."},
+        Refusal{"TinyGear", [](SampleCar& c) { c.inputs.transRatio[0] = 1e-300; },
+                RunField::TransRatio, "Trans Gear Ratio 1st must be a number of usual size."},
         Refusal{"TinyRear", [](SampleCar& c) { c.inputs.rearGearRatio = 1e-300; },
                 RunField::RearGearRatio, "Rear Gear Ratio must be a number of usual size."},
         Refusal{"DynoFactor", [](SampleCar& c) { c.inputs.dynoCorrection = 0; },

@@ -184,8 +184,9 @@ TEST_F(DynoPanelTest, TorqueAndPowerInTheColorsOfTheirHelp) {
 }
 
 TEST_F(DynoPanelTest, GraphPlusDrawsTheLastGraphOntoTheOneShown) {
-  EXPECT_TRUE(panel().Command19.Click());
-  EXPECT_THAT(form().Text58.text(), HasSubstr("There is no graph yet"));
+  EXPECT_THAT(Refused(panel().Command19),
+              HasSubstr("There is no graph yet that could be drawn again. Please choose one of "
+                        "the others first."));
   EXPECT_FALSE(program_.grapher().HasGraph());
   panel().Command31[6].Click();
   const GraphPoint before = series().front().points.front();
@@ -232,6 +233,56 @@ TEST_F(DynoPanelTest, AFailedGraphLeavesTheOldOne) {
   EXPECT_THAT(Refused(panel().Command10), HasSubstr("torque table"));
   ASSERT_EQ(series().size(), 1U);
   EXPECT_EQ(At(7500), 840);
+}
+
+TEST_F(DynoPanelTest, AirThatNoDynoStandsInIsRefusedAtItsField) {
+  const auto refusedAt = [&](Field& field, const char* text) {
+    const std::string before = field.text();
+    field.SetText(text);
+    const std::string told = Refused(panel().Command18);
+    EXPECT_EQ(field.mark(), Mark::Error) << text;
+    field.SetText(before);
+    return told;
+  };
+  for (const char* text : {"-5", "-1e300", "29.92", "1e300"}) {
+    EXPECT_THAT(refusedAt(panel().Text84, text),
+                HasSubstr("\"Dyno Vapor Pressure\" must be from 0 to below the Dyno Baro"));
+  }
+  EXPECT_THAT(refusedAt(panel().Text85, "1e300"), HasSubstr("must be a number of usual size"));
+  EXPECT_THAT(refusedAt(panel().Text83, "1e300"), HasSubstr("must be a number of usual size"));
+  panel().Text84.SetText("0");
+  EXPECT_TRUE(panel().Command18.Click());
+}
+
+TEST_F(DynoPanelTest, AxesBeyondAllNumbersAreRefusedAtTheirFields) {
+  for (Field* field : {&panel().Text7, &panel().Text39, &panel().Text3}) {
+    const std::string before = field->text();
+    field->SetText(field == &panel().Text3 ? "-1e300" : "1e300");
+    EXPECT_THAT(Refused(panel().Command6), HasSubstr("must be a number of usual size"));
+    EXPECT_EQ(field->mark(), Mark::Error) << field->name();
+    field->SetText(before);
+  }
+}
+
+TEST_F(DynoPanelTest, ACarThatCannotMoveIsToldAsTheChartTellsIt) {
+  form().Page.Text66.SetText("9");
+  for (Command* command : {&panel().Command2, &panel().Command3, &panel().Command4,
+                           &panel().Command5, &panel().Command30}) {
+    EXPECT_THAT(Refused(*command), HasSubstr("The car does not move: ")) << command->name();
+  }
+  form().Page.Text66.SetText("0.015");
+  form().Page.Text29.SetText("999999999");
+  EXPECT_THAT(Refused(panel().Command5), HasSubstr("Rollout Distance"));
+}
+
+TEST_F(DynoPanelTest, ATableFromZeroRpmOnIsDrawn) {
+  block().AccelRpm[0] = 0;
+  for (Command* command :
+       {&panel().Command1, &panel().Command6, &panel().Command7, &panel().Command20}) {
+    EXPECT_TRUE(command->Click()) << command->name();
+    EXPECT_EQ(series().size(), 5U) << command->name();
+  }
+  EXPECT_TRUE(host_.messages.empty());
 }
 
 TEST_F(DynoPanelTest, AFileWithoutASmoothSwitchLeavesTheFieldsText) {

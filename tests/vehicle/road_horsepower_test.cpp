@@ -314,5 +314,27 @@ TEST(StartingLineChart, LeavesOutWhatCannotBe) {
   EXPECT_THAT(report, Not(HasSubstr("\r\n      0,0")));
 }
 
+TEST(RoadHorsepower, SpeedsBelowZeroAreRefusedWithTheirRow) {
+  const auto told = [](const auto& work) -> std::string {
+    try {
+      work();
+    } catch (const CommandError& error) {
+      return error.message();
+    }
+    return {};
+  };
+  const std::vector<double> speeds{-10, 20, 30}, seconds{0, 1, 2};
+  RoadCar car;
+  car.weight = 3000;
+  RoadGear gear;
+  gear.drive.tireDiameter = 24;
+  EXPECT_EQ(told([&] { RoadWeightChart(car, speeds, seconds, DecimalMark::Point); }),
+            "Row 1 of the road table has a speed below 0.");
+  EXPECT_EQ(told([&] { RoadEngineChart(car, gear, speeds, seconds, 0, DecimalMark::Point); }),
+            "Row 1 of the road table has an RPM below 0.");
+  EXPECT_EQ(told([&] { RoadEngineChart(car, gear, speeds, seconds, 50, DecimalMark::Point); }),
+            "Row 1 of the road table has an RPM below 0.");
+}
+
 }  // namespace
 }  // namespace veldox

@@ -94,5 +94,27 @@ TEST(TorqueTable, TellsItsPeaks) {
   EXPECT_EQ(TorquePeaksText({}, kPoint), "no points");
 }
 
+TEST(TorqueTable, LinesOfFilesInOtherUnitsAreTaken) {
+  // By definition: 5252 HP at 1 RPM, 1.3558179 Nm and 0.7457 kW for one each, a PS of 0.9863 HP.
+  const std::vector<TorquePoint> points = ReadTorqueTable(
+      "Accelerat HP = 2626 100\naccelerat nm = 3000 271.16358 30 0.5\r\nAccelerat KW = 5252 74.57\n"
+      "ACCELERAT PS = 10504 400\nAcceleration = 11000 175",
+      DecimalMark::Point);
+  ASSERT_EQ(points.size(), 5U);
+  EXPECT_NEAR(points[0][1], 200, 1e-9);
+  EXPECT_NEAR(points[1][1], 200, 1e-9);
+  EXPECT_EQ(points[1][2], 30);
+  EXPECT_NEAR(points[2][1], 100, 1e-2);
+  EXPECT_NEAR(points[3][1], 400 * 0.9863 / 2, 1e-9);
+  EXPECT_EQ(points[4][1], 175);
+  try {
+    ReadTorqueTable("1 2\nAccelerat HP = 0 100", DecimalMark::Point);
+    FAIL() << "a power at 0 RPM";
+  } catch (const CommandError& error) {
+    EXPECT_EQ(error.message(),
+              "Line 2 of the torque table is a power at 0 RPM, which gives no torque.");
+  }
+}
+
 }  // namespace
 }  // namespace veldox
