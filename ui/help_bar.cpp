@@ -201,6 +201,12 @@ ReportPanel::ReportPanel(ReportBox& box, const WindowLook& look, QWidget* parent
   column->addWidget(edit_, 1);
   column->addWidget(find_);
   auto* keys = new QHBoxLayout;
+  age_ = new QLabel(QLatin1String(kOutOfDate), this);
+  QFont slanted = age_->font();
+  slanted.setItalic(true);
+  age_->setFont(slanted);
+  age_->hide();
+  keys->addWidget(age_);
   keys->addStretch();
   connect(AddButton(*keys, "Find  (Ctrl+F)", "Look for a text in this report."),
           &QPushButton::clicked, this, [this] { find_->Open(); });
@@ -254,6 +260,9 @@ void ReportPanel::SaveAsPdf() {
 }
 
 void ReportPanel::Follow() {
+  const bool isOutdated = box_.mark() == Mark::Outdated;
+  age_->setVisible(isOutdated);
+  edit_->setAccessibleDescription(isOutdated ? QLatin1String(kOutOfDate) : QString());
   if (box_.text() == shown_) return;
   shown_ = box_.text();
   edit_->Show(ToQtLines(box_.text()));

@@ -37,6 +37,12 @@ void PreviewLine::resizeEvent(QResizeEvent* event) {
   Tell();
 }
 
+void PreviewLine::SetStanding(const QString& text) {
+  if (text == standing_) return;
+  standing_ = text;
+  if (command_ == nullptr) Tell();
+}
+
 void PreviewLine::Follow(Command* command) {
   rest_.stop();
   // What opens and closes changes nothing that a line could tell.
@@ -45,7 +51,7 @@ void PreviewLine::Follow(Command* command) {
   command_ = calculates ? command : nullptr;
   preview_ = {};
   if (command_ == nullptr) {
-    clear();
+    Tell();
   } else if (slow_.contains(command_)) {
     clear();
     rest_.start();
@@ -73,8 +79,12 @@ void PreviewLine::Run(bool mayTakeLong) {
 }
 
 void PreviewLine::Tell() {
-  if (command_ == nullptr) return;
   const QFontMetrics metrics(font());
+  if (command_ == nullptr) {
+    setText(metrics.elidedText(standing_, Qt::ElideRight, width()));
+    setToolTip(standing_);
+    return;
+  }
   const std::string text = TellPreview(preview_, [&](const std::string& line) {
     return metrics.horizontalAdvance(ToQt(line)) <= width();
   });

@@ -17,6 +17,8 @@ class PreviewLine : public QLabel {
 
   /// The pointer or the keyboard has come to a command; null when it has left.
   void Follow(Command* command);
+  /// What it tells while no command is pointed at.
+  void SetStanding(const QString& text);
   /// The command it tells of has run.
   void FollowAgain() { Follow(command_); }
 
@@ -31,6 +33,7 @@ class PreviewLine : public QLabel {
   void Tell();
 
   Command* command_ = nullptr;
+  QString standing_;
   Preview preview_;
   QTimer rest_;
   /// How long the last dry run of a command took, for those that take long.
