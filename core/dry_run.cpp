@@ -27,6 +27,11 @@ void DryRun::PutBack() {
   recording_ = Recording(Recording::Scope::DryRun);
 }
 
+bool DryRun::ChangesValues() {
+  context_.journal.TakeBlockInto(recording_);
+  return context_.journal.Differs(recording_);
+}
+
 bool DryRun::ChangesAgain(const std::function<bool()>& again) {
   Journal& journal = context_.journal;
   journal.TakeBlockInto(recording_);
@@ -65,6 +70,7 @@ Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> lim
     const ShownSince shown = ShownIn(run.recording());
     preview.report = shown.report;
     preview.graph = shown.graph;
+    if (preview.changes.empty()) preview.unshown = run.ChangesValues();
   }
   return preview;
 }
@@ -121,6 +127,7 @@ std::string TellPreview(const Preview& preview,
   for (const std::string& note : preview.notes) {
     pieces.push_back("note: " + note.substr(0, note.find('\r')));
   }
+  if (pieces.empty() && preview.unshown) return "It changes values that no field shows.";
   if (pieces.empty()) return "It changes nothing.";
   std::string line;
   for (std::size_t i = 0; i < pieces.size(); ++i) {

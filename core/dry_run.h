@@ -44,6 +44,8 @@ class DryRun {
   }
   /// Puts back what was changed so far, and goes on.
   void PutBack();
+  /// Whether any data are other ones than at the beginning.
+  bool ChangesValues();
   /// Whether `again` changes any data beyond what was changed so far, or fails. What it changes is
   /// put back.
   bool ChangesAgain(const std::function<bool()>& again);
@@ -66,6 +68,7 @@ struct Preview {
   std::vector<ControlChange> changes;
   bool report = false;             ///< it would show a report
   bool graph = false;              ///< it would draw a graph
+  bool unshown = false;            ///< it would change values that no control shows, and no other
   std::vector<std::string> notes;  ///< of the boxes it would show
   bool ranOutOfTime = false;
   std::chrono::microseconds took{0};

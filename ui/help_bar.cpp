@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QVBoxLayout>
@@ -264,11 +265,19 @@ void ReportPanel::Follow() {
   age_->setVisible(isOutdated);
   edit_->setAccessibleDescription(isOutdated ? QLatin1String(kOutOfDate) : QString());
   if (box_.text() == shown_) return;
+  // A report that is made anew by itself stays scrolled to what the user reads.
+  const QScrollBar& bar = *edit_->verticalScrollBar();
+  const bool isAnew = !shown_.empty() && box_.screen().context().current.isRunning();
+  const int scrolled = bar.value();
+  const bool wasAtEnd = scrolled == bar.maximum();
+  // The caret, which goes back to the beginning, is not brought into sight then.
+  const QSignalBlocker caret(isAnew ? edit_ : nullptr);
   shown_ = box_.text();
   edit_->Show(ToQtLines(box_.text()));
   SetOff(SetOffColumns(ReportLines(box_.report())));
   heads_->SetReport(box_.report());
   edit_->moveCursor(QTextCursor::Start);
+  if (isAnew) edit_->verticalScrollBar()->setValue(wasAtEnd ? bar.maximum() : scrolled);
   find_->hide();
 }
 

@@ -15,7 +15,7 @@ constexpr std::chrono::seconds kLongestTry(2);
 
 }  // namespace
 
-PreviewLine::PreviewLine(QWidget* parent) : QLabel(parent) {
+PreviewLine::PreviewLine(QWidget* parent, CommandRole most) : QLabel(parent), most_(most) {
   setObjectName(QStringLiteral("PreviewLine"));
   setTextFormat(Qt::PlainText);
   setAccessibleName(QStringLiteral("What the command changes"));
@@ -46,9 +46,9 @@ void PreviewLine::SetStanding(const QString& text) {
 void PreviewLine::Follow(Command* command) {
   rest_.stop();
   // What opens and closes changes nothing that a line could tell.
-  const bool calculates = command != nullptr && command->role() == CommandRole::Calculates &&
-                          command != command->screen().QuitCommand();
-  command_ = calculates ? command : nullptr;
+  const bool isTold =
+      command != nullptr && command->role() <= most_ && command != command->screen().QuitCommand();
+  command_ = isTold ? command : nullptr;
   preview_ = {};
   if (command_ == nullptr) {
     Tell();
@@ -90,6 +90,13 @@ void PreviewLine::Tell() {
   });
   setText(metrics.elidedText(ToQt(text), Qt::ElideRight, width()));
   setToolTip(ToQt(TellPreview(preview_, [](const std::string&) { return true; })));
+}
+
+PreviewLine* MakePreviewLine(FaceSet& faces, QWidget* parent, CommandRole most) {
+  auto* line = new PreviewLine(parent, most);
+  faces.look().DressLabel(*line);
+  faces.SetPreview([line](Command* command) { line->Follow(command); });
+  return line;
 }
 
 }  // namespace veldox

@@ -228,9 +228,7 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   auto* last = new QHBoxLayout;
   last->setSpacing(kFrameGap);
   lines->addLayout(last);
-  auto* preview = new PreviewLine(this);
-  faces_.look().DressLabel(*preview);
-  faces_.SetPreview([preview](Command* command) { preview->Follow(command); });
+  PreviewLine* preview = MakePreviewLine(faces_, this);
   last->addWidget(preview, 1);
   if (CheckBox* box = screen_.context().current.SwitchOf(screen_)) {
     QWidget* keep = faces_.Make<KeepFace>(*box, *preview, this).widget();

@@ -2,7 +2,9 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include "tests/ui/window_test.h"
 #include "ui/field_edit.h"
@@ -84,6 +86,29 @@ TEST_F(KeepCurrentWindowTest, TheTabKeyComesToTheSwitchLast) {
   EXPECT_TRUE(Switch().isChecked());
   EXPECT_EQ(Line().text(),
             QStringLiteral("The next command that is clicked will be kept up to date."));
+}
+
+TEST_F(KeepCurrentWindowTest, AReportThatIsMadeAnewStaysScrolled) {
+  Model<TextControl>("Form1.Text39").SetText("1");
+  ClickOn(Child<QPushButton>(window, "Command20"));
+  auto& report = Child<QPlainTextEdit>(window, "Text38");
+  ClickOn(Switch());
+  report.verticalScrollBar()->setValue(100);
+  const QString before = report.toPlainText();
+  Enter("Text3");
+  TypeText(Edit("Text3"), "3.5");
+  EXPECT_NE(report.toPlainText(), before);
+  EXPECT_EQ(report.verticalScrollBar()->value(), 100);
+  EXPECT_TRUE(Edit("Text3").hasFocus());
+  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
+  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
+  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
+  bool isTold = false;
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    isTold = isTold || (label->isVisible() &&
+                        label->text().startsWith(QStringLiteral("Out of date: values")));
+  }
+  EXPECT_TRUE(isTold) << "beside the report";
 }
 
 }  // namespace
