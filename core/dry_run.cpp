@@ -95,7 +95,10 @@ std::string TellChange(const ControlChange& change) {
     return text.find_first_not_of(' ') == std::string::npos ? std::string("blank")
                                                             : text.substr(0, text.find('\r'));
   };
-  std::string line = control.kind() == ControlKind::Label ? std::string{} : control.PlainCaption();
+  // Of what shows its caption, that is what changes.
+  const bool isCaption =
+      control.kind() == ControlKind::Label || control.kind() == ControlKind::Command;
+  std::string line = isCaption ? std::string{} : control.PlainCaption();
   if (!line.empty()) line += ' ';
   line += told(change.before) + " to " + told(change.after);
   if (control.kind() == ControlKind::Field) {

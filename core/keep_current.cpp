@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/dry_run.h"
+#include "core/field_copy.h"
 #include "core/screen.h"
 
 namespace veldox {
@@ -66,7 +67,7 @@ bool DrawsUnseen(const Recording& recording) {
 bool WorksOut(const Control& entered, Recording& recording) {
   const std::vector<ControlChange> changes = ChangesSince(recording, nullptr);
   return std::any_of(changes.begin(), changes.end(), [&](const ControlChange& change) {
-    if (change.control != &entered) return false;
+    if (change.control != ValueOf(&entered)) return false;
     const DecimalMark mark = entered.screen().mark();
     return !IsNumber(change.before, mark) || !IsNumber(change.after, mark) ||
            ParseNumber(change.before, mark) != ParseNumber(change.after, mark);
@@ -100,6 +101,10 @@ CheckBox* KeepCurrent::SwitchOf(Screen& screen) {
 
 bool KeepCurrent::IsOn(const Screen& screen) const {
   return !on_.empty() && on_.contains(screen.name());
+}
+
+bool KeepCurrent::IsEntered(const Control& control) const {
+  return entered_ != nullptr && ValueOf(&control) == ValueOf(entered_);
 }
 
 void KeepCurrent::Turned(Screen& screen) {
@@ -150,7 +155,11 @@ void KeepCurrent::Ran(const Command& command) {
 void KeepCurrent::PutBack() {
   due_.clear();
   for (auto& [screen, each] : switches_) {
-    if (each.box != nullptr && each.box->on()) TellReady(*screen);
+    if (each.box == nullptr || !each.box->on()) continue;
+    for (Control* control : screen->controls()) {
+      if (control->mark() == Mark::Outdated) control->SetMark(Mark::None);
+    }
+    TellReady(*screen);
   }
 }
 
@@ -242,13 +251,15 @@ void KeepCurrent::RunInPlace(Command& command, Control& entered) {
   const bool done = command.Run();
   context_.gate.SetLog(nullptr);
   if (text != nullptr) text->SetText(typed);
-  entered_ = nullptr;
-  entered.PutBack();
   std::vector<Control*>& results = switches_[&screen].results;
   results.clear();
+  std::vector<Control*> untold;
   for (Control* control : screen.controls()) {
     if (control->mark() == Mark::Changed) results.push_back(control);
+    if (IsEntered(*control)) untold.push_back(control);
   }
+  entered_ = nullptr;
+  for (Control* control : untold) control->PutBack();
   if (done) {
     Tell(screen, Quoted(command) + " is up to date.");
   } else {

@@ -67,7 +67,7 @@ class KeepCurrent {
   /// A command runs by itself: the keyboard and the windows stay where they are.
   bool isRunning() const { return entered_ != nullptr; }
   /// The control whose entry a command follows now: what the user types is left as it is.
-  bool IsEntered(const Control& control) const { return entered_ == &control; }
+  bool IsEntered(const Control& control) const;
 
  private:
   struct Switch {

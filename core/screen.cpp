@@ -761,14 +761,13 @@ bool Screen::Perform(const std::function<void()>& command) {
   return false;
 }
 
-namespace {
-
-/// The field that a control shows or works a second time, itself for every other.
 const Control* ValueOf(const Control* control) {
   if (const auto* copy = dynamic_cast<const FieldCopy*>(control)) return &copy->of();
   if (const auto* twin = dynamic_cast<const FieldTwin*>(control)) return &twin->of();
   return control;
 }
+
+namespace {
 
 /// The caption in quotes, behind it the frame where another frame has such a control too.
 std::string NameInMessages(const Control& control) {

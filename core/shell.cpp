@@ -381,6 +381,7 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   appearance.TellChanged();
   notes.ShowNotes();
   if (read_) read_();
+  context().current.PutBack();
   return records;
 }
 
@@ -477,6 +478,7 @@ void Shell::Clear() {
   if (answer == Button::Cancel) return;
   block().FormsCleared = 1;
   for (Screen* screen : screens_) screen->ClearFields();
+  context().current.PutBack();
   Inform(
       "FORM DATA CLEARED -- You can now Print Blank Forms -- After Printing Blank Forms, Please "
       "EXIT and Reload VELDOXW",

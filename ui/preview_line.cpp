@@ -18,7 +18,7 @@ constexpr std::chrono::seconds kLongestTry(2);
 PreviewLine::PreviewLine(QWidget* parent, CommandRole most) : QLabel(parent), most_(most) {
   setObjectName(QStringLiteral("PreviewLine"));
   setTextFormat(Qt::PlainText);
-  setAccessibleName(QStringLiteral("What the command changes"));
+  setAccessibleName(QStringLiteral("What the command changes, or whether results are up to date"));
   rest_.setSingleShot(true);
   rest_.setInterval(kRest);
   connect(&rest_, &QTimer::timeout, this, [this] { Run(true); });

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "core/field_copy.h"
 #include "core/kept.h"
 #include "core/report.h"
 #include "core/screen.h"
@@ -47,6 +48,12 @@ class Workshop : public Screen {
     Show(Area, *count_);
   }
 
+  void TakeLong() {
+    SolveArea();
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(20);
+    while (std::chrono::steady_clock::now() < end) context().StopInTime();
+  }
+
   Kept<double> count_{*this, 0.0};
 
  public:
@@ -54,6 +61,7 @@ class Workshop : public Screen {
   Field Side{Sizes, "Side", "Side", "2.0", KeyRule::UnsignedReal};
   Field Area{Sizes, "Area", "Area", "0", KeyRule::UnsignedReal};
   CheckBox Round{Sizes, "Round", "Round"};
+  FieldTwin SideTwin{Sizes, Side};
   Command Square{Sizes, "Square", "Square", "", &Workshop::SolveArea};
   Command Rounded{Sizes, "Rounded", "Rounded", "", &Workshop::RoundSide};
   Command Half{Sizes, "Half", "Half", "", &Workshop::SolveSide};
@@ -62,6 +70,7 @@ class Workshop : public Screen {
   Command Says{Sizes, "Says", "Says", "", &Workshop::Say};
   Command Tells{Sizes, "Tells", "Tells", "", &Workshop::Tell};
   Command Counts{Sizes, "Counts", "Counts", "", &Workshop::CountOn};
+  Command Slow{Sizes, "Slow", "Slow", "", &Workshop::TakeLong};
   Frame Foot{*this, "Foot", ""};
   ReportBox Report{Foot, "Report"};
 };
@@ -191,6 +200,19 @@ TEST_F(KeepCurrentTest, WhatIsTypedKeepsItsForm) {
   EXPECT_EQ(screen.Area.text(), "16.4025");
 }
 
+TEST_F(KeepCurrentTest, WhatIsTypedIntoTheTwinOfAFieldIsLeftAloneToo) {
+  TurnOn();
+  screen.Area.SetText("10");
+  screen.Half.Click();
+  Enter(screen.SideTwin, "7");
+  EXPECT_EQ(screen.Side.text(), "7");
+  EXPECT_TRUE(Told().starts_with("Rests at \"Half\".")) << Told();
+  screen.Rounded.Click();
+  Enter(screen.SideTwin, "4.");
+  EXPECT_EQ(screen.SideTwin.text(), "4.");
+  EXPECT_EQ(screen.Area.text(), "16.0");
+}
+
 TEST_F(KeepCurrentTest, QuestionsAndMessagesRestAndNoBoxComes) {
   TurnOn();
   host.Answer(Button::Yes);
@@ -231,8 +253,7 @@ TEST_F(KeepCurrentTest, TheSwitchStandsInNoListOfTheScreen) {
   CheckBox* box = current.SwitchOf(screen);
   EXPECT_EQ(screen.Find(KeepCurrent::kSwitchName), nullptr);
   EXPECT_TRUE(box->Reachable());
-  EXPECT_EQ(screen.NextInTabOrder(screen.Counts), box)
-      << "it is the last that the tab key comes to";
+  EXPECT_EQ(screen.NextInTabOrder(screen.Slow), box) << "it is the last that the tab key comes to";
   EXPECT_EQ(screen.NextInTabOrder(*box), &screen.Side);
   class Bare : public Screen {
    public:
@@ -260,6 +281,17 @@ TEST_F(KeepCurrentTest, ASlowCommandWaitsForARest) {
   const int runs = screen.runs;
   current.Run(false);
   EXPECT_EQ(screen.runs, runs) << "once for an entry";
+  screen.Slow.Click();
+  screen.Side.Edit("5");
+  current.Run(false);
+  EXPECT_EQ(screen.Area.text(), "16.0");
+  EXPECT_EQ(scheduled.back(), KeepCurrent::kRest);
+  scheduled.clear();
+  current.Run(true);
+  EXPECT_EQ(screen.Area.text(), "25.0");
+  screen.Side.Edit("6");
+  EXPECT_EQ(scheduled, (std::vector<std::chrono::milliseconds>{KeepCurrent::kRest}))
+      << "it is known to be slow";
   current.SetScheduler({});
 }
 
