@@ -1,7 +1,6 @@
 #include "core/dry_run.h"
 
 #include <algorithm>
-#include <cfenv>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -30,37 +29,51 @@ void DryRun::PutBack() {
   recording_ = Recording(Recording::Scope::DryRun);
 }
 
+bool DryRun::ChangesValues() {
+  context_.journal.TakeBlockInto(recording_);
+  return context_.journal.Differs(recording_);
+}
+
+bool DryRun::ChangesAgain(const std::function<bool()>& again) {
+  Journal& journal = context_.journal;
+  journal.TakeBlockInto(recording_);
+  Recording second(Recording::Scope::DryRun);
+  journal.Record(&second);
+  const bool done = again();
+  journal.TakeBlockInto(second);
+  const bool changes = journal.Differs(second);
+  journal.Swap(second);
+  journal.Record(&recording_);
+  return !done || changes;
+}
+
 Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> limit) {
   Preview preview;
   if (!command.isBuilt() || !command.enabled()) {
     preview.error = "This command cannot be used now.";
     return preview;
   }
-  std::fenv_t floats{};
-  std::feholdexcept(&floats);
-  {
-    DryRun run(command.screen().context());
-    if (limit) run.SetLimit(*limit);
-    const auto start = std::chrono::steady_clock::now();
-    const bool done = command.Run();
-    preview.took = std::chrono::duration_cast<std::chrono::microseconds>(
-        std::chrono::steady_clock::now() - start);
-    preview.error = run.log().error;
-    preview.notes = run.log().notes;
-    preview.ranOutOfTime = run.log().ranOutOfTime;
-    if (!done && preview.error.empty() && !preview.ranOutOfTime) {
-      // It has told itself why it ends.
-      preview.error = preview.notes.empty() ? "It has nothing to do." : preview.notes.back();
-      if (!preview.notes.empty()) preview.notes.pop_back();
-    }
-    if (preview.error.empty() && !preview.ranOutOfTime) {
-      preview.changes = ChangesSince(run.recording(), &command.screen());
-      const ShownSince shown = ShownIn(run.recording());
-      preview.report = shown.report;
-      preview.graph = shown.graph;
-    }
+  DryRun run(command.screen().context());
+  if (limit) run.SetLimit(*limit);
+  const auto start = std::chrono::steady_clock::now();
+  const bool done = command.Run();
+  preview.took = std::chrono::duration_cast<std::chrono::microseconds>(
+      std::chrono::steady_clock::now() - start);
+  preview.error = run.log().error;
+  preview.notes = run.log().notes;
+  preview.ranOutOfTime = run.log().ranOutOfTime;
+  if (!done && preview.error.empty() && !preview.ranOutOfTime) {
+    // It has told itself why it ends.
+    preview.error = preview.notes.empty() ? "It has nothing to do." : preview.notes.back();
+    if (!preview.notes.empty()) preview.notes.pop_back();
   }
-  std::fesetenv(&floats);
+  if (preview.error.empty() && !preview.ranOutOfTime) {
+    preview.changes = ChangesSince(run.recording(), &command.screen());
+    const ShownSince shown = ShownIn(run.recording());
+    preview.report = shown.report;
+    preview.graph = shown.graph;
+    if (preview.changes.empty()) preview.unshown = run.ChangesValues();
+  }
   return preview;
 }
 
@@ -84,7 +97,10 @@ std::string TellChange(const ControlChange& change) {
     return text.find_first_not_of(' ') == std::string::npos ? std::string("blank")
                                                             : text.substr(0, text.find('\r'));
   };
-  std::string line = control.kind() == ControlKind::Label ? std::string{} : control.PlainCaption();
+  // Of what shows its caption, that is what changes.
+  const bool isCaption =
+      control.kind() == ControlKind::Label || control.kind() == ControlKind::Command;
+  std::string line = isCaption ? std::string{} : control.PlainCaption();
   if (!line.empty()) line += ' ';
   const auto [before, after] = DifferingLines(change.before, change.after);
   line += told(before) + " to " + told(after);
@@ -117,6 +133,7 @@ std::string TellPreview(const Preview& preview,
   for (const std::string& note : preview.notes) {
     pieces.push_back("note: " + note.substr(0, note.find('\r')));
   }
+  if (pieces.empty() && preview.unshown) return "It changes values that no field shows.";
   if (pieces.empty()) return "It changes nothing.";
   std::string line;
   for (std::size_t i = 0; i < pieces.size(); ++i) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cfenv>
 #include <chrono>
 #include <functional>
 #include <optional>
@@ -12,6 +13,18 @@
 #include "core/screen.h"
 
 namespace veldox {
+
+/// Keeps the marks that floating-point arithmetic leaves out of what goes on outside.
+class FloatGuard {
+ public:
+  FloatGuard() { std::feholdexcept(&before_); }
+  ~FloatGuard() { std::fesetenv(&before_); }
+  FloatGuard(const FloatGuard&) = delete;
+  FloatGuard& operator=(const FloatGuard&) = delete;
+
+ private:
+  std::fenv_t before_{};
+};
 
 /// Runs commands to see what they do, and puts everything back as it was, to the last bit: while
 /// it lives, no face is told, no box, dialog, file or page comes out of the program, and whatever
@@ -31,11 +44,17 @@ class DryRun {
   }
   /// Puts back what was changed so far, and goes on.
   void PutBack();
+  /// Whether any data are other ones than at the beginning.
+  bool ChangesValues();
+  /// Whether `again` changes any data beyond what was changed so far, or fails. What it changes is
+  /// put back.
+  bool ChangesAgain(const std::function<bool()>& again);
 
   const DryRunLog& log() const { return log_; }
   Recording& recording() { return recording_; }
 
  private:
+  FloatGuard floats_;
   ProgramContext& context_;
   DryRunLog log_;
   Recording recording_{Recording::Scope::DryRun};
@@ -49,6 +68,7 @@ struct Preview {
   std::vector<ControlChange> changes;
   bool report = false;             ///< it would show a report
   bool graph = false;              ///< it would draw a graph
+  bool unshown = false;            ///< it would change values that no control shows, and no other
   std::vector<std::string> notes;  ///< of the boxes it would show
   bool ranOutOfTime = false;
   std::chrono::microseconds took{0};

@@ -54,6 +54,9 @@ class FieldTwin : public Field {
   Field& of_;
 };
 
+/// The field that a control shows or works a second time, itself for every other.
+const Control* ValueOf(const Control* control);
+
 /// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
 Control& WithinReach(Control& control);
 

@@ -89,6 +89,8 @@ class History {
   bool IsTyping(const Control& control) const {
     return open_ && open_->kind == Kind::Entry && open_->control == &control;
   }
+  /// Something that is no typing is going on: it may wait for an answer.
+  bool isInStep() const { return open_ && open_->kind != Kind::Entry; }
   /// How many steps are done now.
   std::size_t done();
   /// All steps in words, those that were undone behind.

@@ -19,6 +19,7 @@ struct DryRunLog {
   /// When it has to be over; nothing where it may take its time.
   std::optional<std::chrono::steady_clock::time_point> end;
   bool ranOutOfTime = false;
+  bool wasRefused = false;  ///< it needs what the user would see, answer or find on the disk
 };
 
 /// All that the program asks of the world goes through here to the real host. During a dry run
@@ -87,6 +88,7 @@ class HostGate : public Host {
 
   [[noreturn]] void Refuse(const char* why) const {
     if (log_->error.empty()) log_->error = why;
+    log_->wasRefused = true;
     throw CommandError(ErrorKind::Cancelled, "");
   }
   Host& Open(const char* whyNot) const {

@@ -33,6 +33,16 @@ Control::Control(Screen& screen, Frame* frame, ControlKind kind, std::string nam
   if (frame_ != nullptr && kind_ != ControlKind::OptionButton) frame_->controls_.push_back(this);
 }
 
+Control::Control(Screen& screen, InFoot, ControlKind kind, std::string name, std::string caption,
+                 std::string help)
+    : screen_(screen),
+      frame_(nullptr),
+      kind_(kind),
+      name_(std::move(name)),
+      caption_(std::move(caption)),
+      help_(std::move(help)),
+      isInFoot_(true) {}
+
 std::string Control::PlainCaption() const {
   std::string plain;
   std::copy_if(caption_.begin(), caption_.end(), std::back_inserter(plain),
@@ -55,7 +65,7 @@ bool Control::Reachable() const {
     if (frame == top) return true;
   }
   // What stands at the foot of the window is never covered.
-  return this == screen_.QuitCommand() || this == screen_.HelpPlace() ||
+  return isInFoot_ || this == screen_.QuitCommand() || this == screen_.HelpPlace() ||
          this == screen_.ReportPane();
 }
 
@@ -74,7 +84,8 @@ void Control::AppendReadingOrder(std::vector<Control*>& order) {
 }
 
 void Control::TellFace() {
-  if (face_ != nullptr && !screen_.context().journal.isDry()) face_->ControlChanged(*this);
+  if (face_ == nullptr || screen_.context().journal.isDry()) return;
+  if (!screen_.context().current.IsEntered(*this)) face_->ControlChanged(*this);
 }
 
 void Control::Changed() {
@@ -82,9 +93,11 @@ void Control::Changed() {
   for (const auto& follow : followers_) follow();
 }
 
-void Control::NoteChange() const {
+void Control::NoteChange() {
+  if (isInFoot_) return;
   if (isInFile_ && !isOption_) screen_.context().rules.NoteChange();
   screen_.Edited(*this);
+  screen_.context().current.Entered(*this);
 }
 
 void Control::SetCaption(std::string caption) {
@@ -125,6 +138,8 @@ void Control::SetMark(Mark mark) {
 }
 
 void Control::Focus() {
+  // What runs by itself leaves the keyboard where it is.
+  if (screen_.context().current.isRunning()) return;
   screen_.TakeFocus(this);
   if (face_ != nullptr && !screen_.context().journal.isDry()) face_->FocusRequested(*this);
 }
@@ -185,6 +200,7 @@ void TextControl::Edit(std::string text) {
   if (!screen().IsTool()) screen().context().rules.NoteChange();
   SetText(std::move(text));
   screen().Edited(*this);
+  screen().context().current.Entered(*this);
 }
 
 char32_t TextControl::FilterKey(char32_t key) {
@@ -349,7 +365,9 @@ bool Command::Click() {
   // Closing a screen is no step.
   const History::Step step(
       *this, this == screen().QuitCommand() ? History::Kind::None : History::Kind::Command);
-  return Run();
+  if (!Run()) return false;
+  screen().context().current.Ran(*this);
+  return true;
 }
 
 bool Command::Run() {
@@ -366,10 +384,16 @@ CheckBox::CheckBox(Frame& frame, std::string name, std::string caption, std::str
               std::move(help)),
       handler_(std::move(handler)) {}
 
+CheckBox::CheckBox(Screen& screen, InFoot foot, std::string name, std::string caption,
+                   std::string help, Handler handler)
+    : Control(screen, foot, ControlKind::CheckBox, std::move(name), std::move(caption),
+              std::move(help)),
+      handler_(std::move(handler)) {}
+
 void CheckBox::SetOn(bool on) {
   if (slot_ != nullptr) *slot_ = on ? 1 : 0;
   if (on == on_) return;
-  Assign(on_, on, Aspect::Data);
+  Assign(on_, on, isInFoot() ? Aspect::Place : Aspect::Data);
   Changed();
 }
 
@@ -381,6 +405,11 @@ bool CheckBox::TurnOver() {
   if (!enabled()) return false;
   const History::Step step(*this, History::Kind::Other);
   SetOn(!on_);
+  if (isInFoot()) {
+    // It is no command: marks of the last one stay.
+    handler_();
+    return true;
+  }
   const bool done = handler_ == nullptr || screen().Perform(handler_);
   if (done) {
     NoteChange();
@@ -560,7 +589,9 @@ void Screen::SetVisible(bool visible) {
   if (changed) context_.journal.Assign(visible_, visible, this, Aspect::Place);
   if (context_.journal.isDry()) return;
   // Opening an open screen brings its window to the front, so the face is told in any case.
-  if (face_ != nullptr && (changed || visible)) face_->ScreenVisibilityChanged(*this);
+  // What runs by itself leaves the windows in the order in which they lie.
+  const bool comesToFront = visible && !context_.current.isRunning();
+  if (face_ != nullptr && (changed || comesToFront)) face_->ScreenVisibilityChanged(*this);
 }
 
 void ProgramContext::HandOver(Screen* screen) {
@@ -743,14 +774,13 @@ bool Screen::Perform(const std::function<void()>& command) {
   return false;
 }
 
-namespace {
-
-/// The field that a control shows or works a second time, itself for every other.
 const Control* ValueOf(const Control* control) {
   if (const auto* copy = dynamic_cast<const FieldCopy*>(control)) return &copy->of();
   if (const auto* twin = dynamic_cast<const FieldTwin*>(control)) return &twin->of();
   return control;
 }
+
+namespace {
 
 /// The caption in quotes, behind it the frame where another frame has such a control too.
 std::string NameInMessages(const Control& control) {
@@ -901,7 +931,8 @@ bool TakesKeyboard(const Control& control) {
 }  // namespace
 
 Control* Screen::NextInTabOrder(const Control& from) const {
-  const std::vector<Control*> order = ReadingOrder();
+  std::vector<Control*> order = ReadingOrder();
+  if (Control* last = context_.current.SwitchOf(from.screen())) order.push_back(last);
   const auto start = std::find(order.begin(), order.end(), &from);
   const auto rest = static_cast<std::size_t>(start - order.begin());
   for (std::size_t i = 1; i < order.size(); ++i) {

@@ -14,6 +14,7 @@
 #include "core/holds.h"
 #include "core/host_gate.h"
 #include "core/journal.h"
+#include "core/keep_current.h"
 #include "core/numbers.h"
 #include "core/parameter_block.h"
 #include "core/units.h"
@@ -74,6 +75,7 @@ struct ProgramContext {
   const std::vector<Screen*>& visited() const { return visited_; }
   /// What a window offers in the context menu of a control; empty where there is nothing.
   std::function<std::vector<ControlTool>(Control&)> toolsOf;
+  KeepCurrent current{*this};
 
  private:
   friend class Screen;
@@ -109,7 +111,12 @@ enum class ControlKind {
 };
 
 /// How a field stands out until the next command.
-enum class Mark { None, Changed, Error };
+enum class Mark {
+  None,
+  Changed,
+  Error,
+  Outdated,  ///< a result that an entry was not followed by
+};
 
 /// Base of all that stands on a screen. A control has the name of its declaration,
 /// a caption (for a field: its label), a help sentence and a face that may be absent.
@@ -132,6 +139,7 @@ class Control {
   /// Shown, and no panel lies over it: what a user's mouse and keyboard come to.
   bool Reachable() const;
   Mark mark() const { return mark_; }
+  bool isInFoot() const { return isInFoot_; }
   Screen& screen() const { return screen_; }
   /// The frame it stands in; null for a frame that stands in none.
   Frame* frame() const { return frame_; }
@@ -162,8 +170,14 @@ class Control {
   /// The parameter file holds what the control shows.
   void SetInFile() { isInFile_ = true; }
 
+  /// What stands at the foot of its screen's window, belongs to the program's own settings and to
+  /// no list of the screen's.
+  struct InFoot {};
+
  protected:
   Control(Screen& screen, Frame* frame, ControlKind kind, std::string name, std::string caption,
+          std::string help);
+  Control(Screen& screen, InFoot, ControlKind kind, std::string name, std::string caption,
           std::string help);
   /// Tells the face and who else follows.
   void Changed();
@@ -175,7 +189,7 @@ class Control {
   virtual Aspect visibility() const { return Aspect::Look; }
   /// The user has turned or picked something: what the file would hold asks to be saved, and the
   /// screen follows.
-  void NoteChange() const;
+  void NoteChange();
   /// Makes a control a part of this one.
   void Adopt(Control& part) { part.whole_ = this; }
 
@@ -195,6 +209,7 @@ class Control {
   bool enabled_ = true;
   bool isOption_ = false;
   bool isInFile_ = false;
+  bool isInFoot_ = false;
   Mark mark_ = Mark::None;
 };
 
@@ -480,6 +495,9 @@ class CheckBox : public Control {
       : CheckBox(frame, std::move(name), std::move(caption), std::move(help),
                  HandlerOf(frame, handler)) {}
 
+  CheckBox(Screen& screen, InFoot, std::string name, std::string caption, std::string help,
+           Handler handler);
+
   bool on() const { return on_; }
   /// Sets the state without running the handler.
   void SetOn(bool on);
@@ -739,8 +757,10 @@ class Screen {
   /// The command that Ctrl+Enter runs: the calculating one that ran last, or else the first;
   /// null where none can be reached.
   Command* NextCalculation();
-  /// Runs that command. False when there is none, the field that has the focus keeps it, or the
-  /// command ended by an error.
+  /// The calculating command that was clicked last; null before the first.
+  Command* lastCalculation() const { return lastCalculation_; }
+  /// Runs the next calculation. False when there is none, the field that has the focus keeps it, or
+  /// the command ended by an error.
   bool CalculateAgain();
   /// Where the Enter key goes from a control: down a table. Null where it goes nowhere.
   Control* NextByEnter(const Control& from) const;

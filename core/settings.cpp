@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kLook = "Look = ";
 constexpr std::string_view kRecent = "Recent = ";
+constexpr std::string_view kKept = "Kept up to date = ";
 constexpr std::string_view kWindow = "Window ";
 constexpr std::string_view kEquals = " = ";
 constexpr std::array<std::pair<std::string_view, LookChoice>, 3> kLooks = {
@@ -86,6 +87,7 @@ std::string Settings::Compose() const {
     // File names are what bytes the system has for them.
     if (FitsInALine(file.native())) line(kRecent, file.native());
   }
+  for (const std::string& form : keptCurrent) line(kKept, form);
   for (const auto& [form, place] : places) {
     line(std::string(kWindow) + form + std::string(kEquals), PlaceText(place));
   }
@@ -107,6 +109,8 @@ void Settings::Parse(std::string_view text) {
     } else if (line.starts_with(kRecent) && recentFiles_.size() < kMostRecentFiles) {
       const fs::path file(line.substr(kRecent.size()));
       if (file.is_absolute()) recentFiles_.push_back(file);
+    } else if (line.starts_with(kKept) && keptCurrent.size() < kMostPlaces) {
+      keptCurrent.emplace(line.substr(kKept.size()));
     } else if (line.starts_with(kWindow) && places.size() < kMostPlaces) {
       line.remove_prefix(kWindow.size());
       const std::size_t equals = line.find(kEquals);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,8 @@ class Settings {
   static constexpr std::size_t kMostRecentFiles = 10;
 
   LookChoice look = LookChoice::Desktop;
+  /// The forms whose results are kept up to date.
+  std::set<std::string> keptCurrent;
   /// By the name of the form.
   std::map<std::string, WindowPlace> places;
 

@@ -59,7 +59,12 @@ Shell::Shell(ProgramContext& context)
   context.history.SetListener([this](bool putBack) {
     TellTitleChanged();
     if (putBack) ShowPutBack();
+    if (putBack) this->context().current.PutBack();
     steps.Follow();
+  });
+  context.current.SetListener([this] {
+    settings_.keptCurrent = this->context().current.forms();
+    SaveSettings();
   });
 }
 
@@ -79,12 +84,19 @@ Screen* Shell::FindScreen(std::string_view screenName) {
 Control* Shell::FindControl(std::string_view qualifiedName) {
   const auto dot = qualifiedName.find('.');
   if (dot == std::string_view::npos) return nullptr;
-  const Screen* screen = FindScreen(qualifiedName.substr(0, dot));
-  return screen == nullptr ? nullptr : screen->Find(qualifiedName.substr(dot + 1));
+  Screen* screen = FindScreen(qualifiedName.substr(0, dot));
+  if (screen == nullptr) return nullptr;
+  const std::string_view control = qualifiedName.substr(dot + 1);
+  // It stands in the foot of the window, and in no list of the screen's.
+  if (control == KeepCurrent::kSwitchName && screen != this) {
+    return context().current.SwitchOf(*screen);
+  }
+  return screen->Find(control);
 }
 
 void Shell::Start() {
   settings_ = LoadSettings(context().host.SettingsFile());
+  context().current.TurnOn(settings_.keptCurrent);
   if (shellFace_ != nullptr) shellFace_->LookChanged();
   TellMenuChanged();
   block().DataChanged = 0;
@@ -404,6 +416,7 @@ int Shell::TakeFile(const std::filesystem::path& file) {
   appearance.TellChanged();
   notes.ShowNotes();
   if (read_) read_();
+  context().current.PutBack();
   return records;
 }
 
@@ -500,6 +513,7 @@ void Shell::Clear() {
   if (answer == Button::Cancel) return;
   block().FormsCleared = 1;
   for (Screen* screen : screens_) screen->ClearFields();
+  context().current.PutBack();
   Inform(
       "FORM DATA CLEARED -- You can now Print Blank Forms -- After Printing Blank Forms, Please "
       "EXIT and Reload VELDOXW",

@@ -1,7 +1,6 @@
 #include "core/vary.h"
 
 #include <algorithm>
-#include <cfenv>
 #include <cmath>
 #include <initializer_list>
 #include <utility>
@@ -50,18 +49,6 @@ std::string Try(std::initializer_list<Setting> settings, Command& command,
   if (!run.log().error.empty()) return run.log().error;
   return run.log().notes.empty() ? std::string("It has nothing to do.") : run.log().notes.back();
 }
-
-/// Keeps the marks that floating-point arithmetic leaves out of what goes on outside.
-class FloatGuard {
- public:
-  FloatGuard() { std::feholdexcept(&before_); }
-  ~FloatGuard() { std::fesetenv(&before_); }
-  FloatGuard(const FloatGuard&) = delete;
-  FloatGuard& operator=(const FloatGuard&) = delete;
-
- private:
-  std::fenv_t before_{};
-};
 
 /// One unit of the last digit of a number's text.
 double LastDigitOf(const std::string& text) {

@@ -272,6 +272,12 @@ void PlotEngine::SetCurveNote(std::string note) {
   Current().note = std::move(note);
 }
 
+void PlotEngine::NameCurves(std::string_view name, std::size_t count) {
+  for (PlotSeriesRecord& series : std::span(series_).first(std::min(count, series_.size()))) {
+    series.note = std::string(name) + ", " + series.Legend();
+  }
+}
+
 void PlotEngine::SetCurvePen(double width, LineStyle style) {
   Current().pen.width = std::clamp<double>(width, 1, kWidestLine);
   Current().pen.style = style;

@@ -76,6 +76,7 @@ struct PlotSeriesRecord {
 
   /// The legend's text.
   const std::string& Legend() const { return note.empty() ? name : note; }
+  friend bool operator==(const PlotSeriesRecord&, const PlotSeriesRecord&) = default;
 };
 
 /// A single line with both ends given: zero lines, free drawing.
@@ -86,6 +87,7 @@ struct PlotLineRecord {
   AxisRange range;
   /// The colour follows the texts' colour, so that it shows on every background.
   bool inTextColor = false;
+  friend bool operator==(const PlotLineRecord&, const PlotLineRecord&) = default;
 };
 
 struct PlotCircleRecord {
@@ -94,12 +96,14 @@ struct PlotCircleRecord {
   double aspect = 1;  ///< height by width
   Pen pen;
   AxisRange range;
+  friend bool operator==(const PlotCircleRecord&, const PlotCircleRecord&) = default;
 };
 
 struct PlotBoxRecord {
   GraphPoint center;
   Color color;
   AxisRange range;
+  friend bool operator==(const PlotBoxRecord&, const PlotBoxRecord&) = default;
 };
 
 /// Numbers of the labels that a graph has: 1 and 2 stand at the X axis, 3 at the Y axis,
@@ -149,6 +153,8 @@ class PlotEngine {
   void Clear();
   /// Nothing has been drawn.
   bool Empty() const;
+  /// The same was drawn, on the same scale.
+  bool SameAs(const PlotEngine& other) const { return *this == other; }
 
   /// Sets the limits of the axes. @throws CommandError (InvalidArgument) unless all are
   /// finite and each high limit is above its low one; nothing changes then
@@ -183,6 +189,8 @@ class PlotEngine {
   void CurveInColor(const CurveColorEntry& color);
   /// The note that the legend shows for the present curve.
   void SetCurveNote(std::string note);
+  /// Puts a name before the legend of the first curves. @param count  how many
+  void NameCurves(std::string_view name, std::size_t count);
   void SetCurvePen(double width, LineStyle style);
   /// Room for points of the present curve.
   void ReservePoints(std::size_t count);
@@ -274,6 +282,7 @@ class PlotEngine {
 
  private:
   struct DynoTexts;
+  friend bool operator==(const PlotEngine&, const PlotEngine&) = default;
   void DrawDyno(std::span<const DynoRow> rows, const DynoTexts& texts);
   PlotSeriesRecord& Current();
   void Add(GraphPoint point, bool start);

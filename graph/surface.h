@@ -52,6 +52,8 @@ struct Pen {
   Color color;
   double width = 1;  ///< drawing units
   LineStyle style = LineStyle::Solid;
+
+  friend bool operator==(const Pen&, const Pen&) = default;
 };
 
 enum class TextAlign { Left, Center, Right };

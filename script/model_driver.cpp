@@ -63,6 +63,7 @@ void ModelDriver::TypeKey(Control& control, Key key) {
   } else if (key == U' ') {
     Click(control);
   }
+  shell_.context().current.Run(false);
 }
 
 void ModelDriver::TypeIntoList(PickList& list, Key key) {

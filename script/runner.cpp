@@ -114,6 +114,8 @@ bool ScriptRunner::Run(std::string_view script) {
       ++line_;
       if (line.find_first_not_of(" \t") == std::string_view::npos || line.front() == '#') continue;
       RunLine(line);
+      // The next statement comes when nothing has been entered for a while.
+      program_.context().current.Run(true);
       if (!host_.wrong.empty()) throw ScriptError(host_.wrong);
     }
     RequireNothingPrepared();

@@ -95,6 +95,27 @@ void Face::Follow() {
     widget_->setToolTip(InLines(help));
   }
   widget_->setAccessibleDescription(help);
+  ShowAge();
+}
+
+void Face::ShowAge() {
+  const bool isOutdated = control_.mark() == Mark::Outdated;
+  if (isOutdated) {
+    const QString help = widget_->toolTip();
+    widget_->setToolTip(QLatin1String(kOutOfDate) +
+                        (help.isEmpty() ? help : QLatin1Char('\n') + help));
+    widget_->setAccessibleDescription(QLatin1String(kOutOfDate) + QLatin1Char(' ') +
+                                      ToQt(control_.help()));
+  }
+  if (isOutdated == fontBefore_.has_value()) return;
+  if (isOutdated) {
+    fontBefore_ = widget_->font();
+    QFont slanted = *fontBefore_;
+    slanted.setItalic(!slanted.italic());
+    widget_->setFont(slanted);
+  } else {
+    widget_->setFont(*std::exchange(fontBefore_, std::nullopt));
+  }
 }
 
 bool Face::eventFilter(QObject* watched, QEvent* event) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QButtonGroup>
+#include <QFont>
 #include <QKeySequence>
 #include <QObject>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "core/screen.h"
@@ -19,6 +21,9 @@ class FaceSet;
 
 /// Said of every command, menu item and launcher button whose work is not built yet.
 inline constexpr const char* kNotAvailable = "Not available yet";
+
+/// Said of every result that an entry was not followed by.
+inline constexpr const char* kOutOfDate = "Out of date: values have been entered since.";
 
 /// True when the user or the program moved the focus to or from a widget itself, and not
 /// the window came to the front or a menu opened and closed.
@@ -49,6 +54,8 @@ class Face : public QObject, public ControlFace {
   bool TakesClick();
 
  private:
+  /// A result that is out of date has slanted letters, and says so.
+  void ShowAge();
   void FocusCame(Qt::FocusReason reason);
   /// Moves the screen's focus here. False when the field that is left keeps it.
   bool EnterControl();
@@ -57,7 +64,8 @@ class Face : public QObject, public ControlFace {
   FaceSet& set_;
   Control& control_;
   QWidget* widget_;
-  bool refused_ = false;  ///< a field has kept the focus, and has told why
+  bool refused_ = false;             ///< a field has kept the focus, and has told why
+  std::optional<QFont> fontBefore_;  ///< of a result that is out of date
 };
 
 /// The faces of one window. It moves the screen's focus with the keyboard focus and puts

@@ -80,8 +80,10 @@ void FieldEdit::Describe(const Field& field) {
   const QString help = ToQt(field.help());
   const QString unit = ToQt(UnitSign(field.unit(), field.screen().metric()));
   setAccessibleName(ToQt(field.PlainCaption()));
-  setAccessibleDescription(help.isEmpty() || unit.isEmpty() ? help + unit
-                                                            : help + QLatin1Char(' ') + unit);
+  QString description =
+      help.isEmpty() || unit.isEmpty() ? help + unit : help + QLatin1Char(' ') + unit;
+  if (mark() == Mark::Outdated) description.prepend(QLatin1String(kOutOfDate) + QLatin1Char(' '));
+  setAccessibleDescription(description);
 }
 
 void FieldEdit::Replace(const QString& text) {

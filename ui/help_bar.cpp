@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QVBoxLayout>
@@ -201,6 +202,12 @@ ReportPanel::ReportPanel(ReportBox& box, const WindowLook& look, QWidget* parent
   column->addWidget(edit_, 1);
   column->addWidget(find_);
   auto* keys = new QHBoxLayout;
+  age_ = new QLabel(QLatin1String(kOutOfDate), this);
+  QFont slanted = age_->font();
+  slanted.setItalic(true);
+  age_->setFont(slanted);
+  age_->hide();
+  keys->addWidget(age_);
   keys->addStretch();
   connect(AddButton(*keys, "Find  (Ctrl+F)", "Look for a text in this report."),
           &QPushButton::clicked, this, [this] { find_->Open(); });
@@ -254,12 +261,23 @@ void ReportPanel::SaveAsPdf() {
 }
 
 void ReportPanel::Follow() {
+  const bool isOutdated = box_.mark() == Mark::Outdated;
+  age_->setVisible(isOutdated);
+  edit_->setAccessibleDescription(isOutdated ? QLatin1String(kOutOfDate) : QString());
   if (box_.text() == shown_) return;
+  // A report that is made anew by itself stays scrolled to what the user reads.
+  const QScrollBar& bar = *edit_->verticalScrollBar();
+  const bool isAnew = !shown_.empty() && box_.screen().context().current.isRunning();
+  const int scrolled = bar.value();
+  const bool wasAtEnd = scrolled == bar.maximum();
+  // The caret, which goes back to the beginning, is not brought into sight then.
+  const QSignalBlocker caret(isAnew ? edit_ : nullptr);
   shown_ = box_.text();
   edit_->Show(ToQtLines(box_.text()));
   SetOff(SetOffColumns(ReportLines(box_.report())));
   heads_->SetReport(box_.report());
   edit_->moveCursor(QTextCursor::Start);
+  if (isAnew) edit_->verticalScrollBar()->setValue(wasAtEnd ? bar.maximum() : scrolled);
   find_->hide();
 }
 

@@ -84,7 +84,7 @@ class ReportPanel : public QWidget {
  public:
   ReportPanel(ReportBox& box, const WindowLook& look, QWidget* parent);
   LinesEdit* edit() const { return edit_; }
-  /// Shows what the box holds.
+  /// Shows what the box holds, and whether it is out of date.
   void Follow();
   /// What the tab key walks through, in reading order.
   std::vector<QWidget*> TabChain() const;
@@ -104,6 +104,7 @@ class ReportPanel : public QWidget {
   LinesEdit* edit_;
   ReportHeads* heads_;
   FindBar* find_;
+  QLabel* age_;  ///< says that it is out of date
   std::string shown_;
 };
 

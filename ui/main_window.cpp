@@ -15,6 +15,7 @@
 #include "ui/help_bar.h"
 #include "ui/launcher.h"
 #include "ui/menu_rows.h"
+#include "ui/preview_line.h"
 #include "ui/qt_text.h"
 #include "ui/screen_window.h"
 #include "ui/step_keys.h"
@@ -28,6 +29,8 @@ namespace {
 constexpr QSize kPreferredSize(1000, 600);
 constexpr int kNarrowest = 700;
 constexpr int kMargin = 10;
+/// Under the line of previews, which has room of its own around its letters.
+constexpr int kFootMargin = 1;
 
 }  // namespace
 
@@ -95,12 +98,17 @@ void MainWindow::BuildBody() {
   auto* help = new HelpBar(faces_.look(), body_);
   faces_.Make<HelpFace>(shell_.Label77, help);
   auto* pile = new QVBoxLayout(body_);
-  pile->setContentsMargins(kMargin, 0, kMargin, kMargin);
+  pile->setContentsMargins(kMargin, 0, kMargin, kFootMargin);
   pile->setSpacing(8);
   pile->addWidget(title_);
   pile->addWidget(fileName);
   pile->addWidget(pages_, 1);
-  pile->addWidget(help);
+  // What stands in the launcher's place has commands too.
+  auto* foot = new QVBoxLayout;
+  foot->setSpacing(0);
+  foot->addWidget(help);
+  foot->addWidget(MakePreviewLine(faces_, body_, CommandRole::Serves));
+  pile->addLayout(foot);
   static_cast<QBoxLayout*>(layout())->addWidget(body_, 1);
 }
 

@@ -15,10 +15,10 @@ constexpr std::chrono::seconds kLongestTry(2);
 
 }  // namespace
 
-PreviewLine::PreviewLine(QWidget* parent) : QLabel(parent) {
+PreviewLine::PreviewLine(QWidget* parent, CommandRole most) : QLabel(parent), most_(most) {
   setObjectName(QStringLiteral("PreviewLine"));
   setTextFormat(Qt::PlainText);
-  setAccessibleName(QStringLiteral("What the command changes"));
+  setAccessibleName(QStringLiteral("What the command changes, or whether results are up to date"));
   rest_.setSingleShot(true);
   rest_.setInterval(kRest);
   connect(&rest_, &QTimer::timeout, this, [this] { Run(true); });
@@ -37,15 +37,21 @@ void PreviewLine::resizeEvent(QResizeEvent* event) {
   Tell();
 }
 
+void PreviewLine::SetStanding(const QString& text) {
+  if (text == standing_) return;
+  standing_ = text;
+  if (command_ == nullptr) Tell();
+}
+
 void PreviewLine::Follow(Command* command) {
   rest_.stop();
   // What opens and closes changes nothing that a line could tell.
-  const bool calculates = command != nullptr && command->role() == CommandRole::Calculates &&
-                          command != command->screen().QuitCommand();
-  command_ = calculates ? command : nullptr;
+  const bool isTold =
+      command != nullptr && command->role() <= most_ && command != command->screen().QuitCommand();
+  command_ = isTold ? command : nullptr;
   preview_ = {};
   if (command_ == nullptr) {
-    clear();
+    Tell();
   } else if (slow_.contains(command_)) {
     clear();
     rest_.start();
@@ -73,13 +79,24 @@ void PreviewLine::Run(bool mayTakeLong) {
 }
 
 void PreviewLine::Tell() {
-  if (command_ == nullptr) return;
   const QFontMetrics metrics(font());
+  if (command_ == nullptr) {
+    setText(metrics.elidedText(standing_, Qt::ElideRight, width()));
+    setToolTip(standing_);
+    return;
+  }
   const std::string text = TellPreview(preview_, [&](const std::string& line) {
     return metrics.horizontalAdvance(ToQt(line)) <= width();
   });
   setText(metrics.elidedText(ToQt(text), Qt::ElideRight, width()));
   setToolTip(ToQt(TellPreview(preview_, [](const std::string&) { return true; })));
+}
+
+PreviewLine* MakePreviewLine(FaceSet& faces, QWidget* parent, CommandRole most) {
+  auto* line = new PreviewLine(parent, most);
+  faces.look().DressLabel(*line);
+  faces.SetPreview([line](Command* command) { line->Follow(command); });
+  return line;
 }
 
 }  // namespace veldox

@@ -46,6 +46,22 @@ void AppendGrounds(QWidget& ground, std::vector<QWidget*>& grounds) {
   }
 }
 
+/// The switch that keeps the results up to date; how things stand is told beside it.
+class KeepFace : public CheckBoxFace {
+ public:
+  KeepFace(FaceSet& set, CheckBox& box, PreviewLine& line, QWidget* parent)
+      : CheckBoxFace(set, box, parent), line_(line) {}
+
+  void Follow() override {
+    CheckBoxFace::Follow();
+    const auto& box = static_cast<const CheckBox&>(control());
+    line_.SetStanding(box.on() ? ToQt(box.help()) : QString());
+  }
+
+ private:
+  PreviewLine& line_;
+};
+
 }  // namespace
 
 QSize FittingSize(const QWidget& window, QSize wanted) {
@@ -60,6 +76,9 @@ void OrderTabs(const FaceSet& faces) {
     if (face == nullptr || face->widget()->focusPolicy() == Qt::NoFocus) continue;
     if (last != nullptr) QWidget::setTabOrder(last, face->widget());
     last = face->widget();
+  }
+  for (const auto& face : faces.all()) {
+    if (last != nullptr && face->control().isInFoot()) QWidget::setTabOrder(last, face->widget());
   }
 }
 
@@ -206,10 +225,16 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   lines->setSpacing(0);
   lines->addLayout(row);
   foot->addLayout(lines);
-  auto* preview = new PreviewLine(this);
-  faces_.look().DressLabel(*preview);
-  faces_.SetPreview([preview](Command* command) { preview->Follow(command); });
-  lines->addWidget(preview);
+  auto* last = new QHBoxLayout;
+  last->setSpacing(kFrameGap);
+  lines->addLayout(last);
+  PreviewLine* preview = MakePreviewLine(faces_, this);
+  last->addWidget(preview, 1);
+  if (CheckBox* box = screen_.context().current.SwitchOf(screen_)) {
+    QWidget* keep = faces_.Make<KeepFace>(*box, *preview, this).widget();
+    faces_.look().DressLabel(*keep);
+    last->addWidget(keep);
+  }
   return foot;
 }
 

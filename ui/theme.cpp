@@ -343,6 +343,7 @@ class FlatStyle : public QProxyStyle {
     if (edit.plain() || !entryBorders_) line = Qt::transparent;
     if (edit.plain()) fill = Qt::transparent;
     if (edit.mark() == Mark::Changed) fill = colors.changedFill;
+    if (edit.mark() == Mark::Outdated) fill = colors.cautionFill;
     if (edit.inRange()) fill = Blend(option.palette.color(QPalette::Base), colors.accent, 0.35);
     if (focused) {
       line = colors.accent;
@@ -356,6 +357,7 @@ class FlatStyle : public QProxyStyle {
     painter->save();
     Panel(painter, option.rect, kControlRadius, fill, line, width);
     if (edit.mark() == Mark::Changed) DrawBar(painter, option.rect, colors.accent);
+    if (edit.mark() == Mark::Outdated) DrawBar(painter, option.rect, colors.cautionBorder);
     painter->restore();
   }
 

@@ -25,12 +25,17 @@ WindowManager::WindowManager(Shell& shell) : shell_(shell), pictures_(shell, *th
         shell_.context().NoteVisit(window->screen());
     }
   });
+  KeepCurrent& current = shell_.context().current;
+  current.SetScheduler([this](std::chrono::milliseconds rest) { ScheduleRun(rest); });
+  rest_.setSingleShot(true);
+  rest_.callOnTimeout([&current] { current.Run(true); });
   shell_.SetFace(this);
   for (Screen* screen : shell_.screens()) screen->SetFace(this);
 }
 
 WindowManager::~WindowManager() {
   shell_.context().host.SetPictureMaker(nullptr);
+  shell_.context().current.SetScheduler({});
   shell_.SetFace(nullptr);
   for (Screen* screen : shell_.screens()) screen->SetFace(nullptr);
 }
@@ -58,6 +63,15 @@ Face* WindowManager::FaceOf(const Control& control) {
   if (&control.screen() == &shell_) return main_.faces().Of(control);
   ScreenWindow* window = Find(control.screen());
   return window == nullptr ? nullptr : window->faces().Of(control);
+}
+
+void WindowManager::ScheduleRun(std::chrono::milliseconds rest) {
+  if (rest.count() > 0) {
+    rest_.start(rest);
+    return;
+  }
+  QMetaObject::invokeMethod(
+      &main_, [this] { shell_.context().current.Run(false); }, Qt::QueuedConnection);
 }
 
 void WindowManager::FollowAppearance() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <memory>
 #include <vector>
 
@@ -35,11 +36,14 @@ class WindowManager : public ScreenFace {
   /// Brings the look of all windows in line with the shared values. What is open follows; a window
   /// that is closed is made anew when it opens, as the screen's size then says.
   void FollowAppearance();
+  /// Has the results kept up to date that an entry has made old.
+  void ScheduleRun(std::chrono::milliseconds rest);
 
   Shell& shell_;
   ThemeFollower theme_;
   QtPictures pictures_;
   MainWindow main_;
+  QTimer rest_;  ///< nothing is entered meanwhile
   std::vector<std::unique_ptr<ScreenWindow>> windows_;
   bool following_ = false;  ///< all windows are about to be brought in line
 };

@@ -92,17 +92,18 @@ GraphPoint PointOf(RunGraph graph, const RunRow& row) {
 }
 
 /// Takes the points of a run apart into curves.
-class CurveSink final : public RunSink {
+class CurveSink final : public ListenedSink {
  public:
   CurveSink(RunGraph graph, double carWeight, bool coastGs, const RunListener& listener)
-      : graph_(graph),
+      : ListenedSink(listener),
+        graph_(graph),
         kind_(KindOf(graph)),
         carWeight_(carWeight),
-        coastGs_(coastGs && ShowsForce(graph)),
-        listener_(listener) {}
+        coastGs_(coastGs && ShowsForce(graph)) {}
 
   bool TakesSamples() const override { return true; }
   void Sample(const RunRow& row) override {
+    GoOn();
     if (Begins(row)) {
       if (graph_ == RunGraph::DragPowerOverSpeed) {
         AddPowers(row);
@@ -110,15 +111,6 @@ class CurveSink final : public RunSink {
         AddToGear(row);
       }
     }
-  }
-  void Message(std::string_view text) override {
-    if (listener_.message) listener_.message(std::string(text));
-  }
-  void TireDiameterRaised(double inches) override {
-    if (listener_.tireDiameterRaised) listener_.tireDiameterRaised(inches);
-  }
-  void WindDirectionLowered(double degrees) override {
-    if (listener_.windDirectionLowered) listener_.windDirectionLowered(degrees);
   }
 
   std::vector<GraphCurve> Curves();
@@ -164,7 +156,6 @@ class CurveSink final : public RunSink {
   const GraphKind kind_;
   const double carWeight_;
   const bool coastGs_;
-  const RunListener& listener_;
   std::vector<GraphCurve> curves_;
   GraphCurve coast_;
   int coastGear_ = 0;

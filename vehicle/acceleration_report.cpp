@@ -22,12 +22,12 @@ constexpr double kQuarterMile = 1320;
 constexpr int kMostRows = 20000;
 
 /// Writes the chart while the run goes on.
-class ChartSink final : public RunSink {
+class ChartSink final : public ListenedSink {
  public:
   ChartSink(const AccelerationInputs& inputs, bool showsRate, bool varies, DecimalMark mark,
             const RunListener& listener)
-      : inputs_(inputs),
-        listener_(listener),
+      : ListenedSink(listener),
+        inputs_(inputs),
         showsRate_(showsRate),
         varies_(varies),
         report_(mark),
@@ -37,7 +37,10 @@ class ChartSink final : public RunSink {
     WriteChartHeader();
   }
 
-  void Row(const RunRow& row) override { WriteChartRow(row); }
+  void Row(const RunRow& row) override {
+    ListenedSink::Row(row);
+    WriteChartRow(row);
+  }
   void RolloutEnds(double elapsed) override {
     lines_->Add(">>>>--- RollOut Ends <-> 1/4 Mile Distance and ET Starts Now -- ")
         .Add<"0.00000">(elapsed)
@@ -55,15 +58,6 @@ class ChartSink final : public RunSink {
     report_.Add("The run ends in gear ").Add<"0">(from).Add(": the Trans Gear Ratio of gear ");
     report_.Add<"0">(to).Add(" is too short for the speed that was reached.").EndLine();
   }
-  void Message(std::string_view text) override {
-    if (listener_.message) listener_.message(std::string(text));
-  }
-  void TireDiameterRaised(double inches) override {
-    if (listener_.tireDiameterRaised) listener_.tireDiameterRaised(inches);
-  }
-  void WindDirectionLowered(double degrees) override {
-    if (listener_.windDirectionLowered) listener_.windDirectionLowered(degrees);
-  }
   void ExtensionBegins() override {
     lines_ = &extension_;
     rollsOut_ = true;
@@ -80,7 +74,6 @@ class ChartSink final : public RunSink {
   void AddMarks(const RunResult& result, double from, double to);
 
   const AccelerationInputs& inputs_;
-  const RunListener& listener_;
   const bool showsRate_;
   const bool varies_;
   ReportWriter report_;

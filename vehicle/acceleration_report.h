@@ -1,22 +1,15 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "core/numbers.h"
 #include "vehicle/acceleration.h"
+#include "vehicle/run_listener.h"
 
 namespace veldox {
 
 /// Points that the wide chart is printed in.
 inline constexpr int kAccelerationFontSize = 9;
-
-/// What a run tells besides its chart. Empty functions are not called.
-struct RunListener {
-  std::function<void(const std::string& text)> message;      ///< a box; the run goes on behind it
-  std::function<void(double inches)> tireDiameterRaised;     ///< the field is to show it
-  std::function<void(double degrees)> windDirectionLowered;  ///< the field is to show it
-};
 
 /// A run and its report.
 struct AccelerationChart {

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "vehicle/run_comparison.h"
+
 namespace veldox {
 
 Form13::Form13(ProgramContext& context, Grapher& grapher)
@@ -46,17 +48,37 @@ void Form13::SolveWheelTorque() {
 }
 
 void Form13::RunCar() {
-  ShowRun(Inputs.Told(
-      [this] { return ChartRun(Inputs.ReadRun(), Page.Check7.on(), mark(), Inputs.Listener()); }));
+  ShowRun(Inputs.Told([this] {
+    return ChartRun(Inputs.ReadRun(), Page.Check7.on(), mark(), Inputs.Listener());
+  }),
+          false);
 }
 
 void Form13::RunCvt() {
   ShowRun(
-      Inputs.Told([this] { return ChartCvtRun(Inputs.ReadCvtRun(), mark(), Inputs.Listener()); }));
+      Inputs.Told([this] { return ChartCvtRun(Inputs.ReadCvtRun(), mark(), Inputs.Listener()); }),
+      true);
 }
 
-void Form13::ShowRun(AccelerationChart chart) {
+void Form13::CompareWithLastRun() {
+  if (!*lastRun_) {
+    throw CommandError(ErrorKind::InvalidArgument,
+                       "There is no run to compare with yet. Please click \"Acceleration\" or "
+                       "\"CVT\" first, then change a value and click this button.");
+  }
+  const LastRun& last = **lastRun_;
+  const RunListener listener = Inputs.Listener();
+  const RunResult now = Inputs.Told([&] {
+    ListenedSink sink(listener);
+    return last.isCvt ? SimulateCvtRun(Inputs.ReadCvtRun(), sink)
+                      : SimulateRun(Inputs.ReadRun(), sink);
+  });
+  ShowReport(CompareRuns(last.result, now, mark()));
+}
+
+void Form13::ShowRun(AccelerationChart chart, bool isCvt) {
   Inputs.KeepResult(chart.result);
+  lastRun_ = LastRun{chart.result, isCvt};
   ShowReport(std::move(chart.report), kAccelerationFontSize);
 }
 

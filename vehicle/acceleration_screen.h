@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include "core/kept.h"
 #include "core/panel.h"
 #include "core/screen.h"
 #include "graph/grapher.h"
@@ -37,8 +40,16 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
   /// A closed screen may hold old values: it takes the shared ones as if it opened, so that its
   /// commands put nothing back.
   void TakeShared();
+  void CompareWithLastRun();
   /// Shows the chart of a run and keeps what it came to.
-  void ShowRun(AccelerationChart chart);
+  void ShowRun(AccelerationChart chart, bool isCvt);
+
+  /// The run whose chart was shown last.
+  struct LastRun {
+    RunResult result;
+    bool isCvt = false;
+  };
+  Kept<std::optional<LastRun>> lastRun_{*this};
 
  public:
   AccelerationPage Page{*this, Torques};
@@ -68,6 +79,11 @@ class Form13 : public Screen, public GearboxTaker, public DragTaker {
       "Acceleration and Top Speed Prediction Chart of a Continuously Variable Transmission, which "
       "keeps the engine at the CVT RPM, using CVT Power Loss in place of gears and shifts.",
       &Form13::RunCvt};
+  Command Command34{
+      RunFrame, "Command34", "Compare With Last Run",
+      "Run the car with the present values beside the last chart of Acceleration or CVT: time and "
+      "speed at each mark, top speed and traction of both runs, and the difference.",
+      &Form13::CompareWithLastRun};
   Frame CarFrame{*this, "CarFrame", "Gears and Nitrous", 1};
   Command Command21{CarFrame, "Command21", "Trans/Shift RPM",
                     "Trans Gear Ratios, Tire Growth, Power Loss, Shift RPM and Shift Times.",

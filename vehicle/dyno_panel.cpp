@@ -39,6 +39,13 @@ constexpr std::array kColumnGraphs{DynoGraph::Fuel,
                                    DynoGraph::CorrectionFactor,
                                    DynoGraph::Bsac};
 
+/// The legends of all curves, a line each.
+std::string LegendsOf(const PlotEngine& plot) {
+  std::string legends;
+  for (const PlotSeriesRecord& series : plot.series()) legends += series.Legend() + '\n';
+  return legends;
+}
+
 /// True for a graph whose axes end where the user says.
 bool HasLimits(RunGraph graph) {
   return graph != RunGraph::WheelTorqueOverRpm && graph != RunGraph::AccelerationOverTime &&
@@ -161,9 +168,20 @@ void DynoPanel::DrawRun(RunGraph graph, bool adds) {
     throw CommandError(ErrorKind::InvalidArgument, kNoNitrous);
   }
   const RunGraphLimits limits = ReadLimits(graph);
-  const RunPlot plot = inputs_.Told(
+  RunPlot plot = inputs_.Told(
       [&] { return PlotRun(graph, inputs_.ReadRun(), limits, Check8.on(), inputs_.Listener()); });
+  const std::size_t before = grapher_.plot().series().size();
+  const bool addsToRuns = adds && *runs_ > 0 && LegendsOf(grapher_.plot()) == *legends_;
+  if (addsToRuns) {
+    const std::string name = "Run " + std::to_string(*runs_ + 1);
+    for (GraphCurve& curve : plot.curves) {
+      curve.note = curve.note.empty() ? name : name + ", " + curve.note;
+    }
+  }
   ShowPlot(plot, adds);
+  if (addsToRuns && *runs_ == 1) grapher_.ChangePlot().NameCurves("Run 1", before);
+  runs_ = addsToRuns ? *runs_ + 1 : adds ? 0 : 1;
+  legends_ = LegendsOf(grapher_.plot());
   // Graphs of the gears apart know nothing of the strip.
   if (plot.result.Et() > 0) inputs_.KeepResult(plot.result);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "core/field_array.h"
 #include "core/kept.h"
@@ -47,7 +48,9 @@ class DynoPanel : public ScreenPart {
 
   RunInputs& inputs_;
   Grapher& grapher_;
-  Kept<Graph> last_{screen()};  ///< empty before the first graph
+  Kept<Graph> last_{screen()};           ///< empty before the first graph
+  Kept<int> runs_{screen()};             ///< that were drawn onto one graph
+  Kept<std::string> legends_{screen()};  ///< of that graph, which tell whether it is there still
 
  public:
   ScreenPage Frame8{screen(), "Frame8", "Graphing and Dyno Sheet / Text Report"};

@@ -103,6 +103,7 @@ RunListener RunInputs::Listener() {
     block().WindDirection = degrees;
     ShowAs<"0">(page.Text38, degrees);
   };
+  listener.goesOn = [this] { screen().context().StopInTime(); };
   return listener;
 }
 

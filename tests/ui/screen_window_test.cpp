@@ -143,8 +143,8 @@ TEST_F(Form1WindowTest, TabKeyWalksInReadingOrder) {
     visited.push_back(QApplication::focusWidget());
   }
   // All fields, the four boxes, one button of each option group, the commands that are
-  // built, and Quit.
-  std::size_t expected = 0;
+  // built, Quit, and the switch in the foot.
+  std::size_t expected = 1;
   for (const Control* control : shell().FindScreen("Form1")->controls()) {
     const ControlKind kind = control->kind();
     const bool one = kind == ControlKind::Field || kind == ControlKind::CheckBox ||
@@ -152,6 +152,8 @@ TEST_F(Form1WindowTest, TabKeyWalksInReadingOrder) {
     if (one && control->enabled()) ++expected;
   }
   EXPECT_EQ(visited.size(), expected);
+  EXPECT_EQ(visited.back()->objectName(), QStringLiteral("KeepUpToDate"));
+  visited.pop_back();
   const auto panelOf = [](const QWidget* widget) {
     while (widget != nullptr && qobject_cast<const QGroupBox*>(widget) == nullptr) {
       widget = widget->parentWidget();

@@ -344,8 +344,8 @@ TEST_F(PanelWindowTest, TabStaysInThePanel) {
     if (FocusName() == walked.front()) break;
     walked.push_back(FocusName());
   }
-  EXPECT_EQ(walked,
-            (std::vector<std::string>{"Text7(0)", "Text8", "Command8", "Command91(4)", "subend"}));
+  EXPECT_EQ(walked, (std::vector<std::string>{"Text7(0)", "Text8", "Command8", "Command91(4)",
+                                              "subend", "KeepUpToDate"}));
 }
 
 TEST_F(PanelWindowTest, ScrollAndFocusAreKeptUnderAPanel) {

@@ -143,5 +143,24 @@ TEST_F(StepsWindowTest, TheListOfTheStepsGoesBackByAClick) {
   EXPECT_EQ(Edit("Text6").text(), QStringLiteral("326.7256"));
 }
 
+TEST_F(StepsWindowTest, ThePanelsOfTheMainWindowTellToo) {
+  shell().Choose(*Shell::FindMenuItem("Graph"));
+  Settle();
+  QWidget& main = windows->main();
+  const auto& line = Child<QLabel>(main, "PreviewLine");
+  const auto tells = [&](const char* command) {
+    EnterWidget(Child<QPushButton>(main, command));
+    Settle();
+    return FromQt(line.toolTip());
+  };
+  EXPECT_EQ(tells("Graph_Head"), "Graph Heads -- Is OFF to Graph Heads -- Is ON");
+  EXPECT_EQ(tells("FontColor"), "It asks for a colour.");
+  Model<Command>("Main.Command4").Click();
+  EXPECT_EQ(tells("Command4"), "It changes nothing.") << "the widths are what they were";
+  Model<Field>("Main.Text21").SetText("3");
+  EXPECT_EQ(tells("Command4"), "It changes values that no field shows.");
+  EXPECT_EQ(tells("Command2"), "") << "what closes tells nothing";
+}
+
 }  // namespace
 }  // namespace veldox::testing
