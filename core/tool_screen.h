@@ -64,7 +64,7 @@ class ToolScreen : public Screen {
   void WorkOn(Screen* subject);
   /// Chooses what a control of a screen is for: a field that is changed, a command that is run.
   void WorkOn(Control& control);
-  /// Chooses a field, or the first command that it is a result of, as the result.
+  /// Chooses a field as the result, a command that shows it and a field that it depends on.
   void AskFor(Field& result);
 
   /// True for a screen that has a field and a command to work on.

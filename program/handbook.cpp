@@ -300,6 +300,8 @@ std::string ComposePictureScript(Shell& shell) {
   for (const Screen* screen : InMenuOrder(shell)) {
     const MenuItem* item = OpenedBy(*screen);
     if (item == nullptr) continue;
+    // Tools are shown at work on the first screen of the menu.
+    if (screen->IsTool()) script += "menu CubicInch\n";
     script += "menu " + std::string(item->name) + "\npicture " + screen->name() + ' ' +
               screen->name() + ".png\n";
   }
