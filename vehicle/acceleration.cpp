@@ -63,6 +63,10 @@ constexpr int kMostIntervalSamples = 40;
 /// none.
 constexpr double kLeastAcceleration = 1e-6;
 
+/// Tires that hold from here on have limited nothing that a report with tenths of a foot could
+/// tell.
+constexpr double kLeastLimitedFeet = 0.05;
+
 // Bounds that keep a run within steps and speeds that there are
 constexpr double kMostRpm = 1e6;
 constexpr double kLeastRpmGap = 0.01;
@@ -871,7 +875,7 @@ RunResult Run::Finish(RunEnd end) {
   result_.steps = now_.steps;
   result_.last = Row();
   result_.end = end;
-  if (now_.limitedFeet > 0) result_.tractionLimitedFeet = now_.limitedFeet;
+  if (now_.limitedFeet >= kLeastLimitedFeet) result_.tractionLimitedFeet = now_.limitedFeet;
   TakeTopSpeed();
   if (!(result_.topSpeed > 0)) {
     result_.end = RunEnd::NoThrust;

@@ -195,8 +195,7 @@ void ChartSink::AddSpeeds(const RunResult& result) {
   }
   if (!varies_) report_.Add(", in gear ").Add<"0">(result.topSpeedGear);
   report_.Add(" at ").Add<"0">(result.topSpeedRpm).Add(" RPM.").EndLine();
-  constexpr double kShownFeet = 0.05;
-  if (result.tractionLimitedFeet && *result.tractionLimitedFeet >= kShownFeet) {
+  if (result.tractionLimitedFeet) {
     report_.Add("The tires (Coefficient of Mu) limit the run until ");
     report_.Add<"0.0">(*result.tractionLimitedFeet).Add(" feet.").EndLine();
   }

@@ -239,7 +239,7 @@ TEST_F(DynoPanelTest, AirThatNoDynoStandsInIsRefusedAtItsField) {
   const auto refusedAt = [&](Field& field, const char* text) {
     const std::string before = field.text();
     field.SetText(text);
-    const std::string told = Refused(panel().Command18);
+    std::string told = Refused(panel().Command18);
     EXPECT_EQ(field.mark(), Mark::Error) << text;
     field.SetText(before);
     return told;
