@@ -56,7 +56,8 @@ Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> lim
   DryRun run(command.screen().context());
   if (limit) run.SetLimit(*limit);
   const auto start = std::chrono::steady_clock::now();
-  const bool done = command.Run();
+  // A field that keeps the keyboard keeps the click as well.
+  const bool done = (!command.Reachable() || command.screen().MoveFocus(&command)) && command.Run();
   preview.took = std::chrono::duration_cast<std::chrono::microseconds>(
       std::chrono::steady_clock::now() - start);
   preview.error = run.log().error;
@@ -73,6 +74,9 @@ Preview PreviewOf(Command& command, std::optional<std::chrono::microseconds> lim
     preview.report = shown.report;
     preview.graph = shown.graph;
     if (preview.changes.empty()) preview.unshown = run.ChangesValues();
+    const bool saysNothing = preview.changes.empty() && preview.notes.empty() && !preview.report &&
+                             !preview.graph && !preview.unshown;
+    if (saysNothing && !run.log().sentence.empty()) preview.notes.push_back(run.log().sentence);
   }
   return preview;
 }

@@ -16,6 +16,7 @@ namespace veldox {
 struct DryRunLog {
   std::string error;               ///< why it cannot, empty where it can
   std::vector<std::string> notes;  ///< the boxes that have OK alone
+  std::string sentence;            ///< what it said in the help place last
   /// When it has to be over; nothing where it may take its time.
   std::optional<std::chrono::steady_clock::time_point> end;
   bool ranOutOfTime = false;

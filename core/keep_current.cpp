@@ -89,7 +89,8 @@ CheckBox* KeepCurrent::SwitchOf(Screen& screen) {
            command->role() == CommandRole::Calculates;
   });
   Switch& made = switches_[&screen];
-  if (!calculates) return nullptr;
+  // A tool works things out for another screen, each time as it is asked.
+  if (!calculates || screen.IsTool()) return nullptr;
   made.box = std::make_unique<CheckBox>(screen, Control::InFoot(), std::string(kSwitchName),
                                         kCaption, kOffered, [this, &screen] { Turned(screen); });
   if (IsOn(screen)) {

@@ -729,6 +729,7 @@ void Screen::Hover(Control* control) {
 }
 
 void Screen::ShowHelp(const std::string& sentence) {
+  if (DryRunLog* log = context_.gate.log()) log->sentence = sentence;
   Control* place = HelpPlace();
   if (place == nullptr) return;
   // A report is not written over by what the pointer passes.

@@ -3,13 +3,20 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 #include <utility>
 
 #include "core/dry_run.h"
+#include "core/text.h"
 
 namespace veldox {
 
 namespace {
+
+/// What a range's end may lack of a step.
+constexpr double kMostSlack = 0.01;
+/// A result this part away from its target, of the target or of what the ends give, is another one.
+constexpr double kMostMiss = 0.005;
 
 constexpr const char* kTooMany = "These are more than 100,000 values. Please choose a larger step.";
 
@@ -22,6 +29,11 @@ void RequireUse(const Field& field, const Command& command) {
     Refuse('"' + field.PlainCaption() + "\" takes no number.");
   }
   if (!command.isBuilt() || !command.enabled()) Refuse("This command cannot be used now.");
+}
+
+std::string NameOf(const Control& control) {
+  const std::string caption(Trim(control.PlainCaption()));
+  return caption.empty() ? control.name() : caption;
 }
 
 /// A text that is put into a field before the command runs.
@@ -46,6 +58,9 @@ std::string Try(std::initializer_list<Setting> settings, Command& command,
     return {};
   }
   if (run.log().ranOutOfTime) return "It takes too long.";
+  if (run.log().wasRefused) {
+    Refuse('"' + NameOf(command) + "\" cannot be run for a trial. " + run.log().error);
+  }
   if (!run.log().error.empty()) return run.log().error;
   return run.log().notes.empty() ? std::string("It has nothing to do.") : run.log().notes.back();
 }
@@ -84,6 +99,72 @@ double LastDigit(double value) {
   return std::pow(10.0, -std::clamp(decimals, 0, kMostDecimals));
 }
 
+/// Narrows an interval that has the target between its ends until these are one unit of the last
+/// digit apart. @return the better end, and the other one
+template <class Point, class F>
+std::pair<Point, Point> Bracketed(const Point& low, const Point& high, bool isWhole,
+                                  const F& resultAt) {
+  // Names as in Brent: b is the best so far, c the other end of the interval, d the last step.
+  Point a = low;
+  Point b = high;
+  Point c = a;
+  double d = b.at - a.at;
+  double e = d;
+  constexpr int kMostSteps = 200;
+  for (int step = 0; step < kMostSteps && b.miss != 0; ++step) {
+    if ((b.miss > 0) == (c.miss > 0)) {
+      c = a;
+      d = e = b.at - a.at;
+    }
+    if (std::abs(c.miss) < std::abs(b.miss)) {
+      a = b;
+      b = c;
+      c = a;
+    }
+    if (b.miss == 0) break;
+    const double half = (c.at - b.at) / 2;
+    if (isWhole) {
+      // Between whole numbers a secant leads nowhere.
+      if (std::abs(half) < 1) break;
+      a = b;
+      b = resultAt(std::trunc((b.at + c.at) / 2));
+      continue;
+    }
+    const double tolerance = LastDigit(b.at) / 2;
+    if (std::abs(half) <= tolerance / 2) break;
+    if (std::abs(e) < tolerance || std::abs(a.miss) <= std::abs(b.miss)) {
+      d = e = half;
+    } else {
+      double p = 0;
+      double q = 0;
+      const double s = b.miss / a.miss;
+      if (a.at == c.at) {
+        p = 2 * half * s;
+        q = 1 - s;
+      } else {
+        const double r = b.miss / c.miss;
+        const double t = a.miss / c.miss;
+        p = s * (2 * half * t * (t - r) - (b.at - a.at) * (r - 1));
+        q = (t - 1) * (r - 1) * (s - 1);
+      }
+      if (p > 0) {
+        q = -q;
+      } else {
+        p = -p;
+      }
+      if (2 * p < std::min(3 * half * q - std::abs(tolerance * q), std::abs(e * q))) {
+        e = d;
+        d = p / q;
+      } else {
+        d = e = half;
+      }
+    }
+    a = b;
+    b = resultAt(b.at + (std::abs(d) > tolerance ? d : (half > 0 ? tolerance : -tolerance)));
+  }
+  return {b, c};
+}
+
 }  // namespace
 
 std::size_t ValueRange::Count() const {
@@ -96,9 +177,13 @@ std::size_t ValueRange::Count() const {
     Refuse(by > 0 ? "The range ends below its beginning: the step must be below 0 then."
                   : "The range ends above its beginning: the step must be above 0 then.");
   }
-  // A step of .1 must come to the end of a range of 1, though ten of them are a little less.
-  constexpr double kSlack = 1e-9;
-  const double count = Floor(steps + kSlack) + 1;
+  // A step of .1 must come to the end of a range of 1, though ten of them are a little less; the
+  // more so where the step is small beside the ends.
+  constexpr double kLeastSlack = 1e-9;
+  constexpr double kRoundings = 4 * std::numeric_limits<double>::epsilon();
+  const double slack =
+      std::max(kLeastSlack, kRoundings * (std::abs(from) + std::abs(to)) / std::abs(by));
+  const double count = Floor(steps + std::min(slack, kMostSlack)) + 1;
   if (!(count <= static_cast<double>(kMostVaried))) {
     Refuse(kTooMany);
   }
@@ -173,100 +258,66 @@ std::string Seek(Field& field, const Sought& sought, Command& command, Control& 
   }
   if (sought.low >= sought.high) Refuse("The low end must be below the high end.");
   const DecimalMark mark = field.screen().mark();
+  const bool isWhole = field.rule() == KeyRule::Digits || field.rule() == KeyRule::SignedDigits;
   const auto textOf = [&](double value) { return FormatField(value, mark); };
+  const auto entryOf = [&](double value) {
+    return isWhole ? FormatInt(value, mark) : textOf(value);
+  };
+  struct Point {
+    double at;
+    double miss;  ///< what the result is above the target
+    std::string shown;
+  };
   const auto resultAt = [&](double value) {
-    double number = 0;
-    std::string fault;
-    const std::string text = textOf(value);
+    Point point{value, 0, {}};
+    const std::string text = entryOf(value);
+    bool isNumber = false;
     const std::string error = Try({{&field, text}}, command, [&] {
-      try {
-        number = NumberOf(result);
-      } catch (const CommandError&) {
-        fault = '"' + result.PlainCaption() + "\" is no number";
-      }
-      if (fault.empty() && !std::isfinite(number)) {
-        fault = '"' + result.PlainCaption() + "\" is no number";
-      }
+      point.shown = ShownText(result);
+      isNumber = IsNumber(point.shown, mark);
+      if (!isNumber) return;
+      const double number = NumberOf(result);
+      isNumber = std::isfinite(number);
+      point.miss = number - sought.target;
     });
-    if (!fault.empty()) Refuse(fault + " at " + textOf(value) + '.');
-    if (!error.empty()) Refuse("At " + textOf(value) + ": " + error);
-    return number;
+    if (!error.empty()) Refuse("At " + text + ": " + error);
+    if (!isNumber) Refuse('"' + NameOf(result) + "\" is no number at " + text + '.');
+    return point;
+  };
+  const auto tell = [&](const Point& one, const Point& other) {
+    return '"' + NameOf(result) + "\" is " + textOf(one.miss + sought.target) + " at " +
+           entryOf(one.at) + " and " + textOf(other.miss + sought.target) + " at " +
+           entryOf(other.at) + ": ";
   };
   double best = 0;
   {
     const FloatGuard guard;
-    double a = sought.low;
-    double b = sought.high;
-    const double atLow = resultAt(a);
-    const double atHigh = resultAt(b);
-    double fa = atLow - sought.target;
-    double fb = atHigh - sought.target;
-    if ((fa > 0) == (fb > 0) && fa != 0 && fb != 0) {
-      Refuse('"' + result.PlainCaption() + "\" is " + textOf(atLow) + " at " + textOf(a) + " and " +
-             textOf(atHigh) + " at " + textOf(b) + ": " + textOf(sought.target) +
-             " is not between them.");
+    // Ends between two whole numbers are those within them.
+    const Point low = resultAt(isWhole ? std::ceil(sought.low) : sought.low);
+    const Point high = resultAt(isWhole ? std::floor(sought.high) : sought.high);
+    const auto isShown = [&](const Point& end) {
+      return ParseNumber(end.shown, mark) == sought.target;
+    };
+    const bool isBracketed = (low.miss > 0) != (high.miss > 0) || low.miss == 0 || high.miss == 0;
+    if (!isBracketed && isShown(low)) {
+      best = low.at;
+    } else if (!isBracketed && isShown(high)) {
+      best = high.at;
+    } else if (!isBracketed) {
+      Refuse(tell(low, high) + textOf(sought.target) + " is not between them.");
+    } else {
+      const auto [found, beside] = Bracketed(low, high, isWhole, resultAt);
+      const double scale = std::max(std::abs(sought.target), std::abs(high.miss - low.miss));
+      if (std::abs(found.miss) > kMostMiss * scale) {
+        Refuse(tell(found, beside) + "no value between them gives " + textOf(sought.target) + '.');
+      }
+      best = found.at;
     }
-    // Names as in Brent: b is the best so far, c the other end of the interval, d the last step.
-    double c = a;
-    double fc = fa;
-    double d = b - a;
-    double e = d;
-    constexpr int kMostSteps = 200;
-    for (int step = 0; step < kMostSteps && fb != 0; ++step) {
-      if ((fb > 0) == (fc > 0)) {
-        c = a;
-        fc = fa;
-        d = e = b - a;
-      }
-      if (std::abs(fc) < std::abs(fb)) {
-        a = b;
-        b = c;
-        c = a;
-        fa = fb;
-        fb = fc;
-        fc = fa;
-      }
-      const double tolerance = LastDigit(b) / 2;
-      const double half = (c - b) / 2;
-      if (std::abs(half) <= tolerance / 2) break;
-      if (std::abs(e) < tolerance || std::abs(fa) <= std::abs(fb)) {
-        d = e = half;
-      } else {
-        double p = 0;
-        double q = 0;
-        const double s = fb / fa;
-        if (a == c) {
-          p = 2 * half * s;
-          q = 1 - s;
-        } else {
-          const double r = fb / fc;
-          const double t = fa / fc;
-          p = s * (2 * half * t * (t - r) - (b - a) * (r - 1));
-          q = (t - 1) * (r - 1) * (s - 1);
-        }
-        if (p > 0) {
-          q = -q;
-        } else {
-          p = -p;
-        }
-        if (2 * p < std::min(3 * half * q - std::abs(tolerance * q), std::abs(e * q))) {
-          e = d;
-          d = p / q;
-        } else {
-          d = e = half;
-        }
-      }
-      a = b;
-      fa = fb;
-      b += std::abs(d) > tolerance ? d : (half > 0 ? tolerance : -tolerance);
-      fb = resultAt(b) - sought.target;
-    }
-    best = b;
   }
   const History::Step step(
       field.screen().context(), History::Kind::Other,
-      field.PlainCaption() + " sought for " + result.PlainCaption() + ' ' + textOf(sought.target));
-  field.Edit(textOf(best));
+      NameOf(field) + " sought for " + NameOf(result) + ' ' + textOf(sought.target));
+  field.Edit(entryOf(best));
   command.Run();
   return field.text();
 }

@@ -373,7 +373,11 @@ void ScriptRunner::TellVaried(std::string_view text) {
   try {
     for (const VariedLine& line : Vary(field, range, command, results)) {
       std::string told = EscapeText(line.text);
-      for (const std::string& result : line.results) told += '\t' + EscapeText(result);
+      for (std::size_t i = 0; i < line.results.size(); ++i) {
+        const bool isNumber = IsNumber(line.results[i], program_.context().mark());
+        told += '\t' + (isNumber ? EscapeText(line.results[i])
+                                 : "error: \"" + results[i]->name() + "\" shows no number.");
+      }
       if (!line.error.empty()) told += "\terror: " + EscapeText(line.error);
       print_(told);
     }

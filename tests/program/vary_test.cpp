@@ -3,6 +3,7 @@
 
 #include "core/vary.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -294,6 +295,27 @@ TEST_F(VaryTest, ATargetBeyondTheEndsIsToldWithWhatTheyGive) {
             }),
             "The low end must be below the high end.");
   EXPECT_TRUE(host_.messages.empty());
+}
+
+TEST_F(VaryTest, SeekTriesWholeNumbersWhereAFieldHoldsSuch) {
+  // Each cylinder of 4.0 x 3.25 is 40.8407 cubic inches.
+  EXPECT_EQ(Seek(Find("Form1.Text2"), {1, 16, 408.407}, Find<Command>("Form1.Command1"),
+                 Find("Form1.Text6")),
+            "10");
+  try {
+    Seek(Find("Form1.Text2"), {1, 16, 300}, Find<Command>("Form1.Command1"), Find("Form1.Text6"));
+    ADD_FAILURE() << "no number of cylinders gives 300";
+  } catch (const CommandError& error) {
+    EXPECT_THAT(error.message(), ::testing::HasSubstr("285.8849 at 7"));
+    EXPECT_THAT(error.message(), ::testing::HasSubstr("326.7256 at 8"));
+  }
+  EXPECT_EQ(Find("Form1.Text2").text(), "10");
+}
+
+TEST_F(VaryTest, ATinyStepComesToTheEndOfItsRange) {
+  EXPECT_EQ((ValueRange{5227, 5227.0021, 0.0001}).Count(), 22U);
+  EXPECT_EQ((ValueRange{0, 1, 0.1}).Count(), 11U);
+  EXPECT_EQ((ValueRange{0, 0.95, 0.1}).Count(), 10U);
 }
 
 }  // namespace
