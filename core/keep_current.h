@@ -59,7 +59,7 @@ class KeepCurrent {
   void Entered(Control& control);
   /// A command was clicked and has done its work.
   void Ran(const Command& command);
-  /// Steps were undone or done again, with all that followed of them.
+  /// Other values have come as a whole: steps undone or done again, a file that was read, "Clear".
   void PutBack();
   /// Does what entries have left to be done.
   /// @param rested  nothing was entered for a while

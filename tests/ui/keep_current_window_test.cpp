@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "tests/ui/window_test.h"
 #include "ui/field_edit.h"
@@ -24,6 +25,11 @@ class KeepCurrentWindowTest : public WindowTest {
     Settle();
   }
 
+  /// Results come at once, or after a rest where the machine has much to do.
+  bool Comes(const char* name, const char* text) {
+    return WaitFor([&] { return Edit(name).text() == QLatin1String(text); });
+  }
+
   QWidget& window;
 };
 
@@ -35,7 +41,7 @@ TEST_F(KeepCurrentWindowTest, ResultsFollowTheTypingAndOneStepTakesBothBack) {
   EXPECT_EQ(Line().text(), QStringLiteral("\"Engine Size\" will run again after every entry."));
   Enter("Text1");
   TypeText(Edit("Text1"), "4.125");
-  EXPECT_EQ(Edit("Text6").text(), QStringLiteral("347.4650"));
+  EXPECT_TRUE(Comes("Text6", "347.4650"));
   EXPECT_EQ(Edit("Text1").text(), QStringLiteral("4.125"));
   EXPECT_TRUE(Edit("Text1").hasFocus());
   EXPECT_EQ(Edit("Text1").cursorPosition(), 5);
@@ -55,7 +61,7 @@ TEST_F(KeepCurrentWindowTest, TypingInTheMiddleKeepsTheCaret) {
   TypeText(Edit("Text1"), "1");
   EXPECT_EQ(Edit("Text1").text(), QStringLiteral("4.10"));
   EXPECT_EQ(Edit("Text1").cursorPosition(), 3);
-  EXPECT_EQ(Edit("Text6").text(), QStringLiteral("343.2661"));
+  EXPECT_TRUE(Comes("Text6", "343.2661"));
 }
 
 TEST_F(KeepCurrentWindowTest, ResultsThatAreOutOfDateAreSlantedAndSayIt) {
@@ -64,16 +70,17 @@ TEST_F(KeepCurrentWindowTest, ResultsThatAreOutOfDateAreSlantedAndSayIt) {
   Enter("Text1");
   PressKey(Edit("Text1"), Qt::Key_Backspace, QStringLiteral("\b"));
   EXPECT_EQ(Edit("Text1").text(), QString());
-  EXPECT_TRUE(Line().text().startsWith(QStringLiteral("Out of date: \"Bore\"")))
-      << FromQt(Line().text());
+  EXPECT_TRUE(WaitFor([&] {
+    return Line().text().startsWith(QStringLiteral("Out of date: \"Bore\""));
+  })) << FromQt(Line().text());
   EXPECT_TRUE(Edit("Text6").font().italic());
   EXPECT_TRUE(Edit("Text6").toolTip().startsWith(QStringLiteral("Out of date")));
   EXPECT_TRUE(Edit("Text6").accessibleDescription().startsWith(QStringLiteral("Out of date")));
   EXPECT_FALSE(Edit("Text1").font().italic());
   Enter("Text1");
   TypeText(Edit("Text1"), "4");
+  EXPECT_TRUE(WaitFor([&] { return !Edit("Text6").font().italic(); }));
   EXPECT_EQ(Edit("Text6").text(), QStringLiteral("326.7256"));
-  EXPECT_FALSE(Edit("Text6").font().italic());
   EXPECT_FALSE(Edit("Text6").toolTip().startsWith(QStringLiteral("Out of date")));
 }
 
@@ -97,18 +104,19 @@ TEST_F(KeepCurrentWindowTest, AReportThatIsMadeAnewStaysScrolled) {
   const QString before = report.toPlainText();
   Enter("Text3");
   TypeText(Edit("Text3"), "3.5");
+  EXPECT_TRUE(
+      WaitFor([&] { return report.toPlainText().contains(QStringLiteral("Stroke = 3.5 ")); }));
   EXPECT_NE(report.toPlainText(), before);
   EXPECT_EQ(report.verticalScrollBar()->value(), 100);
   EXPECT_TRUE(Edit("Text3").hasFocus());
-  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
-  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
-  PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
-  bool isTold = false;
-  for (const QLabel* label : window.findChildren<QLabel*>()) {
-    isTold = isTold || (label->isVisible() &&
-                        label->text().startsWith(QStringLiteral("Out of date: values")));
-  }
-  EXPECT_TRUE(isTold) << "beside the report";
+  for (int i = 0; i < 3; ++i) PressKey(Edit("Text3"), Qt::Key_Backspace, QStringLiteral("\b"));
+  const auto isTold = [&] {
+    const QList<QLabel*> labels = window.findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+      return label->isVisible() && label->text() == QLatin1String(kOutOfDate);
+    });
+  };
+  EXPECT_TRUE(WaitFor(isTold)) << "beside the report";
 }
 
 }  // namespace
