@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -233,6 +234,9 @@ QLayout* ScreenWindow::BuildFoot(Control* quit) {
   if (CheckBox* box = screen_.context().current.SwitchOf(screen_)) {
     QWidget* keep = faces_.Make<KeepFace>(*box, *preview, this).widget();
     faces_.look().DressLabel(*keep);
+    // No room around its letters: a window that fills the smallest screen has none to give.
+    keep->setFixedHeight(std::max(keep->fontMetrics().height(),
+                                  keep->style()->pixelMetric(QStyle::PM_IndicatorHeight)));
     last->addWidget(keep);
   }
   return foot;

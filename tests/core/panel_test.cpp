@@ -83,8 +83,9 @@ TEST_F(PanelTest, OnlyTheTopPanelIsInTheTabOrder) {
     walked.push_back(at);
     ASSERT_LT(walked.size(), 50U);
   }
-  const std::vector<const Control*> expected{&bench_.Text7, &bench_.Text8, &bench_.Command8,
-                                             &bench_.Command91[4], &bench_.subend};
+  const std::vector<const Control*> expected{
+      &bench_.Text7,        &bench_.Text8,  &bench_.Command8,
+      &bench_.Command91[4], &bench_.subend, bench_.context().current.SwitchOf(bench_)};
   EXPECT_EQ(walked, expected);
 }
 
