@@ -59,6 +59,18 @@ QWidget* SheetStack::AddSheet(Frame* frame, const std::vector<Frame*>& frames, Q
   return scroll;
 }
 
+namespace {
+
+/// True for a page that has a button.
+bool IsTurnedTo(const Screen& screen, const ScreenPage& page) {
+  return std::ranges::any_of(screen.controls(), [&](const Control* control) {
+    const auto* command = dynamic_cast<const Command*>(control);
+    return command != nullptr && command->page() == &page;
+  });
+}
+
+}  // namespace
+
 QWidget* SheetStack::BuildPages(QWidget* page) {
   auto* pile = new QVBoxLayout(page);
   pile->setContentsMargins(0, 0, 0, 0);
@@ -81,6 +93,8 @@ QWidget* SheetStack::BuildPages(QWidget* page) {
     inside->setSpacing(0);
     QLabel* name = MakeName(faces_.look(), sheet);
     inside->addWidget(name);
+    // The page that a screen opens with, and that no button turns to, goes by the window's title.
+    if (!IsTurnedTo(faces_.screen(), *each)) name->hide();
     std::vector<Frame*> own;
     AppendFrames(*each, own);
     inside->addWidget(AddSheet(each, own, sheet), 1);
