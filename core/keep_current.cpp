@@ -15,7 +15,7 @@ constexpr const char* kCaption = "Keep up to date";
 constexpr const char* kOffered =
     "Run the last command of this screen again after every entry, where that changes only its "
     "results.";
-constexpr const char* kWaits = "The next command that is clicked will be kept up to date.";
+constexpr const char* kWaits = "Click the command whose results are to be kept up to date.";
 
 /// A sentence of a box in one line, without a stop at its end.
 std::string InALine(std::string text) {

@@ -56,6 +56,7 @@ void SeekScreen::Edited(const Control& control) {
 
 void SeekScreen::SeekValue() {
   RefuseDryRun("It seeks by running the command.");
+  RequireSeenUnits();
   Field& field = ChosenField();
   Command& command = ChosenCommand();
   Control* result = ResultList.chosenControl();

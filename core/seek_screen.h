@@ -47,7 +47,7 @@ class SeekScreen : public ToolScreen {
 
   Frame FoundFrame{*this, "FoundFrame", "Found", 1};
   ResultLabel Found{FoundFrame, "Found", "Field", Unit::None,
-                    "The value that was found. It stands in the field now."};
+                    "The value that was found and put into the field."};
   ResultLabel Reached{FoundFrame, "Reached", "Result", Unit::None,
                       "The result that the command has given with it."};
 

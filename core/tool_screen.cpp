@@ -359,9 +359,19 @@ void ToolScreen::Visited() {
   WorkOn(subject_);
   if (Control* field = FieldList.chosenControl()) FieldChosen(static_cast<Field&>(*field));
   if (Field* result = ChosenResult()) ChooseResult(*result);
+  hasOtherUnits_ = true;
+}
+
+void ToolScreen::RequireSeenUnits() {
+  if (!std::exchange(hasOtherUnits_, false)) return;
+  throw CommandError(ErrorKind::InvalidArgument,
+                     "The units of \"" + subject_->title() +
+                         "\" were switched. The values here have followed, from the beginning: "
+                         "please look at them and click again.");
 }
 
 void ToolScreen::Edited(const Control& control) {
+  hasOtherUnits_ = false;  // who types has seen them
   if (subject_ == nullptr) return;
   if (&control == &FieldList) FieldChosen(static_cast<Field&>(*FieldList.chosenControl()));
   if (&control == &FieldList || &control == &CommandList) OfferResults(true);

@@ -91,6 +91,9 @@ class ToolScreen : public Screen {
   std::vector<Control*> FindResults(std::size_t& depending);
   /// Ends a command that runs only to tell what it would do. @throws CommandError
   void RefuseDryRun(const char* what) const;
+  /// Ends a command, once, whose values have followed other units since the user has seen them.
+  /// @throws CommandError
+  void RequireSeenUnits();
 
   /// The chosen field is another one: ranges follow.
   virtual void FieldChosen(const Field& field) = 0;
@@ -104,7 +107,8 @@ class ToolScreen : public Screen {
 
  private:
   Screen* subject_ = nullptr;
-  bool isMetric_ = false;  ///< the subject, when its fields were listed
+  bool isMetric_ = false;       ///< the subject, when its fields were listed
+  bool hasOtherUnits_ = false;  ///< than when the user has last worked here
 
  public:
   Frame SubjectFrame{*this, "SubjectFrame", "Screen", 0};

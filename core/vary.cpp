@@ -265,29 +265,39 @@ std::string Seek(Field& field, const Sought& sought, Command& command, Control& 
   };
   struct Point {
     double at;
-    double miss;  ///< what the result is above the target
+    double number;  ///< the result
+    double miss;    ///< what it is above the target
     std::string shown;
   };
   const auto resultAt = [&](double value) {
-    Point point{value, 0, {}};
+    // What shows as 0 is 0, without a sign.
+    if (std::abs(value) < LastDigit(value) / 2) value = 0;
+    Point point{value, 0, 0, {}};
     const std::string text = entryOf(value);
     bool isNumber = false;
+    bool isWritten = false;
     const std::string error = Try({{&field, text}}, command, [&] {
+      isWritten =
+          IsNumber(field.text(), mark) &&
+          std::abs(ParseNumber(field.text(), mark) - ParseNumber(text, mark)) > LastDigit(value);
       point.shown = ShownText(result);
       isNumber = IsNumber(point.shown, mark);
       if (!isNumber) return;
-      const double number = NumberOf(result);
-      isNumber = std::isfinite(number);
-      point.miss = number - sought.target;
+      point.number = NumberOf(result);
+      isNumber = std::isfinite(point.number);
+      point.miss = point.number - sought.target;
     });
     if (!error.empty()) Refuse("At " + text + ": " + error);
+    if (isWritten) {
+      Refuse('"' + NameOf(command) + "\" writes \"" + NameOf(field) +
+             "\" itself: no value of it can be sought.");
+    }
     if (!isNumber) Refuse('"' + NameOf(result) + "\" is no number at " + text + '.');
     return point;
   };
   const auto tell = [&](const Point& one, const Point& other) {
-    return '"' + NameOf(result) + "\" is " + textOf(one.miss + sought.target) + " at " +
-           entryOf(one.at) + " and " + textOf(other.miss + sought.target) + " at " +
-           entryOf(other.at) + ": ";
+    return '"' + NameOf(result) + "\" is " + textOf(one.number) + " at " + entryOf(one.at) +
+           " and " + textOf(other.number) + " at " + entryOf(other.at) + ": ";
   };
   double best = 0;
   {
@@ -312,6 +322,20 @@ std::string Seek(Field& field, const Sought& sought, Command& command, Control& 
         Refuse(tell(found, beside) + "no value between them gives " + textOf(sought.target) + '.');
       }
       best = found.at;
+      if (!isWhole && found.miss != 0) {
+        // Of the values that the field can show beside the end, the one that comes nearest.
+        const double perUnit = 1 / LastDigit(found.at);
+        double least = std::abs(found.miss);
+        for (const double by : {0.0, -1.0, 1.0}) {
+          const double at = (std::round(found.at * perUnit) + by) / perUnit;
+          if (at < sought.low || at > sought.high) continue;
+          const double miss = std::abs(resultAt(at).miss);
+          if (miss < least) {
+            least = miss;
+            best = at;
+          }
+        }
+      }
     }
   }
   const History::Step step(

@@ -199,6 +199,7 @@ std::vector<double> VaryScreen::ReadValues(const Entries& entries) {
 }
 
 Variation VaryScreen::ReadVariation() {
+  RequireSeenUnits();
   Variation variation;
   variation.field = &ChosenField();
   variation.command = &ChosenCommand();

@@ -78,7 +78,8 @@ void Form13::CompareWithLastRun() {
 
 void Form13::ShowRun(AccelerationChart chart, bool isCvt) {
   Inputs.KeepResult(chart.result);
-  lastRun_ = LastRun{chart.result, isCvt};
+  // A chart that only follows an entry leaves the run to compare with.
+  if (!context().current.isRunning()) lastRun_ = LastRun{chart.result, isCvt};
   ShowReport(std::move(chart.report), kAccelerationFontSize);
 }
 

@@ -69,7 +69,7 @@ std::string CompareRuns(const RunResult& last, const RunResult& now, DecimalMark
                 now.tractionLimitedFeet);
   report.EndLine();
   report.AddLines(
-      {"Last Run is the last chart of Acceleration or CVT; This Run has the present "
+      {"Last Run is the chart that was last clicked, Acceleration or CVT; This Run has the present "
        "values."});
   if (last.rest != RunRest::None || now.rest != RunRest::None) {
     report.AddLines({"Beyond the end of a run its times are as its chart tells them."});

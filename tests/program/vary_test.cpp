@@ -312,6 +312,24 @@ TEST_F(VaryTest, SeekTriesWholeNumbersWhereAFieldHoldsSuch) {
   EXPECT_EQ(Find("Form1.Text2").text(), "10");
 }
 
+TEST_F(VaryTest, SeekEndsWithTheValueThatGivesTheTargetWhereThereIsOne) {
+  Field& bore = Find("Form1.Text1");
+  // 4 x pi / 4 x 4^2 x 3.25 x 2, and of a bore of 3.97
+  for (const auto& [target, expected] : {std::pair{326.7256, "4.0"}, std::pair{321.8431, "3.97"}}) {
+    EXPECT_EQ(Seek(bore, {2, 6, target}, Find<Command>("Form1.Command1"), Find("Form1.Text6")),
+              expected);
+  }
+}
+
+TEST_F(VaryTest, SeekRefusesACommandThatWritesTheFieldItself) {
+  try {
+    Seek(Find("Form1.Text1"), {2, 6, 400}, Find<Command>("Form1.Command2"), Find("Form1.Text6"));
+    ADD_FAILURE() << "the command works out the bore";
+  } catch (const CommandError& error) {
+    EXPECT_EQ(error.message(), "\"Bore\" writes \"Bore\" itself: no value of it can be sought.");
+  }
+}
+
 TEST_F(VaryTest, ATinyStepComesToTheEndOfItsRange) {
   EXPECT_EQ((ValueRange{5227, 5227.0021, 0.0001}).Count(), 22U);
   EXPECT_EQ((ValueRange{0, 1, 0.1}).Count(), 11U);

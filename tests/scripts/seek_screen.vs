@@ -67,3 +67,10 @@ click Seek.Find_Value
 get Seek.Found
 value Bore
 messages
+
+# Nothing is sought by a target that the user has not seen
+uncheck Form1.Check1
+click Seek.Find_Value
+messages
+get Seek.Target
+get Form1.Text1
