@@ -235,13 +235,20 @@ TEST(ValuesOfScreens, AreKeptUnlessTheyTellWhereTheUserIs) {
   EXPECT_GT(kept, 15);
 }
 
-INSTANTIATE_TEST_SUITE_P(OfAllCommands, DryRuns,
-                         testing::Values(Start{"Defaults", "", false},
-                                         Start{"DefaultsInMetric", "", true},
-                                         Start{"SmallBlock", "small_block_drag.prm", false},
-                                         Start{"Motorcycle", "motorcycle.prm", false},
-                                         Start{"RoadRaceFour", "road_race_four.prm", false},
-                                         Start{"RoadRaceFourInMetric", "road_race_four.prm", true}),
+#ifdef __SANITIZE_ADDRESS__
+// Every command is clicked four times from each start, which takes half a minute here: the values
+// are those of the build without sanitizers, which takes all starts.
+const auto kStarts = testing::Values(Start{"Defaults", "", false},
+                                     Start{"RoadRaceFourInMetric", "road_race_four.prm", true});
+#else
+const auto kStarts =
+    testing::Values(Start{"Defaults", "", false}, Start{"DefaultsInMetric", "", true},
+                    Start{"SmallBlock", "small_block_drag.prm", false},
+                    Start{"Motorcycle", "motorcycle.prm", false},
+                    Start{"RoadRaceFour", "road_race_four.prm", false},
+                    Start{"RoadRaceFourInMetric", "road_race_four.prm", true});
+#endif
+INSTANTIATE_TEST_SUITE_P(OfAllCommands, DryRuns, kStarts,
                          [](const auto& each) { return each.param.name; });
 
 }  // namespace
