@@ -92,7 +92,7 @@ TEST_F(KeepCurrentWindowTest, TheTabKeyComesToTheSwitchLast) {
   PressKey(Switch(), Qt::Key_Space, QStringLiteral(" "));
   EXPECT_TRUE(Switch().isChecked());
   EXPECT_EQ(Line().text(),
-            QStringLiteral("The next command that is clicked will be kept up to date."));
+            QStringLiteral("Click the command whose results are to be kept up to date."));
 }
 
 TEST_F(KeepCurrentWindowTest, AReportThatIsMadeAnewStaysScrolled) {
