@@ -1,6 +1,7 @@
 #include "vehicle/acceleration_report.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -251,6 +252,24 @@ AccelerationChart ChartCvtRun(const AccelerationInputs& inputs, DecimalMark mark
   chart.result = SimulateCvtRun(inputs, sink);
   chart.report = sink.Finish(chart.result);
   return chart;
+}
+
+std::string SummaryOf(const RunResult& result, DecimalMark mark) {
+  if (result.end == RunEnd::NoThrust) return {};
+  std::string line;
+  const auto add = [&](const char* name, StripMark at, std::optional<double> mph = std::nullopt) {
+    if (!result.at(at).reached()) return;
+    if (!line.empty()) line += ",  ";
+    line += name + FormatValue<"0.0000">(result.at(at).time, mark);
+    if (mph) line += " @ " + FormatValue<"0.00">(*mph, mark) + " MPH";
+  };
+  add("60 Foot ", StripMark::Feet60);
+  add("330 Foot ", StripMark::Feet330);
+  add("1/8 Mile ", StripMark::Feet660, result.EighthMileMph());
+  add("1000 Foot ", StripMark::Feet1000);
+  add("1/4 Mile ", StripMark::Feet1320, result.QuarterMileMph());
+  if (!line.empty()) line += ",  ";
+  return line + "Top Speed " + FormatValue<"0.00">(result.topSpeed, mark) + " MPH";
 }
 
 }  // namespace veldox

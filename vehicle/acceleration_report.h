@@ -23,6 +23,10 @@ struct AccelerationChart {
 AccelerationChart ChartRun(const AccelerationInputs& inputs, bool showsRate, DecimalMark mark,
                            const RunListener& listener = {});
 
+/// What a run came to, in a line: times at the distances that count, speeds at the eighth and the
+/// quarter mile, and the top speed. What it has not reached is left out.
+std::string SummaryOf(const RunResult& result, DecimalMark mark);
+
 /// The same of a car with a CVT.
 AccelerationChart ChartCvtRun(const AccelerationInputs& inputs, DecimalMark mark,
                               const RunListener& listener = {});

@@ -81,6 +81,8 @@ void Form13::ShowRun(AccelerationChart chart, bool isCvt) {
   // A chart that only follows an entry leaves the run to compare with.
   if (!context().current.isRunning()) lastRun_ = LastRun{chart.result, isCvt};
   ShowReport(std::move(chart.report), kAccelerationFontSize);
+  // The chart is long, and what it comes to stands at its end.
+  ShowHelp(SummaryOf(chart.result, mark()));
 }
 
 }  // namespace veldox

@@ -66,6 +66,22 @@ TEST(AccelerationReport, BeginsWithTheHeadOfTheChart) {
   EXPECT_EQ(lines[6], "");
 }
 
+TEST(RunSummary, TellsWhatWasReached) {
+  RunResult run;
+  const auto at = [&](StripMark mark) -> RunMark& {
+    return run.strip[static_cast<std::size_t>(mark)];
+  };
+  at(StripMark::Feet60) = {1.35321, 50};
+  at(StripMark::Feet600) = {5.5, 116};
+  at(StripMark::Feet660) = {5.88684, 118};
+  run.topSpeed = 157.849;
+  // The speed at the eighth is the mean over the trap.
+  EXPECT_EQ(SummaryOf(run, DecimalMark::Point),
+            "60 Foot 1.3532,  1/8 Mile 5.8868 @ 117.00 MPH,  Top Speed 157.85 MPH");
+  run.end = RunEnd::NoThrust;
+  EXPECT_EQ(SummaryOf(run, DecimalMark::Point), "");
+}
+
 TEST(AccelerationReport, OptionsHaveTheirColumns) {
   SampleCar car = test::StartCar();
   car.inputs.nitrous = car.inputs.hoodScoop = true;
