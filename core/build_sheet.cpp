@@ -104,10 +104,7 @@ class SheetWriter {
     for (const Control* control : frame.controls()) {
       if (control->whole() != nullptr || !control->visible()) continue;
       // What stands a second time is told where it belongs.
-      if (dynamic_cast<const FieldCopy*>(control) != nullptr ||
-          dynamic_cast<const FieldTwin*>(control) != nullptr) {
-        continue;
-      }
+      if (IsShownTwice(*control)) continue;
       Collect(*control, entries, tables, texts);
     }
     if (entries.empty() && tables.empty() && texts.empty()) return;

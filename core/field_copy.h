@@ -60,4 +60,10 @@ const Control* ValueOf(const Control* control);
 /// Where the user comes to a control: itself, or the twin of a field that lies under a panel.
 Control& WithinReach(Control& control);
 
+/// True for what shows a field a second time: it is told where the field itself stands.
+inline bool IsShownTwice(const Control& control) {
+  return dynamic_cast<const FieldCopy*>(&control) != nullptr ||
+         dynamic_cast<const FieldTwin*>(&control) != nullptr;
+}
+
 }  // namespace veldox

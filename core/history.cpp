@@ -20,11 +20,6 @@ constexpr std::size_t kMostTold = 40;
 /// More than a screen has.
 constexpr std::size_t kMostControls = 1'000'000;
 
-bool IsShownTwice(const Control& control) {
-  return dynamic_cast<const FieldCopy*>(&control) != nullptr ||
-         dynamic_cast<const FieldTwin*>(&control) != nullptr;
-}
-
 std::string Told(const std::string& text) {
   if (text.find_first_not_of(' ') == std::string::npos) return "blank";
   const auto end = text.find_first_of("\r\n");

@@ -19,11 +19,6 @@ namespace {
 /// What finding out by trying may take in all.
 constexpr std::chrono::seconds kLongestGuess(1);
 
-bool IsShownTwice(const Control& control) {
-  return dynamic_cast<const FieldCopy*>(&control) != nullptr ||
-         dynamic_cast<const FieldTwin*>(&control) != nullptr;
-}
-
 /// The nearest frame around a control that has a caption.
 std::string FrameNameOf(const Control& control) {
   for (const Frame* frame = control.frame(); frame != nullptr; frame = frame->frame()) {

@@ -140,8 +140,7 @@ class ScreenPages {
     fields += "| " + Plain(label) + " | " + Plain(Units(field)) + " | " + EntryWords(field.rule()) +
               " | " + Plain(field.text()) + " |\n";
     // Of a field that is shown again the first place tells what it is.
-    const bool isTwin = dynamic_cast<const FieldTwin*>(&field) != nullptr;
-    if (!field.help().empty() && !isTwin)
+    if (!field.help().empty() && !IsShownTwice(field))
       others += "- **" + Plain(label) + "**" + Help(field) + "\n";
   }
 
